@@ -1,0 +1,39 @@
+// A batch run: a data file in, its result file and the correction detail out.
+#pragma once
+
+#include <string>
+
+#include "common/disk.h"
+#include "common/ports.h"
+#include "correction/run_report.h"
+
+namespace kelvo {
+
+// Where a run finds and leaves its files.
+struct RunPlaces {
+    std::string dataFile;  // the result file stands beside it, with the ending .out
+    std::string detPath;   // kelvo.det
+    std::string CorPath;   // kelvo.cor
+};
+
+// What a run asks of the screen; a shell has none.
+class RunView {
+public:
+    virtual ~RunView() = default;
+    virtual void runBegins() {}            // the one-point panel goes out of the way
+    virtual void showResult() {}           // the result file comes into the viewer
+};
+
+// The name of the result file of a data file.
+[[nodiscard]] std::string resultFileOf(const std::string& dataFile);
+
+// Runs the data file. Every fault of files and arithmetic ends it, reports standing as far as
+// they were written, except a failure to show the result, which is told in a message.
+void RunBatch(ConversionState& state, const RunPlaces& places, RunView& view, Disk& disk,
+              MessageBoxes& messages);
+
+// Writes the sample data file, which is the manual of the data-file language, replacing any
+// file of that name.
+void WriteSampleData(Disk& disk, const std::string& path);
+
+}  // namespace kelvo

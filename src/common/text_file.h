@@ -1,0 +1,82 @@
+// Sequential text files in the Korean code page (CP949).
+//
+// Reading takes CR LF, LF and CR as line ends; writing writes CR LF. All texts handed in and out
+// are UTF-8. A file is at its end when no byte follows the line end consumed last.
+#pragma once
+
+#include <array>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "common/disk.h"
+
+namespace kelvo {
+
+// The longest line, or item of a line, that is read, in bytes; a longer one is fault 6.
+inline constexpr std::size_t kLongestLine = 16U << 20U;
+
+class TextReader {
+public:
+    // Faults as Disk::openForReading.
+    TextReader(Disk& disk, const std::string& path);
+
+    [[nodiscard]] bool atEnd();
+
+    // Reads one line without its line end. Fault 62 at the end of the file.
+    void readLine(std::string& line);
+
+    // Reads one text item: leading blanks go; it ends at a comma or a line end, which goes with
+    // it. An item in double quotes is read without them. Fault 62 at the end of the file.
+    void readTextItem(std::string& item);
+
+    // Reads one number: items are parted by blanks, commas or line ends. A text that is no
+    // number is fault 13, a number beyond the type fault 6, the end of the file fault 62.
+    [[nodiscard]] double readNumber();
+
+    // Number of lines ended so far.
+    [[nodiscard]] long linesRead() const { return linesRead_; }
+
+private:
+    bool fill();
+    [[nodiscard]] int peek();
+    void skipLineEnd();
+    void checkLength(std::size_t length) const;
+
+    std::unique_ptr<ByteReader> file_;
+    std::array<char, 16384> buffer_;
+    std::size_t next_ = 0;
+    std::size_t end_ = 0;
+    bool exhausted_ = false;
+    long linesRead_ = 0;
+    std::string raw_;
+};
+
+enum class WriteMode { Replace, Append };
+
+class TextWriter {
+public:
+    // Opens at once. Faults as Disk::openForWriting and openForAppending.
+    TextWriter(Disk& disk, const std::string& path, WriteMode mode = WriteMode::Replace);
+    TextWriter(const TextWriter&) = delete;
+    TextWriter& operator=(const TextWriter&) = delete;
+    // What was written stands in the file, also when the writer goes in the course of a fault.
+    ~TextWriter();
+
+    // Writes the text and a line end. A failed write is a fault, at the latest in close().
+    void line(std::string_view text);
+
+    void close();
+
+private:
+    void flush();
+
+    std::unique_ptr<ByteWriter> file_;
+    std::string buffer_;
+};
+
+// The whole text of a file, line ends made CR LF (see the viewer), and a text made into bytes.
+[[nodiscard]] std::string readWholeText(Disk& disk, const std::string& path);
+void replaceWholeText(Disk& disk, const std::string& path, std::string_view text);
+
+}  // namespace kelvo

@@ -1,0 +1,77 @@
+// KelvoSub: the transverse Mercator series, forward and inverse.
+//
+// Method: the closed series in powers of the longitude difference, to the eighth power in the
+// northing and the seventh in the easting, on the meridian arc in the third flattening n (P. D.
+// Thomas, Conformal Projections in Geodesy and Cartography, 1952; the meridian arc after
+// Helmert). Within 3 degrees of the central meridian it agrees with the exact projection to
+// better than 0.1 mm. Computed in the order of terms told, since printed digits depend on it.
+//
+// Angles are decimal degrees, north and east positive; grid X is the northing and comes first,
+// Y the easting; lengths are metres. No range is checked: any finite position gives numbers.
+#pragma once
+
+#include <cstdint>
+
+#include "common/ports.h"
+#include "geodesy/ellipsoid.h"
+
+namespace kelvo {
+
+// Origin and scale of a transverse Mercator grid.
+struct Projection {
+    double X0 = 0;    // false northing, metres
+    double Y0 = 0;    // false easting, metres
+    double Phi0 = 0;  // latitude of the origin, degrees
+    double Lam0 = 0;  // central meridian, degrees
+    double S0 = 0;    // scale factor on the central meridian
+};
+
+struct GridPoint {
+    double X = 0;  // northing, metres
+    double Y = 0;  // easting, metres
+};
+
+struct Position {
+    double Phi = 0;  // latitude, decimal degrees
+    double Lam = 0;  // longitude, decimal degrees
+};
+
+// The seconds of arc by which the longitude of the Korean TM origins is raised: the difference
+// between the longitude of the old origin point and its later determination.
+inline constexpr double kOriginShiftSeconds = 10.405;
+
+namespace KelvoSub {
+
+// Meridian arc from the equator, A phi - B sin 2phi + C sin 4phi - D sin 6phi + E sin 8phi;
+// phi in radians, coefficients and result in metres.
+[[nodiscard]] double MeridianArc(double A, double B, double C, double D, double E, double phi);
+
+// Position to grid. Data that can't be computed (a zero axis or flattening, an overflow) shows
+// a message and gives X0, Y0.
+[[nodiscard]] GridPoint GeoToTM(double Phi, double Lam, const Ellipsoid& ellipsoid,
+                                const Projection& projection, MessageBoxes& messages);
+
+// Grid to position. Exactly five passes for the foot-point latitude. Data that can't be computed
+// (a zero scale, say) shows a message and gives Phi0, Lam0.
+[[nodiscard]] Position TMToGeo(double X, double Y, const Ellipsoid& ellipsoid,
+                               const Projection& projection, MessageBoxes& messages);
+
+// The national grid on Bessel. A zone below 1 is chosen by the longitude (126 and 128 belong to
+// zone 2) and written back; a zone above has no upper limit. The shift is in seconds of arc.
+[[nodiscard]] GridPoint BesselToTM(double Phi, double Lam, int& zone, double shiftSeconds,
+                                   MessageBoxes& messages);
+
+// The way back. The zone is limited to 1..3 and written back, unlike BesselToTM (required).
+[[nodiscard]] Position TMToBessel(double X, double Y, int& zone, double shiftSeconds,
+                                  MessageBoxes& messages);
+
+// Sets the TM origin by the longitude in degrees, unless Zone is 5 or greater: below 126 zone 1
+// (125), up to 128 zone 2 (127), up to 130 zone 3 (129), above zone 4 (131).
+void chkZone(double lam, std::int16_t& Zone, double& Lam0);
+
+// Sets the UTM origin by the longitude, unless UZone is 4 or greater, so also over a user origin
+// (required): below 126 zone 1 (123), otherwise zone 2 (129).
+void chkUZone(double lam, std::int16_t& UZone, double& ULam0);
+
+}  // namespace KelvoSub
+}  // namespace kelvo
