@@ -1,0 +1,53 @@
+// The picture of a run: its points on a square grid, on the screen or on paper.
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "common/point_table.h"
+#include "common/ports.h"
+#include "plot/plot_cfg.h"
+
+namespace kelvo {
+
+class clsplot1;
+class Surface;
+
+// What a plot asks of the scale panel: the four boxes show an automatic scale, and saving reads
+// them back into the settings (with the rounding of their text).
+class ScalePanel {
+public:
+    virtual ~ScalePanel() = default;
+    // Texts in the order txtXb, txtYb, txtSpan, txtInter.
+    virtual void showScale(const std::array<std::string, 4>& texts) = 0;
+    virtual void SavePcfgFile() = 0;
+};
+
+// What stands in the picture beside the points.
+struct PlotTexts {
+    std::string dataFile;  // RecentFiles(1)
+    std::string date;
+    std::string time;
+};
+
+struct PlotSource {
+    const PointTable& points;
+    PlotCfg& cfg;
+    ScalePanel& panel;
+    const PlotTexts& texts;
+    MessageBoxes& messages;
+};
+
+// Binds the plot object to the surface (kind 2 the screen, 1 the printer: 15 mm from the left,
+// 40 mm from the top, 1.3 times as large) and draws the plot that cfg.PlotKind names.
+void plot(clsplot1& object, int kind, Surface& surface, PlotSource& source);
+
+// WGS84 latitude and longitude, user latitude and longitude, TM grid. With the automatic scale
+// the square is laid around the points first. No points, or a scale that can't be drawn
+// (interval or span not above 0, more than 2,000 grid lines a side): no grid, no points that
+// can't be placed; title and footer stand all the same.
+void plotWGS(clsplot1& object, PlotSource& source);
+void plotUGS(clsplot1& object, PlotSource& source);
+void plotXY(clsplot1& object, PlotSource& source);
+
+}  // namespace kelvo
