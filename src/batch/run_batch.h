@@ -20,8 +20,8 @@ struct RunPlaces {
 class RunView {
 public:
     virtual ~RunView() = default;
-    virtual void runBegins() {}            // the one-point panel goes out of the way
-    virtual void showResult() {}           // the result file comes into the viewer
+    virtual void runBegins() {}   // the one-point panel goes out of the way
+    virtual void showResult() {}  // the result file comes into the viewer
 };
 
 // The name of the result file of a data file.

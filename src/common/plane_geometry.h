@@ -34,8 +34,8 @@ struct PlanePoint {
 
 // Distance and direction from the foot of the perpendicular to the point (x, y). An upright
 // line counts with slope 1E15 and offset 0 as its formulas stand (required).
-[[nodiscard]] DirectionDistance DistanceToLine(double x1, double y1, double x2, double y2,
-                                               double x, double y);
+[[nodiscard]] DirectionDistance DistanceToLine(double x1, double y1, double x2, double y2, double x,
+                                               double y);
 
 [[nodiscard]] PlanePoint PolarPoint(double x, double y, double direction, double distance);
 

@@ -26,7 +26,11 @@ public:
     virtual Answer show(const Message& message) = 0;
 
     // A box with a text and one OK button, no icon, no title.
-    void tell(std::string_view text) { show(Message{.text = std::string(text)}); }
+    void tell(std::string_view text) {
+        Message message;
+        message.text = text;
+        show(message);
+    }
 };
 
 class ProgramStarter {

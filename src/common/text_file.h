@@ -30,8 +30,9 @@ public:
     // it. An item in double quotes is read without them. Fault 62 at the end of the file.
     void readTextItem(std::string& item);
 
-    // Reads one number: items are parted by blanks, commas or line ends. A text that is no
-    // number is fault 13, a number beyond the type fault 6, the end of the file fault 62.
+    // Reads one number: any run of blanks, commas and line ends parts it from the one before. A
+    // text that is no number is fault 13, a number beyond the type fault 6, the end of the file
+    // fault 62.
     [[nodiscard]] double readNumber();
 
     // Number of lines ended so far.
@@ -75,7 +76,7 @@ private:
     std::string buffer_;
 };
 
-// The whole text of a file, line ends made CR LF (see the viewer), and a text made into bytes.
+// The whole text of a file with every line end made CR LF, and a text put in place of a file.
 [[nodiscard]] std::string readWholeText(Disk& disk, const std::string& path);
 void replaceWholeText(Disk& disk, const std::string& path, std::string_view text);
 

@@ -51,7 +51,7 @@ public:
 
     virtual void setFont(const std::string& face) = 0;  // keeps size and boldness
     [[nodiscard]] virtual std::string FontName() const = 0;
-    [[nodiscard]] virtual int FontWeight() const = 0;  // 400, 700 when bold
+    [[nodiscard]] virtual int FontWeight() const = 0;   // 400, 700 when bold
     [[nodiscard]] virtual double fontsize() const = 0;  // points
     virtual void setFontsize(double points) = 0;
     virtual void setFontBold(bool on) = 0;
@@ -64,9 +64,9 @@ public:
     virtual void setCurrentY(double y) = 0;
     virtual void print(std::string_view text) = 0;
 
-    virtual void Cls() = 0;      // screen
-    virtual void EndDoc() = 0;   // printer: finish the print job
-    virtual void NewPage() = 0;  // printer: start a new sheet
+    virtual void Cls() = 0;                            // screen
+    virtual void EndDoc() = 0;                         // printer: finish the print job
+    virtual void NewPage() = 0;                        // printer: start a new sheet
     virtual void setOrientation(int orientation) = 0;  // printer: 1 portrait, 2 landscape
     [[nodiscard]] virtual double TwipsPerPixelX() const = 0;
     [[nodiscard]] virtual double TwipsPerPixelY() const = 0;

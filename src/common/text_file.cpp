@@ -1,0 +1,179 @@
+#include "common/text_file.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "common/code_page.h"
+#include "common/number_text.h"
+#include "common/run_time_fault.h"
+
+namespace kelvo {
+
+namespace {
+
+constexpr std::size_t kWriteBuffer = 32768;
+constexpr int kEndOfFile = -1;
+
+}  // namespace
+
+TextReader::TextReader(Disk& disk, const std::string& path) : file_(disk.openForReading(path)) {}
+
+bool TextReader::fill() {
+    if (next_ < end_) return true;
+    if (exhausted_) return false;
+    next_ = 0;
+    end_ = file_->read(buffer_);
+    exhausted_ = end_ == 0;
+    return end_ > 0;
+}
+
+int TextReader::peek() {
+    return fill() ? static_cast<unsigned char>(buffer_[next_]) : kEndOfFile;
+}
+
+bool TextReader::atEnd() {
+    return !fill();
+}
+
+void TextReader::checkLength(std::size_t length) const {
+    if (length > kLongestLine)
+        raise(Fault::Overflow, std::to_string(linesRead_ + 1) + "번째 줄이 너무 깁니다");
+}
+
+// Steps over one line end, which stands at the front; over nothing at the end of the file.
+void TextReader::skipLineEnd() {
+    const int first = peek();
+    if (first == kEndOfFile) return;
+    ++next_;
+    ++linesRead_;
+    if (first == '\r' && peek() == '\n') ++next_;
+}
+
+void TextReader::readLine(std::string& line) {
+    if (atEnd()) raise(Fault::InputPastEnd);
+    raw_.clear();
+    while (fill()) {
+        const char* const first = buffer_.data() + next_;
+        const char* const last = buffer_.data() + end_;
+        const char* const lineEnd =
+            std::find_if(first, last, [](char c) { return c == '\r' || c == '\n'; });
+        raw_.append(first, lineEnd);
+        checkLength(raw_.size());
+        next_ += static_cast<std::size_t>(lineEnd - first);
+        if (lineEnd != last) break;
+    }
+    skipLineEnd();
+    line.clear();
+    decodeCodePage(raw_, line);
+}
+
+void TextReader::readTextItem(std::string& item) {
+    if (atEnd()) raise(Fault::InputPastEnd);
+    while (peek() == ' ') ++next_;
+    raw_.clear();
+    const bool quoted = peek() == '"';
+    if (quoted) {
+        ++next_;
+        while (peek() != '"' && peek() != kEndOfFile) {
+            raw_.push_back(buffer_[next_++]);
+            checkLength(raw_.size());
+        }
+        if (peek() == '"') ++next_;
+    }
+    while (peek() != ',' && peek() != '\r' && peek() != '\n' && peek() != kEndOfFile) {
+        // Behind the closing quote only the end of the item is looked for.
+        if (!quoted) raw_.push_back(buffer_[next_]);
+        ++next_;
+        checkLength(raw_.size());
+    }
+    if (peek() == ',')
+        ++next_;
+    else
+        skipLineEnd();
+    item.clear();
+    decodeCodePage(raw_, item);
+}
+
+double TextReader::readNumber() {
+    const auto isBlank = [](int c) { return c == ' ' || c == '\t'; };
+    const auto isLineEnd = [](int c) { return c == '\r' || c == '\n'; };
+    for (int c = peek(); isBlank(c) || isLineEnd(c) || c == ','; c = peek()) {
+        if (isLineEnd(c))
+            skipLineEnd();
+        else
+            ++next_;
+    }
+    if (atEnd()) raise(Fault::InputPastEnd);
+    raw_.clear();
+    for (int c = peek(); c != kEndOfFile && !isBlank(c) && !isLineEnd(c) && c != ','; c = peek()) {
+        raw_.push_back(buffer_[next_++]);
+        checkLength(raw_.size());
+    }
+    // What parts it from the next item goes with it, so that a line read next is the next line.
+    while (isBlank(peek())) ++next_;
+    if (peek() == ',')
+        ++next_;
+    else if (isLineEnd(peek()))
+        skipLineEnd();
+    return strictNumber(raw_);
+}
+
+TextWriter::TextWriter(Disk& disk, const std::string& path, WriteMode mode)
+    : file_(mode == WriteMode::Append ? disk.openForAppending(path) : disk.openForWriting(path)) {
+    buffer_.reserve(kWriteBuffer + 1024);
+}
+
+TextWriter::~TextWriter() {
+    try {
+        if (file_) close();
+    } catch (const RuntimeFault&) {
+        // Another fault is on its way; a late failure of this file adds nothing to it.
+        file_.reset();
+    }
+}
+
+void TextWriter::line(std::string_view text) {
+    encodeCodePage(text, buffer_);
+    buffer_ += "\r\n";
+    if (buffer_.size() >= kWriteBuffer) flush();
+}
+
+void TextWriter::flush() {
+    if (buffer_.empty()) return;
+    const std::string bytes = std::exchange(buffer_, {});
+    buffer_.reserve(kWriteBuffer + 1024);
+    file_->write(bytes);
+}
+
+void TextWriter::close() {
+    if (!file_) return;
+    const std::unique_ptr<ByteWriter> file = std::exchange(file_, nullptr);
+    if (!buffer_.empty()) file->write(std::exchange(buffer_, {}));
+    file->close();
+}
+
+std::string readWholeText(Disk& disk, const std::string& path) {
+    const auto file = disk.openForReading(path);
+    std::string bytes;
+    std::array<char, 65536> buffer{};
+    while (const std::size_t count = file->read(buffer)) bytes.append(buffer.data(), count);
+
+    std::string text;
+    text.reserve(bytes.size() + bytes.size() / 2);
+    std::string_view rest = bytes;
+    while (!rest.empty()) {
+        const std::size_t lineEnd = rest.find_first_of("\r\n");
+        decodeCodePage(rest.substr(0, lineEnd), text);
+        if (lineEnd == std::string_view::npos) break;
+        text += "\r\n";
+        const bool pair = rest.substr(lineEnd, 2) == "\r\n";
+        rest.remove_prefix(lineEnd + (pair ? 2 : 1));
+    }
+    return text;
+}
+
+void replaceWholeText(Disk& disk, const std::string& path, std::string_view text) {
+    disk.replace(path, encodeCodePage(text));
+}
+
+}  // namespace kelvo
