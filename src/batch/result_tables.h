@@ -1,0 +1,17 @@
+// The five result tables of a run.
+#pragma once
+
+#include "common/point_table.h"
+#include "common/ports.h"
+#include "common/text_file.h"
+#include "common/trans_para.h"
+
+namespace kelvo {
+
+// Writes the tables of rows 1 to PointCount: WGS84, user ellipsoid, TM, UTM, and UTM on WGS84.
+// The fifth computes its grid as it goes, on the UTM origin by the WGS longitude, which it leaves
+// in `para`; its height column is that of the TM table (required).
+void PrintResultTables(PointTable& points, TextWriter& out, int AngleOut, TransPara& para,
+                       MessageBoxes& messages);
+
+}  // namespace kelvo

@@ -1,0 +1,79 @@
+#include <cmath>
+
+#include "common/checked_arithmetic.h"
+#include "common/fixed_width.h"
+#include "common/run_time_fault.h"
+#include "correction/run_report.h"
+#include "geodesy/angle_forms.h"
+
+namespace kelvo {
+
+namespace {
+
+// Latitude counts more than longitude in the distance; not derived from the place.
+constexpr double kLatitudeStretch = 1.2;
+// The squared distance of a run point that lies on a known point, square degrees.
+constexpr double kSmallestDistance2 = 1e-8;
+
+float weightOf(const CorrPoint& known, double Phi, double Lam, std::string_view pointName) {
+    const double d1 = known.WgsPhi - Phi;
+    const double d2 = known.WgsLam - Lam;
+    double Q = d1 * d1 * kLatitudeStretch + d2 * d2;
+    if (Q == 0) Q = kSmallestDistance2;
+    try {
+        const auto weight = static_cast<double>(known.Weight);
+        return toSingle(quotient(weight, Q * Q));
+    } catch (const RuntimeFault&) {
+        raise(Fault::Overflow, "점 " + std::string(pointName) + "이(가) 보정점 " + known.Name +
+                                   "에 너무 가까워 가중치를 계산할 수 없습니다");
+    }
+}
+
+Correction weightedMean(CorrPointTable& table, double Phi, double Lam, std::string_view pointName) {
+    double SumPhi = 0;
+    double SumLam = 0;
+    double SumH = 0;
+    double SumW = 0;
+    double SumWH = 0;
+    for (int i = 1; i <= table.CorrCount; ++i) {
+        CorrPoint& known = table.CorrPoints[static_cast<std::size_t>(i)];
+        known.W = weightOf(known, Phi, Lam, pointName);
+        const auto w = static_cast<double>(known.W);
+        SumPhi += w * known.DPhi;
+        SumLam += w * known.DLam;
+        SumW += w;
+        if (known.DH != 0) {
+            SumH += w * known.DH;
+            SumWH += w;
+        }
+    }
+    return {.DPhi = quotient(SumPhi, SumW),
+            .DLam = quotient(SumLam, SumW),
+            .DH = quotient(SumH, SumWH)};
+}
+
+}  // namespace
+
+Correction findCorr(ConversionState& state, TextWriter& det, double Phi, double Lam, int AngleOut,
+                    int Row, int CorrFlag, MessageBoxes& messages) {
+    if (CorrFlag == 0) return {};
+    const std::string& name = state.points.row(Row).name;
+    const Correction mean = weightedMean(state.known, Phi, Lam, name);
+
+    const KelvoSub::ArcSecLengths second = KelvoSub::ArcSecLen(Phi, Lam, messages);
+    const double east = second.MLam * mean.DLam * 3600;
+    const double north = second.MPhi * mean.DPhi * 3600;
+    const double L = squareRoot(east * east + north * north);
+
+    std::string line = genSub::FormatText(name, 10, 0);
+    line += "             ";
+    KelvoSub::appendAngleText(line, mean.DPhi, AngleOut, messages);
+    KelvoSub::appendAngleText(line, mean.DLam, AngleOut, messages);
+    genSub::appendFormatNum(line, mean.DH, 8, 4);
+    line += "    L =";
+    genSub::appendFormatNum(line, L, 3, 5);
+    det.line(line);
+    return mean;
+}
+
+}  // namespace kelvo

@@ -1,0 +1,148 @@
+#include "geodesy/angle_forms.h"
+
+#include <cmath>
+
+#include "common/checked_arithmetic.h"
+#include "common/fixed_width.h"
+#include "common/number_text.h"
+#include "common/text_constants.h"
+#include "geodesy/transverse_mercator.h"
+
+namespace kelvo::KelvoSub {
+
+namespace {
+
+constexpr std::string_view kDeveloperLine = "Program 개발자에게 알려 주시기 바랍니다.";
+
+int signOf(double x) {
+    return x > 0 ? 1 : x < 0 ? -1 : 0;
+}
+
+double rebuilt(const DegreesMinutesSeconds& parts) {
+    return (parts.M / 60.0 + parts.D) + parts.S / 3600;
+}
+
+// A number as it is joined into a sentence: a positive one has a blank in its sign place.
+std::string joinedNumber(double value) {
+    return (value < 0 ? "" : " ") + generalText(value);
+}
+
+// Splits at the point of a positional text: [from, from + count) as a number.
+double digitsAt(const std::string& text, std::size_t from, std::size_t count) {
+    return leadingNumber(std::string_view(text).substr(from, count));
+}
+
+double distance(double X1, double Y1, double X2, double Y2) {
+    const double dX = X2 - X1;
+    const double dY = Y2 - Y1;
+    return squareRoot(dY * dY + dX * dX);
+}
+
+}  // namespace
+
+DegreesMinutesSeconds SplitDeg(double x, MessageBoxes& messages) {
+    DegreesMinutesSeconds r;
+    r.D = toInteger16(std::floor(x));
+    r.M = toInteger16(std::floor((x - r.D) * 60));
+    r.S = ((x - r.D) - r.M / 60.0) * 3600;
+    if (r.S < 0) {
+        r.M = toInteger16(r.M - 1);
+        r.S = r.S + 60;
+    }
+    if (r.M < 0) {
+        r.D = toInteger16(r.D - 1);
+        r.M = toInteger16(r.M + 60);
+    }
+    if (r.S > 59.99999) {
+        r.S = 0;
+        r.M = toInteger16(r.M + 1);
+    }
+    if (r.M >= 60) {
+        r.M = 0;
+        r.D = toInteger16(r.D + 1);
+    }
+    if (std::abs(x - rebuilt(r)) > 1e-08)
+        messages.tell("각도 " + genSub::FormatNum(x, 4, 10) + "을 도분초" + joinedNumber(r.D) +
+                      "-" + joinedNumber(r.M) + "-" + joinedNumber(r.S) +
+                      " 로 환산할때 에러가 있습니다." + std::string(kLineEnd) +
+                      std::string(kDeveloperLine));
+    return r;
+}
+
+double ParseDms(double x, MessageBoxes& messages) {
+    const std::string t = genSub::FormatNum(x, 4, 10);
+    const double D = toInteger16(digitsAt(t, 0, 4));
+    const double M = toInteger16(digitsAt(t, 5, 2));
+    const double S = digitsAt(t, 7, 8) / 1000000;
+    const double result = (M / 60 + D) + S / 3600;
+    if (std::abs(result - rebuilt(SplitDeg(result, messages))) > 1e-09)
+        messages.tell(t + "도분초" + "를  각도 " + genSub::FormatNum(result, 4, 10) +
+                      " 로 환산할때 에러가 있습니다." + std::string(kLineEnd) +
+                      std::string(kDeveloperLine));
+    return result;
+}
+
+double DmsToDeg(double x, MessageBoxes& messages) {
+    return ParseDms(std::abs(x), messages) * signOf(x);
+}
+
+double DegToDms(double x, MessageBoxes& messages) {
+    const DegreesMinutesSeconds parts = SplitDeg(std::abs(x), messages);
+    return (parts.M / 100.0 + parts.D + parts.S / 10000) * signOf(x);
+}
+
+DegreesMinutesSeconds DegToDmsParts(double x, MessageBoxes& messages) {
+    DegreesMinutesSeconds parts = SplitDeg(x, messages);
+    parts.D = toInteger16(parts.D * signOf(x));
+    return parts;
+}
+
+void appendAngleText(std::string& line, double x, int form, MessageBoxes& messages) {
+    const DegreesMinutesSeconds parts = SplitDeg(std::abs(x), messages);
+    if (form == kAngleDegrees) {
+        genSub::appendFormatNum(line, x, 8, 10);
+        return;
+    }
+    if (form == kAngleDms) {
+        genSub::appendFormatNum(line, DegToDms(x, messages), 8, 10);
+        return;
+    }
+    if (form != kAngleBlanks && form != kAngleHyphens) return;
+
+    const char between = form == kAngleBlanks ? ' ' : '-';
+    const std::string degrees = (x < 0 ? "-" : "") + std::to_string(parts.D);
+    line.append(8 - std::min<std::size_t>(degrees.size(), 8), ' ');
+    line += degrees;
+    // Minutes and seconds have two places, the first one a digit and never a blank.
+    const auto appendPlaces = [&line, between](double value, int decimals) {
+        line += between;
+        const std::size_t first = line.size();
+        genSub::appendFormatNum(line, value, 2, decimals);
+        if (line[first] == ' ') line[first] = '0';
+    };
+    appendPlaces(parts.M, 0);
+    appendPlaces(parts.S, 4);
+}
+
+std::string AngleText(double x, int form, MessageBoxes& messages) {
+    std::string text;
+    appendAngleText(text, x, form, messages);
+    return text;
+}
+
+ArcSecLengths ArcSecLen(double Phi, double Lam, MessageBoxes& messages) {
+    // Each point picks its own zone.
+    const auto gridAt = [&messages](double phi, double lam) {
+        int zone = 0;
+        return BesselToTM(phi, lam, zone, kOriginShiftSeconds, messages);
+    };
+    const double second = 1.0 / 3600;
+    const GridPoint here = gridAt(Phi, Lam);
+    const GridPoint north = gridAt(second + Phi, Lam);
+    const GridPoint hereAgain = gridAt(Phi, Lam);
+    const GridPoint east = gridAt(Phi, second + Lam);
+    return {.MPhi = distance(here.X, here.Y, north.X, north.Y),
+            .MLam = distance(hereAgain.X, hereAgain.Y, east.X, east.Y)};
+}
+
+}  // namespace kelvo::KelvoSub
