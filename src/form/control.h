@@ -35,19 +35,19 @@ enum class ControlKind {
 enum class Property { Caption, Text, Value, Items, Index, Enabled, Visible, Selection, Place };
 
 struct MenuEntry {
-    std::string caption;  // "&" stands in front of the access key; "-" is a separator
+    std::string caption{};  // "&" stands in front of the access key; "-" is a separator
     bool enabled = true;
 };
 
 // What a control is from the beginning and for good.
 struct ControlDesign {
     ControlKind kind = ControlKind::Label;
-    std::string name;
-    std::string parent;      // name of the frame, menu or window that holds it
-    std::string label;       // the words beside a box, empty if there are none
-    std::string unit;        // the unit behind a box
+    std::string name{};
+    std::string parent{};    // name of the frame, menu or window that holds it
+    std::string label{};     // the words beside a box, empty if there are none
+    std::string unit{};      // the unit behind a box
     bool multiLine = false;  // a text box of many lines; its line ends are CR LF always
-    std::string group;       // option buttons of one group switch each other off
+    std::string group{};     // option buttons of one group switch each other off
 };
 
 class Control {

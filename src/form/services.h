@@ -17,11 +17,11 @@ enum class DialogKind { Open, Save, Printer };
 // The one common dialog of the application, `cmd`. A property that a command doesn't set keeps
 // what the last use left.
 struct DialogProperties {
-    std::string title;
-    std::string filter;    // pairs of name and pattern, parted by "|"
-    int filterIndex = 0;   // counts from 1; 0 before the first use
-    std::string folder;    // where the dialog starts; may end with a separator
-    std::string fileName;  // proposed; afterwards the chosen one
+    std::string title{};
+    std::string filter{};    // pairs of name and pattern, parted by "|"
+    int filterIndex = 0;     // counts from 1; 0 before the first use
+    std::string folder{};    // where the dialog starts; may end with a separator
+    std::string fileName{};  // proposed; afterwards the chosen one
 };
 
 class Dialogs {
