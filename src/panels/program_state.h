@@ -1,0 +1,32 @@
+// What the panels and commands of one window share.
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "common/disk.h"
+#include "common/trans_para.h"
+#include "correction/run_report.h"
+#include "plot/plot_cfg.h"
+
+namespace kelvo {
+
+struct ProgramState {
+    std::string applicationFolder;  // without a trailing separator
+    std::string CfgPath;
+    std::string CorPath;
+
+    // Entries 1 to 5; entry 1 is the current data file, empty entries stand behind the others.
+    std::array<std::string, 6> RecentFiles;
+
+    TransPara Cfg;    // the stored parameters; the panels are their working copy
+    PlotCfg plotCfg;  // the stored plot settings
+    ConversionState conversion;
+
+    // A file of the application folder.
+    [[nodiscard]] std::string inApplicationFolder(const std::string& name) const {
+        return applicationFolder + kPathSeparator + name;
+    }
+};
+
+}  // namespace kelvo

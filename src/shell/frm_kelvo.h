@@ -1,0 +1,50 @@
+// The main window without a screen: its controls, its state and every command.
+//
+// A view makes one, binds a widget to each control of form(), runs Main and shows the window.
+// Faults come out of every handler as RuntimeFault unless a guard stands in their way; the view
+// reports them and ends the program.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "form/form.h"
+#include "form/services.h"
+#include "panels/program_state.h"
+
+namespace kelvo {
+
+class frmKelvo {
+public:
+    // The application folder, without a trailing separator, has to be there with its folder
+    // "data". The services have to outlive the window.
+    frmKelvo(std::string applicationFolder, const Services& services);
+    ~frmKelvo();
+    frmKelvo(const frmKelvo&) = delete;
+    frmKelvo& operator=(const frmKelvo&) = delete;
+
+    [[nodiscard]] Form& form();
+    [[nodiscard]] ProgramState& state();
+
+    // Places and hides the panels, fills the lists and boxes, restores the plot settings.
+    void Form_Load();
+
+    // The closing sequence: saves parameters and plot settings and ends the program. A box that
+    // holds no number is fault 13, and the program isn't ended.
+    void Form_Close();
+
+    // Prints a text file in the mode of the print mode panel.
+    void PrintFile(const std::string& name);
+
+private:
+    friend void Main(frmKelvo& window);
+
+    struct Parts;
+    std::unique_ptr<Parts> parts_;
+};
+
+// The program's start: reads the configuration (writing a new one and the sample data file
+// where there is none), fills the list of recent files and loads the window.
+void Main(frmKelvo& window);
+
+}  // namespace kelvo
