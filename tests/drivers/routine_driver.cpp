@@ -1,0 +1,90 @@
+// routine_driver: calls the routines one by one, by name, from a script on standard input.
+#include <iostream>
+#include <memory>
+
+#include "common/run_time_fault.h"
+#include "drivers/routine_bench.h"
+#include "support/escape.h"
+
+namespace kelvo::testing {
+
+namespace {
+
+const char* nameOf(Icon icon) {
+    switch (icon) {
+        case Icon::None:
+            return "none";
+        case Icon::Information:
+            return "information";
+        case Icon::Question:
+            return "question";
+        case Icon::Warning:
+            return "warning";
+    }
+    return "none";
+}
+
+const char* nameOf(Buttons buttons) {
+    switch (buttons) {
+        case Buttons::Ok:
+            return "ok";
+        case Buttons::OkCancel:
+            return "okcancel";
+        case Buttons::YesNoCancel:
+            return "yesnocancel";
+    }
+    return "ok";
+}
+
+std::string answerTo(RoutineBench& bench, const std::string& line) {
+    Call call = readCall(line);
+    for (const Routines* routines : {&generalRoutines(), &geodesyRoutines()}) {
+        const auto found = routines->find(call.name);
+        if (found == routines->end()) continue;
+        AnswerLine answer(call.name);
+        found->second(bench, call.arguments, answer);
+        call.arguments.requireEnd();
+        return answer.line();
+    }
+    throw ScriptError("no routine of this name: " + call.name);
+}
+
+void obey(std::unique_ptr<RoutineBench>& bench, const std::string& line) {
+    if (asksNothing(line)) return;
+    if (line == "new") {
+        bench = std::make_unique<RoutineBench>();
+        std::cout << "new\n";
+        return;
+    }
+    try {
+        std::cout << answerTo(*bench, line) << '\n';
+    } catch (const RuntimeFault& fault) {
+        std::cout << "fault|" << fault.number() << '|' << escaped(fault.text()) << '\n';
+    } catch (const ScriptError& error) {
+        std::cout << "error|" << escaped(error.what()) << '\n';
+    }
+}
+
+}  // namespace
+
+Answer PrintedMessages::show(const Message& message) {
+    std::cout << "message|" << escaped(message.title) << '|' << nameOf(message.icon) << '|'
+              << nameOf(message.buttons) << '|' << escaped(message.text) << '\n';
+    return message.buttons == Buttons::Ok ? Answer::Ok : Answer::Cancel;
+}
+
+void PrintedStarts::start(const std::string& command) {
+    std::cout << "start|" << escaped(command) << '\n';
+}
+
+}  // namespace kelvo::testing
+
+int main() {
+    auto bench = std::make_unique<kelvo::testing::RoutineBench>();
+    std::string line;
+    while (std::getline(std::cin, line)) {
+        if (!line.empty() && line.back() == '\r') line.pop_back();
+        kelvo::testing::obey(bench, line);
+    }
+    return 0;
+}
