@@ -24,7 +24,8 @@ public:
         : out_(out), form_(AngleOut), messages_(messages) {}
 
     Row& name(const std::string& name) {
-        line_ = genSub::FormatText(name, 10, 0);
+        line_.clear();
+        genSub::appendFormatText(line_, name, 10, 0);
         return *this;
     }
     Row& angles(double Phi, double Lam) {

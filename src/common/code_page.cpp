@@ -1,5 +1,8 @@
 #include "common/code_page.h"
 
+#include <array>
+#include <cstdint>
+#include <cstring>
 #include <memory>
 
 #include "common/code_page_table.h"
@@ -46,6 +49,18 @@ private:
     std::unique_ptr<std::array<std::uint16_t, 0x10000>> bytes_;
 };
 
+// How many bytes at the front are ASCII, which is the same in both encodings.
+std::size_t asciiRun(std::string_view text) {
+    std::size_t i = 0;
+    for (; i + sizeof(std::uint64_t) <= text.size(); i += sizeof(std::uint64_t)) {
+        std::uint64_t chunk = 0;
+        std::memcpy(&chunk, text.data() + i, sizeof chunk);
+        if ((chunk & 0x8080808080808080U) != 0) break;
+    }
+    while (i < text.size() && static_cast<unsigned char>(text[i]) < 0x80) ++i;
+    return i;
+}
+
 unsigned bytesOf(char32_t character) {
     static const ByteTable table;
     return table.bytesOf(character);
@@ -55,11 +70,12 @@ unsigned bytesOf(char32_t character) {
 
 void decodeCodePage(std::string_view bytes, std::string& text) {
     for (std::size_t i = 0; i < bytes.size();) {
-        const auto byte = static_cast<unsigned char>(bytes[i]);
-        if (byte < 0x80) {
-            text.push_back(bytes[i++]);
+        if (const std::size_t run = asciiRun(bytes.substr(i)); run > 0) {
+            text.append(bytes.substr(i, run));
+            i += run;
             continue;
         }
+        const auto byte = static_cast<unsigned char>(bytes[i]);
         const unsigned trail = i + 1 < bytes.size() ? static_cast<unsigned char>(bytes[i + 1]) : 0U;
         if (const char32_t character = characterOfPair(byte, trail); character != 0) {
             appendUtf8(character, text);
@@ -80,12 +96,13 @@ std::string decodeCodePage(std::string_view bytes) {
 
 void encodeCodePage(std::string_view text, std::string& bytes) {
     while (!text.empty()) {
-        const Utf8Character character = firstCharacter(text);
-        text.remove_prefix(character.length);
-        if (character.code < 0x80) {
-            bytes.push_back(static_cast<char>(character.code));
+        if (const std::size_t run = asciiRun(text); run > 0) {
+            bytes.append(text.substr(0, run));
+            text.remove_prefix(run);
             continue;
         }
+        const Utf8Character character = firstCharacter(text);
+        text.remove_prefix(character.length);
         const unsigned found = bytesOf(character.code);
         if (found == 0) {
             bytes.push_back('?');

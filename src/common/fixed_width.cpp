@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
+#include <cstdint>
 
 #include "common/code_page.h"
 #include "common/number_text.h"
@@ -29,6 +31,23 @@ RoundedDigits roundAt(const Decimal15& decimal, int decimals) {
     if (dropped <= 0) return {.digits = decimal.digits, .zeros = -dropped};
     const std::uint64_t unit = kIntegerPowerOfTen[static_cast<std::size_t>(dropped)];
     return {.digits = (decimal.digits + unit / 2) / unit};
+}
+
+// The same without the way through the 15 digits, where both must agree: nothing is left to
+// fill up, and the value is farther from a tie than those digits could move it.
+RoundedDigits roundedDigits(double value, int decimals) {
+    constexpr double kMostDigits = 1e15;
+    constexpr double kMoved = 1e-14;
+    if (decimals <= kExactPowers) {
+        const double scaled = std::abs(value) * kPowerOfTen[static_cast<std::size_t>(decimals)];
+        if (scaled < kMostDigits) {
+            const auto whole = static_cast<std::int64_t>(scaled);
+            const double fromTie = (scaled - static_cast<double>(whole)) - 0.5;
+            if (std::abs(fromTie) > scaled * kMoved)
+                return {.digits = static_cast<std::uint64_t>(fromTie > 0 ? whole + 1 : whole)};
+        }
+    }
+    return roundAt(decimal15(value), decimals);
 }
 
 void appendFill(std::string& line, long count, char fill) {
@@ -63,6 +82,44 @@ long appendMasked(std::string& line, const RoundedDigits& rounded, int width, in
     return integerPlaces;
 }
 
+// The same text for the masks that reports use, made from its end in one small buffer.
+constexpr int kUsualWidth = 20;
+
+constexpr std::array<char, 200> kTwoDigits = [] {
+    std::array<char, 200> pairs{};
+    for (std::size_t i = 0; i < 100; ++i) {
+        pairs[2 * i] = static_cast<char>('0' + i / 10);
+        pairs[2 * i + 1] = static_cast<char>('0' + i % 10);
+    }
+    return pairs;
+}();
+
+void appendUsual(std::string& line, std::uint64_t digits, bool minus, int width, int decimals) {
+    std::array<char, 2 * kUsualWidth + 24> buffer;
+    char* const end = buffer.data() + buffer.size();
+    char* first = end;
+    const auto putDigits = [&first](std::uint64_t& value, int count) {
+        for (; count >= 2; count -= 2) {
+            const auto pair = static_cast<std::size_t>(value % 100);
+            value /= 100;
+            *--first = kTwoDigits[2 * pair + 1];
+            *--first = kTwoDigits[2 * pair];
+        }
+        if (count == 1) {
+            *--first = static_cast<char>('0' + value % 10);
+            value /= 10;
+        }
+    };
+    putDigits(digits, decimals);
+    if (decimals > 0) *--first = '.';
+    const char* const columns = first - width;
+    if (width > 0) putDigits(digits, 1);
+    while (digits != 0) putDigits(digits, 1);
+    if (minus && first > columns) *--first = '-';
+    while (first > columns) *--first = ' ';
+    line.append(first, end);
+}
+
 }  // namespace
 
 int DisplayLen(std::string_view text) {
@@ -84,15 +141,19 @@ void appendFormatNum(std::string& line, double value, int width, int decimals) {
     decimals = std::max(decimals, 0);
     if (width > kLongestMask || decimals > kLongestMask) return;
 
-    const std::size_t start = line.size();
-    const RoundedDigits rounded = roundAt(decimal15(value), decimals);
     const bool minus = value < 0;
+    const RoundedDigits rounded = roundedDigits(value, decimals);
     if (minus && rounded.digits == 0) {
         // The sign of a number that rounds to zero stops the blanking: sign and zeros stay.
         line += '-';
         appendMasked(line, rounded, width, decimals);
         return;
     }
+    if (rounded.zeros == 0 && width <= kUsualWidth && decimals <= kUsualWidth) {
+        appendUsual(line, rounded.digits, minus, width, decimals);
+        return;
+    }
+    const std::size_t start = line.size();
     const long integerPlaces = appendMasked(line, rounded, width, decimals);
     // Leading zeros become blanks, but for the last integer place of the mask.
     const std::size_t last = start + static_cast<std::size_t>(std::min<long>(integerPlaces, width));
@@ -112,7 +173,7 @@ std::string FormatNum(std::string_view text, int width, int decimals) {
     return FormatNum(leadingNumber(text), width, decimals);
 }
 
-std::string FormatText(std::string_view text, int width, int align) {
+void appendFormatText(std::string& line, std::string_view text, int width, int align) {
     std::size_t taken = 0;
     int columns = 0;
     while (columns < width && taken < text.size()) {
@@ -122,10 +183,14 @@ std::string FormatText(std::string_view text, int width, int align) {
         columns += more;
         taken += character.length;
     }
-    const std::string missing = Blanks(width - columns);
-    std::string result(text.substr(0, taken));
-    if (align == 0) return result + missing;
-    if (align == 1) return missing + result;
+    if (align == 1) appendFill(line, width - columns, ' ');
+    line += text.substr(0, taken);
+    if (align == 0) appendFill(line, width - columns, ' ');
+}
+
+std::string FormatText(std::string_view text, int width, int align) {
+    std::string result;
+    appendFormatText(result, text, width, align);
     return result;
 }
 

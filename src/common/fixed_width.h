@@ -29,5 +29,6 @@ void appendFormatNum(std::string& line, double value, int width, int decimals);
 // The text cut to `width` columns (a letter that would cross the limit is dropped), or filled
 // with blanks behind it (align 0) or in front of it (align 1); any other align fills nothing.
 [[nodiscard]] std::string FormatText(std::string_view text, int width, int align);
+void appendFormatText(std::string& line, std::string_view text, int width, int align);
 
 }  // namespace kelvo::genSub

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <charconv>
 #include <cmath>
 #include <system_error>
@@ -122,10 +123,10 @@ std::string_view withoutBlanksInFront(std::string_view text) {
 // The 15 digits by exact arithmetic where a double can be scaled by an exact power of ten: the
 // product is split into its rounded value and its error, so that nothing is lost.
 bool scaledDigits(double magnitude, Decimal15& decimal) {
-    int exponent = 0;
-    std::frexp(magnitude, &exponent);
+    const auto bits = std::bit_cast<std::uint64_t>(magnitude);
+    const int exponent = static_cast<int>(bits >> 52U) - 1023;
     // log10(2) as 1233/4096; one too high or low is put right below.
-    int place = ((exponent - 1) * 1233) >> 12;
+    int place = (exponent * 1233) >> 12;
     for (int attempt = 0; attempt < 2; ++attempt) {
         const int scale = 14 - place;
         if (scale < 0 || scale > kExactPowers) return false;

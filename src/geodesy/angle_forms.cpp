@@ -1,5 +1,7 @@
 #include "geodesy/angle_forms.h"
 
+#include <array>
+#include <charconv>
 #include <cmath>
 
 #include "common/checked_arithmetic.h"
@@ -13,6 +15,13 @@ namespace kelvo::KelvoSub {
 namespace {
 
 constexpr std::string_view kDeveloperLine = "Program 개발자에게 알려 주시기 바랍니다.";
+
+// The largest integer not above x, as a 16-bit integer.
+std::int16_t floor16(double x) {
+    if (!(x > -32769.0 && x < 32768.0)) raise(Fault::Overflow);
+    const int towardsZero = static_cast<int>(x);
+    return toInteger16(towardsZero > x ? towardsZero - 1 : towardsZero);
+}
 
 int signOf(double x) {
     return x > 0 ? 1 : x < 0 ? -1 : 0;
@@ -42,8 +51,8 @@ double distance(double X1, double Y1, double X2, double Y2) {
 
 DegreesMinutesSeconds SplitDeg(double x, MessageBoxes& messages) {
     DegreesMinutesSeconds r;
-    r.D = toInteger16(std::floor(x));
-    r.M = toInteger16(std::floor((x - r.D) * 60));
+    r.D = floor16(x);
+    r.M = floor16((x - r.D) * 60);
     r.S = ((x - r.D) - r.M / 60.0) * 3600;
     if (r.S < 0) {
         r.M = toInteger16(r.M - 1);
@@ -110,9 +119,14 @@ void appendAngleText(std::string& line, double x, int form, MessageBoxes& messag
     if (form != kAngleBlanks && form != kAngleHyphens) return;
 
     const char between = form == kAngleBlanks ? ' ' : '-';
-    const std::string degrees = (x < 0 ? "-" : "") + std::to_string(parts.D);
-    line.append(8 - std::min<std::size_t>(degrees.size(), 8), ' ');
-    line += degrees;
+    // The sign is that of the angle, also in front of 0 degrees.
+    std::array<char, 8> degrees;
+    const bool minus = x < 0;
+    if (minus) degrees.front() = '-';
+    const auto [end, error] =
+        std::to_chars(degrees.data() + (minus ? 1 : 0), degrees.data() + degrees.size(), parts.D);
+    line.append(static_cast<std::size_t>(degrees.data() + degrees.size() - end), ' ');
+    line.append(degrees.data(), end);
     // Minutes and seconds have two places, the first one a digit and never a blank.
     const auto appendPlaces = [&line, between](double value, int decimals) {
         line += between;

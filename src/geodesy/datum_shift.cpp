@@ -56,8 +56,10 @@ Position iterate(const Geocentric& point, const Ellipsoid& ellipsoid, double& h)
         const double r = shape.b2OverA2 * N + h;
         phi = std::atan(quotient(point.Z, squareRoot(r * r - Z2)));
         if (std::abs(phi - previous) < kSettled) break;
-        N = RadiusN(shape.a, shape.e2, phi);
-        h = quotient(p, std::cos(phi)) - N;
+        const double s = std::sin(phi);  // side by side, so that both come from one call
+        const double c = std::cos(phi);
+        N = quotient(shape.a, squareRoot(1 - s * s * shape.e2));  // RadiusN at phi
+        h = quotient(p, c) - N;
         previous = phi;
     }
     const double radian = degreeToRadian();

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "common/checked_arithmetic.h"
+#include "common/integer_power.h"
 
 namespace kelvo::KelvoSub {
 
@@ -26,7 +27,8 @@ double RadiusN(double a, double e2, double phi) {
 }
 
 double RadiusM(double a, double e2, double phi) {
-    return quotient((1 - e2) * a, std::pow(RadiusW(e2, phi), 3));
+    const Powers<3> W(RadiusW(e2, phi));
+    return quotient((1 - e2) * a, W(3));
 }
 
 }  // namespace kelvo::KelvoSub

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "common/checked_arithmetic.h"
+#include "common/integer_power.h"
 #include "common/run_time_fault.h"
 
 namespace kelvo::KelvoSub {
@@ -31,16 +32,12 @@ struct DerivedConstants {
         e2 = quotient(a2 - b2, a2);
         ep2 = quotient(a2 - b2, b2);
 
-        const double n = quotient(a - b, b + a);
-        const double n2 = n * n;
-        const double n3 = std::pow(n, 3);
-        const double n4 = std::pow(n, 4);
-        const double n5 = std::pow(n, 5);
-        A = (81 * (n4 - n5) / 64 + (5 * (n2 - n3) / 4 + (1 - n))) * a;
-        B = ((55 * n5 / 64 + ((n - n2) + 7 * (n3 - n4) / 8)) * (3 * a)) / 2;
-        C = (((n2 - n3) + 3 * (n4 - n5) / 4) * (15 * a)) / 16;
-        D = ((11 * n5 / 16 + (n3 - n4)) * (35 * a)) / 48;
-        E = ((n4 - n5) * (315 * a)) / 512;
+        const Powers<5> n(quotient(a - b, b + a));
+        A = (81 * (n(4) - n(5)) / 64 + (5 * (n(2) - n(3)) / 4 + (1 - n(1)))) * a;
+        B = ((55 * n(5) / 64 + ((n(1) - n(2)) + 7 * (n(3) - n(4)) / 8)) * (3 * a)) / 2;
+        C = (((n(2) - n(3)) + 3 * (n(4) - n(5)) / 4) * (15 * a)) / 16;
+        D = ((11 * n(5) / 16 + (n(3) - n(4))) * (35 * a)) / 48;
+        E = ((n(4) - n(5)) * (315 * a)) / 512;
     }
 
     [[nodiscard]] double arc(double phi) const { return MeridianArc(A, B, C, D, E, phi); }
@@ -53,56 +50,40 @@ GridPoint gridOf(double Phi, double Lam, const Ellipsoid& ellipsoid, const Proje
     const double S0 = p.S0;
 
     const DerivedConstants k(ellipsoid);
-    const double dl = Lam * radian - p.Lam0 * radian;
+    const Powers<8> dl(Lam * radian - p.Lam0 * radian);
     const double M0 = k.arc(phi0) * S0;
 
     const double s = std::sin(finite(phi));
-    const double c = std::cos(phi);
-    const double t = quotient(s, c);
-    const double h = c * c * k.ep2;  // the square of the usual eta
+    const Powers<7> c(std::cos(phi));
+    const Powers<6> t(quotient(s, c(1)));
+    const Powers<4> h(c(2) * k.ep2);  // the square of the usual eta
     const double N = RadiusN(k.a, k.e2, phi);
     const double sN = s * N;
 
-    const double c3 = std::pow(c, 3);
-    const double c5 = std::pow(c, 5);
-    const double c7 = std::pow(c, 7);
-    const double t2 = t * t;
-    const double t4 = std::pow(t, 4);
-    const double t6 = std::pow(t, 6);
-    const double h2 = h * h;
-    const double h3 = std::pow(h, 3);
-    const double h4 = std::pow(h, 4);
-
-    const double P3 = 5 - t2 + 9 * h + 4 * h2;
-    const double P4 = 61 - 58 * t2 + t4 + 270 * h - 330 * t2 * h + 445 * h2 + 324 * h3 -
-                      680 * t2 * h2 + 88 * h4 - 600 * t2 * h3 - 192 * t2 * h4;
-    const double P5 = 1385 - 3111 * t2 + 543 * t4 - t6;
+    const double P3 = 5 - t(2) + 9 * h(1) + 4 * h(2);
+    const double P4 = 61 - 58 * t(2) + t(4) + 270 * h(1) - 330 * t(2) * h(1) + 445 * h(2) +
+                      324 * h(3) - 680 * t(2) * h(2) + 88 * h(4) - 600 * t(2) * h(3) -
+                      192 * t(2) * h(4);
+    const double P5 = 1385 - 3111 * t(2) + 543 * t(4) - t(6);
 
     const double T1 = k.arc(phi) * S0;
-    const double T2 = (sN * c * S0) / 2;
-    const double T3 = (c3 * sN * S0 * P3) / 24;
-    const double T4 = (c5 * sN * S0 * P4) / 720;
-    const double T5 = (c7 * sN * S0 * P5) / 40320;
+    const double T2 = (sN * c(1) * S0) / 2;
+    const double T3 = (c(3) * sN * S0 * P3) / 24;
+    const double T4 = (c(5) * sN * S0 * P4) / 720;
+    const double T5 = (c(7) * sN * S0 * P5) / 40320;
 
-    const double dl2 = dl * dl;
-    const double dl4 = std::pow(dl, 4);
-    const double dl6 = std::pow(dl, 6);
-    const double dl8 = std::pow(dl, 8);
-    const double X = (dl2 * T2 + T1) + dl4 * T3 + dl6 * T4 + dl8 * T5 - M0 + p.X0;
+    const double X = (dl(2) * T2 + T1) + dl(4) * T3 + dl(6) * T4 + dl(8) * T5 - M0 + p.X0;
 
-    const double P8 =
-        5 - 18 * t2 + t4 + 14 * h - 58 * t2 * h + 13 * h2 + 4 * h3 - 64 * t2 * h2 - 24 * t2 * h3;
-    const double P9 = 61 - 479 * t2 + 179 * t4 - t6;
+    const double P8 = 5 - 18 * t(2) + t(4) + 14 * h(1) - 58 * t(2) * h(1) + 13 * h(2) + 4 * h(3) -
+                      64 * t(2) * h(2) - 24 * t(2) * h(3);
+    const double P9 = 61 - 479 * t(2) + 179 * t(4) - t(6);
 
-    const double T6 = c * N * S0;
-    const double T7 = (c3 * N * S0 * (1 - t2 + h)) / 6;
-    const double T8 = (c5 * N * S0 * P8) / 120;
-    const double T9 = (c7 * N * S0 * P9) / 5040;
+    const double T6 = c(1) * N * S0;
+    const double T7 = (c(3) * N * S0 * (1 - t(2) + h(1))) / 6;
+    const double T8 = (c(5) * N * S0 * P8) / 120;
+    const double T9 = (c(7) * N * S0 * P9) / 5040;
 
-    const double dl3 = std::pow(dl, 3);
-    const double dl5 = std::pow(dl, 5);
-    const double dl7 = std::pow(dl, 7);
-    const double Y = (T6 * dl + p.Y0) + dl3 * T7 + dl5 * T8 + dl7 * T9;
+    const double Y = (T6 * dl(1) + p.Y0) + dl(3) * T7 + dl(5) * T8 + dl(7) * T9;
 
     return {.X = finite(X), .Y = finite(Y)};
 }
@@ -117,54 +98,41 @@ double footPointLatitude(const DerivedConstants& k, double S) {
 
 Position positionOf(double X, double Y, const Ellipsoid& ellipsoid, const Projection& p) {
     const double radian = degreeToRadian();
-    const double S0 = p.S0;
+    const Powers<8> S0(p.S0);
 
     const DerivedConstants k(ellipsoid);
-    const double S = quotient((k.arc(finite(p.Phi0 * radian)) * S0 + X) - p.X0, S0);
+    const double S = quotient((k.arc(finite(p.Phi0 * radian)) * S0(1) + X) - p.X0, S0(1));
     const double phi = footPointLatitude(k, S);
 
     const double M = RadiusM(k.a, k.e2, phi);
-    const double N = RadiusN(k.a, k.e2, phi);
+    const Powers<7> N(RadiusN(k.a, k.e2, phi));
     const double s = std::sin(phi);
     const double c = std::cos(phi);
-    const double t = quotient(s, c);
-    const double h = c * c * k.ep2;
-    const double dy = Y - p.Y0;
+    const Powers<6> t(quotient(s, c));
+    const Powers<4> h(c * c * k.ep2);
+    const Powers<8> dy(Y - p.Y0);
 
-    const double t2 = t * t;
-    const double t4 = std::pow(t, 4);
-    const double t6 = std::pow(t, 6);
-    const double h2 = h * h;
-    const double h3 = std::pow(h, 3);
-    const double h4 = std::pow(h, 4);
-    const double N3 = std::pow(N, 3);
-    const double N5 = std::pow(N, 5);
-    const double N7 = std::pow(N, 7);
+    const double Q11 = 5 + 3 * t(2) + h(1) - 4 * h(2) - 9 * t(2) * h(1);
+    const double Q12 = 61 + 90 * t(2) + 46 * h(1) + 45 * t(4) - 252 * t(2) * h(1) - 3 * h(2) +
+                       100 * h(3) - 66 * t(2) * h(2) - 90 * t(4) * h(1) + 88 * h(4) +
+                       225 * t(4) * h(2) + 84 * t(2) * h(3) - 192 * t(2) * h(4);
+    const double Q13 = 1385 + 3633 * t(2) + 4095 * t(4) + 1575 * t(6);
 
-    const double Q11 = 5 + 3 * t2 + h - 4 * h2 - 9 * t2 * h;
-    const double Q12 = 61 + 90 * t2 + 46 * h + 45 * t4 - 252 * t2 * h - 3 * h2 + 100 * h3 -
-                       66 * t2 * h2 - 90 * t4 * h + 88 * h4 + 225 * t4 * h2 + 84 * t2 * h3 -
-                       192 * t2 * h4;
-    const double Q13 = 1385 + 3633 * t2 + 4095 * t4 + 1575 * t6;
+    const double T10 = quotient(t(1), S0(2) * ((M + M) * N(1)));
+    const double T11 = quotient(Q11 * t(1), S0(4) * (N(3) * (24 * M)));
+    const double T12 = quotient(Q12 * t(1), S0(6) * (N(5) * (720 * M)));
+    const double T13 = quotient(Q13 * t(1), S0(8) * (N(7) * (40320 * M)));
+    const double phi1 = phi - dy(2) * T10 + dy(4) * T11 - dy(6) * T12 + dy(8) * T13;
 
-    const double T10 = quotient(t, S0 * S0 * ((M + M) * N));
-    const double T11 = quotient(Q11 * t, std::pow(S0, 4) * (N3 * (24 * M)));
-    const double T12 = quotient(Q12 * t, std::pow(S0, 6) * (N5 * (720 * M)));
-    const double T13 = quotient(Q13 * t, std::pow(S0, 8) * (N7 * (40320 * M)));
-    const double phi1 =
-        phi - dy * dy * T10 + std::pow(dy, 4) * T11 - std::pow(dy, 6) * T12 + std::pow(dy, 8) * T13;
+    const double Q16 = 5 + 6 * h(1) + 28 * t(2) - 3 * h(2) + 8 * t(2) * h(1) + 24 * t(4) -
+                       4 * h(3) + 4 * t(2) * h(2) + 24 * t(2) * h(3);
+    const double Q17 = 61 + 662 * t(2) + 1320 * t(4) + 720 * t(6);
 
-    const double Q16 =
-        5 + 6 * h + 28 * t2 - 3 * h2 + 8 * t2 * h + 24 * t4 - 4 * h3 + 4 * t2 * h2 + 24 * t2 * h3;
-    const double Q17 = 61 + 662 * t2 + 1320 * t4 + 720 * t6;
-
-    const double T14 = quotient(1, c * N * S0);
-    const double T15 = quotient(t2 + t2 + 1 + h, std::pow(S0, 3) * (N3 * 6 * c));
-    const double T16 = quotient(Q16, std::pow(S0, 5) * (N5 * 120 * c));
-    const double T17 = quotient(Q17, std::pow(S0, 7) * (N7 * 5040 * c));
-    const double lam1 =
-        (dy * T14 - std::pow(dy, 3) * T15 + std::pow(dy, 5) * T16 - std::pow(dy, 7) * T17) +
-        p.Lam0 * radian;
+    const double T14 = quotient(1, c * N(1) * S0(1));
+    const double T15 = quotient(t(2) + t(2) + 1 + h(1), S0(3) * (N(3) * 6 * c));
+    const double T16 = quotient(Q16, S0(5) * (N(5) * 120 * c));
+    const double T17 = quotient(Q17, S0(7) * (N(7) * 5040 * c));
+    const double lam1 = (dy(1) * T14 - dy(3) * T15 + dy(5) * T16 - dy(7) * T17) + p.Lam0 * radian;
 
     return {.Phi = finite(phi1 / radian), .Lam = finite(lam1 / radian)};
 }
