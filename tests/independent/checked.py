@@ -50,6 +50,8 @@ class Num(float):
         return Num(float.__abs__(self))
 
     def __pow__(self, exponent):
+        if exponent == 2:
+            return self * self  # correctly rounded, as the power function very nearly always is
         try:
             return checked(math.pow(self, exponent))
         except OverflowError:

@@ -1,10 +1,11 @@
 """Lines, fields and fixed-width text."""
 
 import re
-from decimal import ROUND_HALF_UP, Decimal
+from decimal import ROUND_HALF_UP, Context, Decimal
 
 from checked import Fault, Num, single
 
+WIDE = Context(prec=700)
 SEPARATORS = " ,\t\0"
 
 
@@ -129,7 +130,7 @@ def format_num(value, width, decimals):
     value = float(value)
     # The decimal text at 15 significant digits, halves away from zero at the last place shown.
     exact = Decimal("%.14e" % abs(value))
-    shown = exact.quantize(Decimal(1).scaleb(-decimals), rounding=ROUND_HALF_UP)
+    shown = exact.quantize(Decimal(1).scaleb(-decimals), rounding=ROUND_HALF_UP, context=WIDE)
     whole, _, behind = f"{shown:f}".partition(".")
     mask = whole.zfill(width) + ("." + behind if decimals > 0 else "")
     if value < 0:
