@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
+#include <fstream>
+#include <iterator>
 #include <map>
 #include <set>
 #include <string>
@@ -347,6 +349,12 @@ TEST_F(SampleData, TheLargeExampleClosesTheFileWithItsOwnEnd) {
         {213, "end"},
         // clang-format on
     });
+}
+
+TEST_F(SampleData, TheShippedExampleIsTheFileAsItIsWritten) {
+    std::ifstream file(KELVO_SOURCE_DIR "/examples/sample.dat", std::ios::binary);
+    const std::string shipped{std::istreambuf_iterator<char>(file), {}};
+    EXPECT_EQ(disk.bytes(path), shipped);
 }
 
 TEST_F(SampleData, AFileThatCannotBeCreatedIsTheCallersFault) {

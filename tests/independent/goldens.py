@@ -1,0 +1,56 @@
+#!/usr/bin/env python3
+"""Compares the program, and the independent calculation, with the stored runs.
+
+    goldens.py [--reference] [--renew] PROGRAM...
+
+PROGRAM is kelvo-batch, behind whatever starts it. A run is NAME.dat with NAME.out, NAME.det and,
+if anything is said, NAME.err; known points stand in NAME.cor or, for all of a folder, in
+kelvo.cor. With --reference the independent calculation takes the program's place. --renew
+writes what the program gives in examples/, but only where the independent calculation agrees.
+"""
+
+import argparse
+import pathlib
+import sys
+
+from harness import Outcome, run_program, run_reference, said
+
+TOP = pathlib.Path(__file__).resolve().parents[2]
+FOLDERS = (TOP / "examples", TOP / "tests/golden/batch")
+
+
+def stored(data):
+    error = data.with_suffix(".err")
+    lines = error.read_text(encoding="utf-8").splitlines() if error.exists() else ["exit code 0"]
+    read = [data.with_suffix(s).read_bytes() if data.with_suffix(s).exists() else b"(missing)" for s in (".out", ".det")]
+    return Outcome(*read, said("\n".join(lines[:-1])), lines[-1].removeprefix("exit code "))
+
+
+def main():
+    parser = argparse.ArgumentParser()
+    parser.add_argument("--reference", action="store_true")
+    parser.add_argument("--renew", action="store_true")
+    parser.add_argument("program", nargs="*")
+    options = parser.parse_args()
+    bad = count = 0
+    for folder in FOLDERS:
+        for data in sorted(folder.glob("*.dat")):
+            known = next((k for k in (data.with_suffix(".cor"), folder / "kelvo.cor") if k.exists()), None)
+            files = data.read_bytes(), known.read_bytes() if known else None
+            found = run_reference(*files) if options.reference else run_program(options.program, *files)
+            if options.renew and folder == FOLDERS[0]:
+                difference = found.difference(run_reference(*files))
+                if not difference:
+                    data.with_suffix(".out").write_bytes(found.parts["out"])
+                    data.with_suffix(".det").write_bytes(found.parts["det"])
+            else:
+                difference = found.difference(stored(data))
+            count += 1
+            if difference:
+                bad += 1
+                print(f"{data.relative_to(TOP)}:\n{difference}")
+    print(f"{count - bad} of {count} runs as stored")
+    return 1 if bad or not count else 0
+
+
+sys.exit(main())
