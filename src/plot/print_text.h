@@ -7,24 +7,10 @@
 
 #include "common/disk.h"
 #include "common/ports.h"
+#include "form/services.h"
 #include "plot/surface.h"
 
 namespace kelvo {
-
-// Takes a file to the printer as it stands, without waiting for it.
-class RawPrinter {
-public:
-    virtual ~RawPrinter() = default;
-    // A path without a folder lies in the current folder.
-    virtual void printRaw(const std::string& path) = 0;
-};
-
-// The mouse pointer while a file is copied.
-class BusyPointer {
-public:
-    virtual ~BusyPointer() = default;
-    virtual void setBusy(bool busy) = 0;
-};
 
 // What the print mode panel says.
 struct PrintMode {
@@ -41,7 +27,7 @@ struct PrintServices {
     Disk& disk;
     MessageBoxes& messages;
     ProgramStarter& programs;
-    RawPrinter& rawPrinter;
+    RawPrinter& rawPrinter;  // gets a path without a folder for a file of the current folder
     BusyPointer& pointer;
     Surface& printer;
     std::string applicationFolder;  // without a trailing separator; `code.bat` goes there

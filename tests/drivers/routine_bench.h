@@ -8,6 +8,7 @@
 #include "common/disk.h"
 #include "common/fields.h"
 #include "common/ports.h"
+#include "drivers/plot_calls.h"
 #include "drivers/routine_script.h"
 #include "geodesy/datum_shift.h"
 
@@ -25,6 +26,9 @@ public:
     void start(const std::string& command) override;
 };
 
+// Writes what a surface was told to standard output.
+void printSurfaceLine(const std::string& line);
+
 // What lasts from line to line.
 struct RoutineBench {
     PrintedMessages messages;
@@ -32,6 +36,7 @@ struct RoutineBench {
     PlatformDisk disk;
     FieldStore fields;
     DatumState datum;
+    PlotBench plot{messages, programs, printSurfaceLine};
 };
 
 // One routine by its name: takes its arguments and writes its results behind the answer's name.

@@ -46,6 +46,7 @@ std::string answerTo(RoutineBench& bench, const std::string& line) {
         call.arguments.requireEnd();
         return answer.line();
     }
+    if (const auto answer = callPlot(bench.plot, call)) return answer->line();
     throw ScriptError("no routine of this name: " + call.name);
 }
 
@@ -75,6 +76,10 @@ Answer PrintedMessages::show(const Message& message) {
 
 void PrintedStarts::start(const std::string& command) {
     std::cout << "start|" << escaped(command) << '\n';
+}
+
+void printSurfaceLine(const std::string& line) {
+    std::cout << line << '\n';
 }
 
 }  // namespace kelvo::testing

@@ -1,0 +1,30 @@
+// The plot object as routine_driver calls it: every operation of clsplot1 by its name.
+#pragma once
+
+#include <optional>
+
+#include "common/ports.h"
+#include "drivers/routine_script.h"
+#include "plot/clsplot1.h"
+#include "support/recording_surface.h"
+
+namespace kelvo::testing {
+
+// One plot object, without a surface until `pinitialize`, and the two surfaces it may get.
+// `new` in a script is a new bench.
+struct PlotBench {
+    PlotBench(MessageBoxes& messages, ProgramStarter& programs, const LineSink& sink)
+        : screen(RecordingSurface::Kind::Screen, sink),
+          printer(RecordingSurface::Kind::Printer, sink),
+          object(messages, programs, printer) {}
+
+    RecordingSurface screen;
+    RecordingSurface printer;
+    clsplot1 object;
+};
+
+// Carries out a call and answers it; nothing for a name that is no operation of the plot object.
+// Raises ScriptError for arguments that can't be read, and whatever fault the operation raises.
+[[nodiscard]] std::optional<AnswerLine> callPlot(PlotBench& bench, Call& call);
+
+}  // namespace kelvo::testing
