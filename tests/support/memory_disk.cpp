@@ -111,6 +111,8 @@ std::string MemoryDisk::bytes(const std::string& path) const {
     return found == files.end() ? std::string() : found->second;
 }
 
-std::string MemoryDisk::text(const std::string& path) const { return decodeCodePage(bytes(path)); }
+std::string MemoryDisk::text(const std::string& path) const {
+    return decodeCodePage(bytes(path));
+}
 
 }  // namespace kelvo::testing

@@ -1,0 +1,44 @@
+#include "common/letter_case.h"
+
+#include <gtest/gtest.h>
+
+namespace kelvo {
+namespace {
+
+TEST(UpperCased, CoversLatinGreekCyrillicAndFullWidthLetters) {
+    EXPECT_EQ(upperCased("wgs u-1"), "WGS U-1");
+    EXPECT_EQ(upperCased("ａｂｚ"), "ＡＢＺ");
+    EXPECT_EQ(upperCased("αβγω"), "ΑΒΓΩ");
+    EXPECT_EQ(upperCased("абвяё"), "АБВЯЁ");
+    EXPECT_EQ(upperCased("æðħĳŀłøœþŧŋ"), "ÆÐĦĲĿŁØŒÞŦŊ");
+    EXPECT_EQ(upperCased("ⅰⅹ"), "ⅠⅩ");
+}
+
+TEST(UpperCased, LeavesOtherCharactersAlone) {
+    EXPECT_EQ(upperCased("인천No-3 日本 ①※12"), "인천NO-3 日本 ①※12");
+}
+
+TEST(UpperCased, ChangesOneCharacterForOne) {
+    EXPECT_EQ(upperCased("ßŉ"), "ßŉ");
+}
+
+TEST(UpperCased, BytesThatAreNoCharacterStay) {
+    EXPECT_EQ(upperCased(std::string_view("a\xFFz")), "A\xFFZ");
+}
+
+TEST(LowerCased, UndoesUpperCasing) {
+    for (const char* text : {"wgs", "ａｂ", "αω", "яё", "æøœ", "가a"}) {
+        EXPECT_EQ(lowerCased(upperCased(std::string_view(text))), text);
+    }
+}
+
+TEST(SameIgnoringCase, ComparesUpperCasedTexts) {
+    EXPECT_TRUE(sameIgnoringCase("인천no-3", "인천NO-3"));
+    EXPECT_TRUE(sameIgnoringCase("ａ", "Ａ"));
+    EXPECT_FALSE(sameIgnoringCase("ａ", "a"));
+    EXPECT_FALSE(sameIgnoringCase("a", "a "));
+    EXPECT_TRUE(sameIgnoringCase("", ""));
+}
+
+}  // namespace
+}  // namespace kelvo

@@ -1,0 +1,213 @@
+#include "geodesy/angle_forms.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+#include "common/fixed_width.h"
+#include "common/number_text.h"
+#include "support/faults.h"
+#include "support/recording_messages.h"
+
+namespace kelvo {
+namespace {
+
+using testing::faultOf;
+using testing::RecordingMessages;
+
+class Angles : public ::testing::Test {
+protected:
+    void expectSplit(double x, int D, int M, double S, double slack = 0) {
+        const auto split = KelvoSub::SplitDeg(x, messages);
+        EXPECT_EQ(split.D, D) << x;
+        EXPECT_EQ(split.M, M) << x;
+        EXPECT_NEAR(split.S, S, slack) << x;
+    }
+    std::string text(double x, int form) { return KelvoSub::AngleText(x, form, messages); }
+
+    RecordingMessages messages;
+};
+
+TEST_F(Angles, ASplitGivesDegreesMinutesAndSeconds) {
+    expectSplit(127.5, 127, 30, 0);
+    expectSplit(0, 0, 0, 0);
+    expectSplit(128.426667, 128, 25, 36.0012, 1e-7);
+    EXPECT_TRUE(messages.shown.empty());
+}
+
+TEST_F(Angles, AHairBelowAWholeMinuteIsRoundedUp) {
+    expectSplit(127 + 29.0 / 60 + 59.999995 / 3600, 127, 30, 0);
+    expectSplit(0.999999999, 1, 0, 0);
+    EXPECT_TRUE(messages.shown.empty());
+}
+
+TEST_F(Angles, SecondsOfExactly59_99999Stay) {
+    // the doubles around that angle whose seconds come out on either side of the limit
+    double x = 59.99999 / 3600;
+    for (int i = 0; i < 4; ++i) x = std::nextafter(x, 0.0);
+    int stayed = 0;
+    int carried = 0;
+    for (int i = 0; i < 8; ++i, x = std::nextafter(x, 1.0)) {
+        const double seconds = x * 3600;
+        const auto split = KelvoSub::SplitDeg(x, messages);
+        if (seconds > 59.99999) {
+            EXPECT_EQ(split.M, 1);
+            EXPECT_EQ(split.S, 0);
+            ++carried;
+        } else {
+            EXPECT_EQ(split.M, 0);
+            EXPECT_EQ(split.S, seconds);
+            ++stayed;
+        }
+    }
+    EXPECT_GT(stayed, 0);
+    EXPECT_GT(carried, 0);
+}
+
+TEST_F(Angles, AMinuteOfExactlySixtyIsCarried) {
+    expectSplit(59.999999999, 60, 0, 0);
+    expectSplit(359.9999999999, 360, 0, 0);
+}
+
+TEST_F(Angles, ANegativeValueIsSplitFromTheDegreesBelow) {
+    expectSplit(-37.5, -38, 30, 0);
+    expectSplit(-0.5, -1, 30, 0);
+}
+
+TEST_F(Angles, DegreesBeyondSixteenBitsOverflow) {
+    EXPECT_EQ(faultOf([&] { return KelvoSub::SplitDeg(32768, messages); }), 6);
+    EXPECT_EQ(faultOf([&] { return KelvoSub::SplitDeg(-32769, messages); }), 6);
+    EXPECT_EQ(faultOf([&] { return KelvoSub::SplitDeg(32767.99999999999, messages); }), 6)
+        << "the carry goes beyond";
+    EXPECT_EQ(KelvoSub::SplitDeg(-32768, messages).D, -32768);
+    EXPECT_EQ(KelvoSub::SplitDeg(32767.5, messages).D, 32767);
+    for (const int form : {0, 1, 2, 3, 4, 9}) {
+        EXPECT_EQ(faultOf([&] { return text(32768, form); }), 6) << form;
+        EXPECT_EQ(faultOf([&] { return text(-1e300, form); }), 6) << form;
+    }
+}
+
+TEST_F(Angles, ParseDmsTakesSixtyAndMoreAtFaceValue) {
+    EXPECT_DOUBLE_EQ(KelvoSub::ParseDms(127.6000, messages), 128);
+    EXPECT_DOUBLE_EQ(KelvoSub::ParseDms(127.9999, messages), 128.6775);
+    EXPECT_DOUBLE_EQ(KelvoSub::ParseDms(127.3, messages), 127.5);
+    EXPECT_TRUE(messages.shown.empty());
+}
+
+TEST_F(Angles, ParseDmsReadsEveryDigitOfTheSeconds) {
+    EXPECT_DOUBLE_EQ(KelvoSub::ParseDms(37.35332567, messages), 37 + 35.0 / 60 + 33.2567 / 3600);
+    EXPECT_DOUBLE_EQ(KelvoSub::ParseDms(0.0000000001, messages), 0.000001 / 3600);
+}
+
+TEST_F(Angles, DecimalsPastTheTenthPlaceAreLost) {
+    EXPECT_EQ(KelvoSub::ParseDms(1.00000000005, messages),
+              KelvoSub::ParseDms(1.0000000001, messages))
+        << "rounded up";
+    EXPECT_EQ(KelvoSub::ParseDms(1.00000000004, messages), 1);
+}
+
+TEST_F(Angles, ParseDmsTellsWhenTheSplitDoesNotRebuildTheValue) {
+    // seconds of 59.999991 are above the limit of the carry and off by 2.5e-9 degrees
+    const double degrees = KelvoSub::ParseDms(37.2959999991, messages);
+    EXPECT_NEAR(degrees, 37.4999999975, 1e-13) << "and stays what was read";
+    ASSERT_EQ(messages.shown.size(), 1U);
+    EXPECT_EQ(messages.shown[0].text,
+              "  37.2959999991도분초를  각도   37.4999999975 로 환산할때 에러가 있습니다.\r\n"
+              "Program 개발자에게 알려 주시기 바랍니다.");
+    EXPECT_EQ(messages.shown[0].buttons, Buttons::Ok);
+}
+
+TEST_F(Angles, DmsToDegAndBackKeepTheSign) {
+    EXPECT_DOUBLE_EQ(KelvoSub::DmsToDeg(-127.3, messages), -127.5);
+    EXPECT_DOUBLE_EQ(KelvoSub::DegToDms(-127.5, messages), -127.3);
+    EXPECT_DOUBLE_EQ(KelvoSub::DegToDms(127.5, messages), 127.3);
+    EXPECT_TRUE(messages.shown.empty());
+}
+
+TEST_F(Angles, ZeroStaysZeroWithoutAMessage) {
+    EXPECT_EQ(KelvoSub::DmsToDeg(0, messages), 0);
+    EXPECT_EQ(KelvoSub::DegToDms(0, messages), 0);
+    EXPECT_TRUE(messages.shown.empty());
+}
+
+TEST_F(Angles, PartsOfANegativeAngleComeOutAsTheyFall) {
+    const auto negative = KelvoSub::DegToDmsParts(-37.5, messages);
+    EXPECT_EQ(negative.D, 38);
+    EXPECT_EQ(negative.M, 30);
+    EXPECT_EQ(negative.S, 0);
+    const auto positive = KelvoSub::DegToDmsParts(37.5, messages);
+    EXPECT_EQ(positive.D, 37);
+    EXPECT_EQ(positive.M, 30);
+    EXPECT_EQ(KelvoSub::DegToDmsParts(0, messages).D, 0);
+}
+
+TEST_F(Angles, TheTextOfEachFormIsNineteenColumnsWide) {
+    EXPECT_EQ(text(127.5, 1), "     127.5000000000");
+    EXPECT_EQ(text(127.5, 2), "     127 30 00.0000");
+    EXPECT_EQ(text(127.5, 3), "     127-30-00.0000");
+    EXPECT_EQ(text(127.5, 4), "     127.3000000000");
+    for (const double x : {0.0, -0.5, 5.051, 37.123456789, -127.999999, 359.99}) {
+        for (int form = 1; form <= 4; ++form) EXPECT_EQ(text(x, form).size(), 19U) << x;
+    }
+}
+
+TEST_F(Angles, TheSignComesFromTheValueAndNotFromTheDegrees) {
+    EXPECT_EQ(text(-0.5, 3), "      -0-30-00.0000");
+    EXPECT_EQ(text(-0.5, 2), "      -0 30 00.0000");
+    EXPECT_EQ(text(-0.5, 1), "      -0.5000000000");
+    EXPECT_EQ(text(-0.5, 4), "      -0.3000000000");
+}
+
+TEST_F(Angles, ANegativeAngleIsSplitFromItsAbsoluteValue) {
+    EXPECT_EQ(text(-37.25, 3), "     -37-15-00.0000");
+}
+
+TEST_F(Angles, AnUnknownFormGivesNoText) {
+    EXPECT_EQ(text(127.5, 0), "");
+    EXPECT_EQ(text(127.5, 5), "");
+    EXPECT_EQ(text(127.5, -1), "");
+}
+
+TEST_F(Angles, SecondsJustBelowTheCarryPrintAsSixty) {
+    const double x = 127 + 29.0 / 60 + 59.99996 / 3600;
+    EXPECT_EQ(text(x, 3), "     127-29-60.0000");
+    EXPECT_EQ(text(127 + 29.0 / 60 + 59.99994 / 3600, 3), "     127-29-59.9999");
+}
+
+TEST_F(Angles, SmallMinutesAndSecondsGetALeadingZero) {
+    EXPECT_EQ(text(36 + 1.0 / 60 + 5.25 / 3600, 3), "      36-01-05.2500");
+}
+
+TEST_F(Angles, TheAppendingFormGivesTheSameText) {
+    std::string line = "A-1       ";
+    KelvoSub::appendAngleText(line, 127.5, 3, messages);
+    EXPECT_EQ(line, "A-1            127-30-00.0000");
+}
+
+TEST_F(Angles, TextOfFormFourReadsBackToTheAngle) {
+    for (double x = 0.0137; x < 180; x += 0.7391) {
+        const double read = KelvoSub::DmsToDeg(leadingNumber(text(x, 4)), messages);
+        // six decimals of a second
+        EXPECT_NEAR(read, x, 0.6e-6 / 3600) << x;
+    }
+}
+
+TEST_F(Angles, ArcSecLenGivesMetresOfASecond) {
+    const auto lengths = KelvoSub::ArcSecLen(35, 127, messages);
+    EXPECT_NEAR(lengths.MPhi, 30.8136, 0.00005);
+    EXPECT_NEAR(lengths.MLam, 25.3548, 0.00005);
+}
+
+TEST_F(Angles, ArcSecLenAcrossAZoneBorderIsTheDistanceBetweenTheZones) {
+    const auto border = KelvoSub::ArcSecLen(37, 128.0, messages);
+    EXPECT_NEAR(border.MLam, 177980, 10);
+    EXPECT_NEAR(border.MPhi, 30.82, 0.01) << "the latitude stays sound";
+    const auto west = KelvoSub::ArcSecLen(37, 126 - 0.5 / 3600, messages);
+    EXPECT_GT(west.MLam, 170000);
+    const auto inside = KelvoSub::ArcSecLen(37, 127.9, messages);
+    EXPECT_LT(inside.MLam, 25);
+}
+
+}  // namespace
+}  // namespace kelvo

@@ -1,0 +1,234 @@
+#include "geodesy/transverse_mercator.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "support/recording_messages.h"
+
+namespace kelvo {
+namespace {
+
+using KelvoSub::GeoToTM;
+using KelvoSub::TMToGeo;
+using testing::RecordingMessages;
+
+constexpr Ellipsoid kUserBessel{6377397.155, 299.1528128};
+constexpr Projection kCentre{500000, 200000, 38, 127, 1};
+constexpr const char* kForwardMessage =
+    "직교좌표로 변환할 수 없는 데이터 입니다. 타원체 제원과 경위도를 확인후 다시 하십시오";
+constexpr const char* kBackwardMessage =
+    "경위도로 변환할 수 없는 직교좌표 입니다. 타원체 제원과 좌표를 확인후 다시 하십시오";
+
+TEST(GeoToTM, TheOriginGivesExactlyItsFalseCoordinates) {
+    RecordingMessages messages;
+    const GridPoint point = GeoToTM(38, 127, kUserBessel, kCentre, messages);
+    EXPECT_EQ(point.X, 500000);
+    EXPECT_EQ(point.Y, 200000);
+    const Position back = TMToGeo(500000, 200000, kUserBessel, kCentre, messages);
+    EXPECT_NEAR(back.Phi, 38, 1e-13);
+    EXPECT_NEAR(back.Lam, 127, 1e-13);
+}
+
+TEST(GeoToTM, AFlatteningAndItsReciprocalGiveTheSame) {
+    RecordingMessages messages;
+    const GridPoint one = GeoToTM(37.5, 127.5, {6377397.155, 299.152813}, kCentre, messages);
+    const GridPoint other = GeoToTM(37.5, 127.5, {6377397.155, 1 / 299.152813}, kCentre, messages);
+    EXPECT_EQ(one.X, other.X);
+    EXPECT_EQ(one.Y, other.Y);
+}
+
+TEST(NormFlat, AFlatteningOfExactlyOneStands) {
+    double f = 1.0;
+    KelvoSub::NormFlat(f);
+    EXPECT_EQ(f, 1.0);
+    f = 4;
+    KelvoSub::NormFlat(f);
+    EXPECT_EQ(f, 0.25);
+    f = -3;
+    KelvoSub::NormFlat(f);
+    EXPECT_EQ(f, -3);
+}
+
+TEST(GeoToTM, WithoutALongitudeDifferenceTheEastingIsTheFalseOne) {
+    RecordingMessages messages;
+    for (double phi = -80; phi <= 80; phi += 8.25) {
+        EXPECT_EQ(GeoToTM(phi, 127, kUserBessel, kCentre, messages).Y, 200000);
+    }
+}
+
+TEST(GeoToTM, IsEvenInTheLongitudeDifference) {
+    RecordingMessages messages;
+    const GridPoint east = GeoToTM(37.5, 128.25, kUserBessel, kCentre, messages);
+    const GridPoint west = GeoToTM(37.5, 125.75, kUserBessel, kCentre, messages);
+    EXPECT_NEAR(east.X, west.X, 1e-8);
+    EXPECT_NEAR(east.Y - 200000, 200000 - west.Y, 1e-8);
+}
+
+TEST(GeoToTM, AFaultTellsAndGivesTheFalseCoordinates) {
+    RecordingMessages messages;
+    const GridPoint point = GeoToTM(37.5, 127.5, {0, 299}, kCentre, messages);
+    EXPECT_EQ(point.X, 500000);
+    EXPECT_EQ(point.Y, 200000);
+    ASSERT_EQ(messages.texts(), std::vector<std::string>{kForwardMessage});
+    EXPECT_EQ(messages.shown[0].buttons, Buttons::Ok);
+    EXPECT_EQ(messages.shown[0].icon, Icon::None);
+    EXPECT_EQ(messages.shown[0].title, "");
+}
+
+TEST(GeoToTM, AZeroScaleGivesTheFalseCoordinatesWithoutAMessage) {
+    RecordingMessages messages;
+    const GridPoint point =
+        GeoToTM(37.5, 127.5, kUserBessel, {500000, 200000, 38, 127, 0}, messages);
+    EXPECT_EQ(point.X, 500000);
+    EXPECT_EQ(point.Y, 200000);
+    EXPECT_TRUE(messages.shown.empty());
+}
+
+TEST(TMToGeo, AZeroScaleTellsAndGivesTheOriginAsGiven) {
+    RecordingMessages messages;
+    const Position point =
+        TMToGeo(444627, 244207, kUserBessel, {500000, 200000, 38.25, 127.125, 0}, messages);
+    EXPECT_EQ(point.Phi, 38.25);
+    EXPECT_EQ(point.Lam, 127.125);
+    EXPECT_EQ(messages.texts(), std::vector<std::string>{kBackwardMessage});
+}
+
+TEST(GeoToTM, AnyFinitePositionGivesFiniteNumbersOrTheMessage) {
+    for (const double phi : {0.0, 45.0, 90.0, 90.5, 180.0, -1e4, 1e6, 1e15, 1e308}) {
+        for (const double lam : {0.0, 127.0, -180.0, 1e6, 1e12, 1e200, -1e308}) {
+            RecordingMessages messages;
+            const GridPoint p = GeoToTM(phi, lam, kUserBessel, kCentre, messages);
+            EXPECT_TRUE(std::isfinite(p.X) && std::isfinite(p.Y)) << phi << ' ' << lam;
+            const Position q = TMToGeo(phi * 1e5, lam * 1e5, kUserBessel, kCentre, messages);
+            EXPECT_TRUE(std::isfinite(q.Phi) && std::isfinite(q.Lam)) << phi << ' ' << lam;
+        }
+    }
+}
+
+TEST(GeoToTM, EllipsoidsThatMakeNoSenseNeverGiveInfinity) {
+    for (const double a : {0.0, -1.0, 1e-300, 1e300, 6377397.155}) {
+        for (const double f : {0.0, 1.0, 1e-300, 1e300, -1.0, 0.5, 2.0}) {
+            for (const double S0 : {0.0, 1.0, -1.0, 1e-300, 1e300}) {
+                RecordingMessages messages;
+                const Projection p{500000, 200000, 38, 127, S0};
+                const GridPoint g = GeoToTM(37.5, 127.5, {a, f}, p, messages);
+                EXPECT_TRUE(std::isfinite(g.X) && std::isfinite(g.Y)) << a << ' ' << f << ' ' << S0;
+                const Position q = TMToGeo(444627, 244207, {a, f}, p, messages);
+                EXPECT_TRUE(std::isfinite(q.Phi) && std::isfinite(q.Lam))
+                    << a << ' ' << f << ' ' << S0;
+            }
+        }
+    }
+}
+
+TEST(RadiusN, IsTheAxisAtTheEquatorAndGrowsToThePole) {
+    const double e2 = 0.00669437999014132;
+    EXPECT_EQ(KelvoSub::RadiusN(6378137, e2, 0), 6378137);
+    EXPECT_NEAR(KelvoSub::RadiusN(6378137, e2, std::atan(1.0) * 2), 6399593.6258, 1e-4);
+    EXPECT_NEAR(KelvoSub::RadiusM(6378137, e2, 0), 6335439.3273, 1e-4);
+    EXPECT_NEAR(KelvoSub::RadiusM(6378137, e2, std::atan(1.0) * 2), 6399593.6258, 1e-4);
+    EXPECT_NEAR(KelvoSub::RadiusW(e2, std::atan(1.0) * 2), std::sqrt(1 - e2), 1e-15);
+}
+
+TEST(MeridianArc, AddsTheFiveTermsWithAlternatingSigns) {
+    const double phi = 0.5;
+    EXPECT_DOUBLE_EQ(KelvoSub::MeridianArc(1, 0, 0, 0, 0, phi), 0.5);
+    EXPECT_DOUBLE_EQ(KelvoSub::MeridianArc(0, 1, 0, 0, 0, phi), -std::sin(1.0));
+    EXPECT_DOUBLE_EQ(KelvoSub::MeridianArc(0, 0, 1, 0, 0, phi), std::sin(2.0));
+    EXPECT_DOUBLE_EQ(KelvoSub::MeridianArc(0, 0, 0, 1, 0, phi), -std::sin(3.0));
+    EXPECT_DOUBLE_EQ(KelvoSub::MeridianArc(0, 0, 0, 0, 1, phi), std::sin(4.0));
+}
+
+TEST(BesselToTM, AZoneBelowOneIsChosenByTheLongitude) {
+    RecordingMessages messages;
+    const auto zoneAt = [&](double lam, int zone) {
+        (void)KelvoSub::BesselToTM(37, lam, zone, 10.405, messages);
+        return zone;
+    };
+    EXPECT_EQ(zoneAt(125.9, 0), 1);
+    EXPECT_EQ(zoneAt(126.0, 0), 2);
+    EXPECT_EQ(zoneAt(128.0, 0), 2);
+    EXPECT_EQ(zoneAt(128.1, 0), 3);
+    EXPECT_EQ(zoneAt(131.9, -4), 3);
+    EXPECT_EQ(zoneAt(128.1, 1), 1) << "a zone given is kept";
+}
+
+TEST(BesselToTM, AZoneAboveHasNoLimitUnlikeTheWayBack) {
+    RecordingMessages messages;
+    int zone = 5;
+    const GridPoint point = KelvoSub::BesselToTM(37.5, 133, zone, 0, messages);
+    EXPECT_EQ(zone, 5);
+    EXPECT_EQ(point.Y, 200000) << "on its own central meridian of 133 degrees";
+    const Position back = KelvoSub::TMToBessel(point.X, point.Y, zone, 0, messages);
+    EXPECT_EQ(zone, 3);
+    EXPECT_NEAR(back.Lam, 129, 1e-12);
+    EXPECT_NEAR(back.Phi, 37.5, 1e-12);
+    zone = 0;
+    (void)KelvoSub::TMToBessel(point.X, point.Y, zone, 0, messages);
+    EXPECT_EQ(zone, 1);
+    EXPECT_TRUE(messages.shown.empty());
+}
+
+TEST(BesselToTM, TheShiftMovesTheCentralMeridianEast) {
+    RecordingMessages messages;
+    int zone = 2;
+    const GridPoint point =
+        KelvoSub::BesselToTM(37.5, 127 + 10.405 / 3600, zone, kOriginShiftSeconds, messages);
+    EXPECT_NEAR(point.Y, 200000, 1e-7);
+}
+
+TEST(ChkZone, TakesTheZoneByTheLongitudeUpToAndIncludingItsEasternBorder) {
+    struct Case {
+        double lam;
+        int zone;
+        double origin;
+    };
+    for (const auto& [lam, expected, origin] : {Case{124, 1, 125},
+                                                {125.9999999, 1, 125},
+                                                {126, 2, 127},
+                                                {128, 2, 127},
+                                                {128.0000001, 3, 129},
+                                                {130, 3, 129},
+                                                {130.0000001, 4, 131},
+                                                {1e6, 4, 131},
+                                                {-10, 1, 125}}) {
+        for (const int before : {-7, 0, 1, 4}) {
+            auto zone = static_cast<std::int16_t>(before);
+            double Lam0 = 111;
+            KelvoSub::chkZone(lam, zone, Lam0);
+            EXPECT_EQ(zone, expected) << lam;
+            EXPECT_EQ(Lam0, origin) << lam;
+        }
+    }
+}
+
+TEST(ChkZone, LeavesZoneFiveAndAboveAlone) {
+    for (const int zone : {5, 6, 32767}) {
+        auto after = static_cast<std::int16_t>(zone);
+        double Lam0 = 126.5;
+        KelvoSub::chkZone(129.5, after, Lam0);
+        EXPECT_EQ(after, zone);
+        EXPECT_EQ(Lam0, 126.5);
+    }
+}
+
+TEST(ChkUZone, OverridesAlsoTheUserOriginOfThree) {
+    std::int16_t zone = 3;
+    double Lam0 = 117;
+    KelvoSub::chkUZone(126, zone, Lam0);
+    EXPECT_EQ(zone, 2);
+    EXPECT_EQ(Lam0, 129);
+    zone = 3;
+    KelvoSub::chkUZone(125.9999, zone, Lam0);
+    EXPECT_EQ(zone, 1);
+    EXPECT_EQ(Lam0, 123);
+    zone = 4;
+    Lam0 = 117;
+    KelvoSub::chkUZone(126, zone, Lam0);
+    EXPECT_EQ(zone, 4);
+    EXPECT_EQ(Lam0, 117);
+}
+
+}  // namespace
+}  // namespace kelvo
