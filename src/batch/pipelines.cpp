@@ -51,9 +51,12 @@ public:
     explicit Chain(BatchRun& run)
         : run_(run),
           para_(run.para),
-          shift_(run.para.AddFlag == 1 ? kOriginShiftSeconds / 3600 : 0) {}
+          shift_(run.para.AddFlag == 1 ? kOriginShiftSeconds / 3600 : 0),
+          tm_(userEllipsoid(), tmProjection()),
+          utm_(utmEllipsoid(), utmProjection()) {}
 
     [[nodiscard]] Ellipsoid userEllipsoid() const { return {.a = para_.a, .f = para_.f}; }
+    [[nodiscard]] Ellipsoid utmEllipsoid() const { return {.a = para_.Ua, .f = para_.Uf}; }
 
     [[nodiscard]] Position degrees(const PointLine& line, MessageBoxes& messages) const {
         if (run_.AngleIn == kAngleDegrees) return {.Phi = line.first, .Lam = line.second};
@@ -62,12 +65,13 @@ public:
     }
 
     [[nodiscard]] Position ofTm(const PointLine& line, MessageBoxes& messages) const {
-        return KelvoSub::TMToGeo(line.first, line.second, userEllipsoid(), tmGrid(), messages);
+        return KelvoSub::TMToGeo(line.first, line.second, userEllipsoid(), tmProjection(),
+                                 messages);
     }
 
     [[nodiscard]] Position ofUtm(const PointLine& line, MessageBoxes& messages) const {
-        return KelvoSub::TMToGeo(line.first, line.second, {.a = para_.Ua, .f = para_.Uf}, utmGrid(),
-                                 messages);
+        return KelvoSub::TMToGeo(line.first, line.second, {.a = para_.Ua, .f = para_.Uf},
+                                 utmProjection(), messages);
     }
 
     [[nodiscard]] Geocentric fromWgs(const Position& wgs, double h) const {
@@ -109,16 +113,16 @@ public:
 
     void fillTm(PointRec& row) const {
         KelvoSub::chkZone(row.UserLam, para_.Zone, para_.Lam0);
-        const GridPoint grid =
-            KelvoSub::GeoToTM(row.UserPhi, row.UserLam, userEllipsoid(), tmGrid(), run_.messages);
+        const GridPoint grid = KelvoSub::GeoToTM(row.UserPhi, row.UserLam, userEllipsoid(),
+                                                 tmProjection(), run_.messages);
         row.TmX = grid.X;
         row.TmY = grid.Y;
     }
 
-    void fillUtm(PointRec& row) const {
+    void fillUtm(PointRec& row) {
         KelvoSub::chkUZone(row.UserLam, para_.UZone, para_.ULam0);
-        const GridPoint grid = KelvoSub::GeoToTM(
-            row.UserPhi, row.UserLam, {.a = para_.Ua, .f = para_.Uf}, utmGrid(), run_.messages);
+        utm_.setCentralMeridian(para_.ULam0);
+        const GridPoint grid = KelvoSub::GeoToTM(row.UserPhi, row.UserLam, utm_, run_.messages);
         row.UtmX = grid.X;
         row.UtmY = grid.Y;
     }
@@ -134,7 +138,7 @@ private:
     }
 
     // The shift counts for the TM grid only, and is never kept in Lam0.
-    [[nodiscard]] Projection tmGrid() const {
+    [[nodiscard]] Projection tmProjection() const {
         return {.X0 = para_.X0,
                 .Y0 = para_.Y0,
                 .Phi0 = para_.Phi0,
@@ -142,7 +146,7 @@ private:
                 .S0 = para_.S0};
     }
 
-    [[nodiscard]] Projection utmGrid() const {
+    [[nodiscard]] Projection utmProjection() const {
         return {.X0 = para_.UX0,
                 .Y0 = para_.UY0,
                 .Phi0 = para_.UPhi0,
@@ -153,6 +157,8 @@ private:
     BatchRun& run_;
     TransPara& para_;
     double shift_;
+    TmGrid tm_;
+    TmGrid utm_;
 };
 
 // The four systems of a line. `locate` and `shift` rest on nothing that a point of the same block
@@ -165,7 +171,7 @@ struct FromWgs {
         return chain.fromWgs(own, h);
     }
     static Ellipsoid target(const Chain& chain) { return chain.userEllipsoid(); }
-    static void fill(const Chain& chain, PointRec& row, const PointLine& line, const Located& at) {
+    static void fill(Chain& chain, PointRec& row, const PointLine& line, const Located& at) {
         row.WgsPhi = at.own.Phi;
         row.WgsLam = at.own.Lam;
         row.WgsH = line.third;
@@ -188,7 +194,7 @@ struct FromUgs : FromUser {
     static Position locate(const Chain& chain, const PointLine& line, MessageBoxes& messages) {
         return chain.degrees(line, messages);
     }
-    static void fill(const Chain& chain, PointRec& row, const PointLine& line, const Located& at) {
+    static void fill(Chain& chain, PointRec& row, const PointLine& line, const Located& at) {
         row.UserPhi = at.own.Phi;
         row.UserLam = at.own.Lam;
         row.UserH = line.third;
@@ -204,7 +210,7 @@ struct FromTm : FromUser {
     static Position locate(const Chain& chain, const PointLine& line, MessageBoxes& messages) {
         return chain.ofTm(line, messages);
     }
-    static void fill(const Chain& chain, PointRec& row, const PointLine& line, const Located& at) {
+    static void fill(Chain& chain, PointRec& row, const PointLine& line, const Located& at) {
         row.TmX = line.first;
         row.TmY = line.second;
         row.TmH = line.third;
@@ -221,7 +227,7 @@ struct FromUtm : FromUser {
     static Position locate(const Chain& chain, const PointLine& line, MessageBoxes& messages) {
         return chain.ofUtm(line, messages);
     }
-    static void fill(const Chain& chain, PointRec& row, const PointLine& line, const Located& at) {
+    static void fill(Chain& chain, PointRec& row, const PointLine& line, const Located& at) {
         row.UtmX = line.first;
         row.UtmY = line.second;
         row.UtmH = line.third;
