@@ -97,12 +97,10 @@ TEST_F(PlotLines, DashedLineOfTenMillimetresHasTwoDashesAndAnEmptyRest) {
     useScreen();
     useUpwardWindow();  // 10 mm a unit
     object.plinedot(1, 5, 2, 5, 1, 3, 1);
-    const auto lines = told();
-    EXPECT_EQ(lines, (Lines{"DrawWidth = 1.0000",
-                            "Line 567.0000 2835.0000 567.0000 2835.0000 0 6",    // the start
-                            "Line 567.0000 2835.0000 737.1000 2835.0000 0 6",    // 0 to 3 mm
-                            "Line 793.8000 2835.0000 963.9000 2835.0000 0 6"}))  // 4 to 7 mm
-    ;
+    // The pen on the start, then a dash from 0 to 3 mm and one from 4 to 7 mm.
+    EXPECT_EQ(told(), (Lines{"DrawWidth = 1.0000", "Line 567.0000 2835.0000 567.0000 2835.0000 0 6",
+                             "Line 567.0000 2835.0000 737.1000 2835.0000 0 6",
+                             "Line 793.8000 2835.0000 963.9000 2835.0000 0 6"}));
     EXPECT_NEAR(object.LastX(), 1.8, 1e-6);  // the start of the period that isn't drawn
 }
 

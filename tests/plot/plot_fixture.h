@@ -41,12 +41,6 @@ protected:
     // The window in which most plots stand: x to the right, y upward on the sheet.
     void useUpwardWindow() { object.pwindow(0, 0, 100, 10, 0, 10, 100, 0, 0); }
 
-    static std::string numbered(const char* name, double value) {
-        char text[80];
-        std::snprintf(text, sizeof text, "%s = %.4f", name, value);
-        return text;
-    }
-
     Lines recorded;
     RecordingMessages messages;
     RecordingStarts starts;

@@ -229,7 +229,7 @@ TEST_F(PointPlots, SevenDigitNorthIsShownWhole) {
 }
 
 TEST_F(PointPlots, ManualScaleAfterAnAutomaticPlotDrawsTheSamePicture) {
-    for (const std::int16_t kind : {1, 2, 3}) {
+    for (const std::int16_t kind : std::initializer_list<std::int16_t>{1, 2, 3}) {
         points.PointCount = 0;
         cfg.PlotKind = kind;
         cfg.PlotManual = 0;
