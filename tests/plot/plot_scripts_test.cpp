@@ -17,7 +17,7 @@ Lines linesOf(const std::filesystem::path& path) {
 }
 
 std::vector<std::string> scriptNames() {
-    return {"09-lines", "23-text-turned", "29-symbols"};
+    return {"plot_lines", "plot_text_turned", "plot_symbols"};
 }
 
 class PlotScripts : public ::testing::TestWithParam<std::string> {};
@@ -58,11 +58,7 @@ TEST_P(PlotScripts, GivesItsTranscriptLineByLine) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Examples, PlotScripts, ::testing::ValuesIn(scriptNames()),
-                         [](const auto& example) {
-                             std::string name = example.param.substr(3);
-                             std::erase(name, '-');
-                             return name;
-                         });
+                         [](const auto& example) { return example.param; });
 
 TEST(RoutineScript, LineIsReadIntoNumbersTextsAndFlags) {
     Call call = readCall(R"(ptextR "a \"b\" \\ c" -1.5 2e3 true)");
