@@ -4,12 +4,16 @@
 #include <vector>
 
 #include "common/letter_case.h"
+#include "common/number_text.h"
+#include "common/paths.h"
+#include "common/text_constants.h"
 
 namespace kelvo {
 
 namespace {
 
 constexpr std::size_t kMostRecent = 5;
+constexpr int kFirstRecentItem = 7;
 // "C:\": the top folder of a drive keeps its separator.
 constexpr std::size_t kDriveRootLength = 3;
 
@@ -42,6 +46,50 @@ std::string folderToWorkIn(std::string_view path) {
     const std::string_view withSeparator = path.substr(0, separator + 1);
     if (withSeparator.size() == kDriveRootLength) return std::string(withSeparator);
     return std::string(path.substr(0, separator));
+}
+
+RecentFileList::RecentFileList(ProgramState& state, Control& window, const MenuControls& menus,
+                               Disk& disk, MessageBoxes& messages)
+    : state_(state),
+      window_(window),
+      mnuFileItem_(menus.mnuFileItem),
+      disk_(disk),
+      messages_(messages) {}
+
+void RecentFileList::UpdateRecentFiles(const std::string& name) {
+    if (name.empty()) return;
+    const auto tell = [this](const RuntimeFault& fault) {
+        messages_.tell("Error  " + generalText(fault.number()) + "  " + fault.text());
+    };
+    try {
+        if (genSub::FileExists(disk_, name) == genSub::kFileIsMissing)
+            disk_.openForWriting(name)->close();
+    } catch (const RuntimeFault& fault) {
+        tell(fault);
+    }
+    try {
+        const std::string folder = folderToWorkIn(name);
+        if (!folder.empty()) disk_.setCurrentFolder(folder);
+    } catch (const RuntimeFault& fault) {
+        tell(fault);
+    }
+    state_.RecentFiles = withNameOnTop(state_.RecentFiles, name, disk_);
+    rebuildMenu();
+    showCaption();
+}
+
+void RecentFileList::rebuildMenu() {
+    mnuFileItem_.unloadEntriesDownTo(kFirstRecentItem);
+    for (std::size_t i = 1; i <= kMostRecent && !state_.RecentFiles[i].empty(); ++i)
+        mnuFileItem_.loadEntry("&" + std::to_string(i) + " " + state_.RecentFiles[i]);
+    mnuFileItem_.loadEntry("-");
+    mnuFileItem_.loadEntry("종료");
+}
+
+void RecentFileList::showCaption() {
+    std::string caption = "좌표변환프로그램 Kelvo ";
+    caption.append(kOwnerLine).append(AppVersion).append(" - ").append(state_.RecentFiles[1]);
+    window_.setCaption(caption);
 }
 
 }  // namespace kelvo
