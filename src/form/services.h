@@ -39,7 +39,7 @@ class RawPrinter {
 public:
     virtual ~RawPrinter() = default;
     // A path without a folder lies in the current folder.
-    virtual void printRaw(const std::string& path) = 0;
+    virtual void print(const std::string& path) = 0;
 };
 
 class Beeper {

@@ -34,7 +34,9 @@ void PointPictures::drawOnPrinter() {
 }
 
 void PointPictures::draw(std::unique_ptr<clsplot1>& object, int kind, Surface& surface) {
-    if (!object) object = std::make_unique<clsplot1>();
+    if (!object)
+        object = std::make_unique<clsplot1>(services_.messages, services_.programs,
+                                            services_.surfaces.printer());
     const PlotTexts texts{.dataFile = state_.RecentFiles[1],
                           .date = services_.clock.date(),
                           .time = services_.clock.time()};

@@ -6,6 +6,7 @@
 #include "common/letter_case.h"
 #include "common/number_text.h"
 #include "common/paths.h"
+#include "common/run_time_fault.h"
 #include "common/text_constants.h"
 
 namespace kelvo {

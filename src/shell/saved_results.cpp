@@ -33,8 +33,9 @@ SavedResults::SavedResults(const MenuControls& menus, const ParameterControls& p
 
 std::string SavedResults::dms(const Control& box) {
     const DegreesMinutesSeconds angle = KelvoSub::DegToDmsParts(strictNumberOf(box), messages_);
-    return genSub::FormatNum(double{angle.D}, 4, 0) + "-" +
-           genSub::FormatNum(double{angle.M}, 2, 0) + "-" + genSub::FormatNum(angle.S, 2, 4);
+    return genSub::FormatNum(static_cast<double>(angle.D), 4, 0) + "-" +
+           genSub::FormatNum(static_cast<double>(angle.M), 2, 0) + "-" +
+           genSub::FormatNum(angle.S, 2, 4);
 }
 
 void SavedResults::writeResultBlock(TextWriter& file) {
