@@ -38,6 +38,7 @@ public:
 class RawPrinter {
 public:
     virtual ~RawPrinter() = default;
+    // A path without a folder lies in the current folder.
     virtual void print(const std::string& path) = 0;
 };
 
@@ -69,7 +70,7 @@ public:
 class BusyPointer {
 public:
     virtual ~BusyPointer() = default;
-    virtual void setBusy(bool on) = 0;
+    virtual void setBusy(bool busy) = 0;
 };
 
 // The surfaces that plots are drawn on. They live as long as the form.

@@ -25,6 +25,7 @@ public:
 
     [[nodiscard]] Form& form();
     [[nodiscard]] ProgramState& state();
+    [[nodiscard]] const Services& services() const;
 
     // Places and hides the panels, fills the lists and boxes, restores the plot settings.
     void Form_Load();
@@ -36,15 +37,17 @@ public:
     // Prints a text file in the mode of the print mode panel.
     void PrintFile(const std::string& name);
 
-private:
-    friend void Main(frmKelvo& window);
+    // Puts a file on top of the recent list, menu and caption included.
+    void UpdateRecentFiles(const std::string& name);
 
-    struct Parts;
-    std::unique_ptr<Parts> parts_;
+private:
+    struct Members;
+    std::unique_ptr<Members> members_;
 };
 
 // The program's start: reads the configuration (writing a new one and the sample data file
-// where there is none), fills the list of recent files and loads the window.
+// where there is none), fills the list of recent files and loads the window. Fault 9 for a list
+// of more than six entries of which none behind the fifth is there (required).
 void Main(frmKelvo& window);
 
 }  // namespace kelvo

@@ -1,0 +1,162 @@
+#include "shell/frm_kelvo.h"
+
+#include <utility>
+
+#include "batch/run_batch.h"
+#include "panels/one_point_panel.h"
+#include "panels/parameter_panels.h"
+#include "panels/print_mode_panel.h"
+#include "panels/scale_panel.h"
+#include "shell/common_dialog.h"
+#include "shell/configuration.h"
+#include "shell/file_menu.h"
+#include "shell/point_pictures.h"
+#include "shell/printing.h"
+#include "shell/recent_files.h"
+#include "shell/saved_results.h"
+#include "shell/small_commands.h"
+#include "shell/viewer.h"
+
+namespace kelvo {
+
+namespace {
+
+constexpr double kShareOfScreen = 0.88;
+constexpr double kMenuHeight = 700;  // twips
+
+ProgramState stateFor(std::string applicationFolder) {
+    ProgramState state;
+    state.applicationFolder = std::move(applicationFolder);
+    state.CfgPath = state.inApplicationFolder("kelvo.cfg");
+    state.CorPath = state.inApplicationFolder("kelvo.cor");
+    return state;
+}
+
+}  // namespace
+
+// Everything in the window, in the order in which it rests on each other.
+struct frmKelvo::Members final : RunView {
+    Members(std::string applicationFolder, const Services& theServices)
+        : services(theServices), state(stateFor(std::move(applicationFolder))) {
+        menus.mnuBatchGo.onClick = [this] { mnuBatchGo_Click(); };
+    }
+
+    void Form_Load();
+    void Form_Close();
+    void mnuBatchGo_Click();
+
+    // What a run asks of the window.
+    void runBegins() override { frmeOne.setVisible(false); }
+    void showResult() override { viewer.showRunResult(); }
+
+    void writeCfgFile() { WriteCfgFile(state, services.disk, services.messages); }
+
+    Services services;
+    ProgramState state;
+    Form form;
+    Control& window = form.window("frmKelvo");
+    MenuControls menus{form};
+    Control& Image1 = form.picture("Image1", "frmKelvo");
+    Control& frmeOne = form.frame("frmeOne", "frmKelvo", "");
+    ParameterPanels parameters{form, state};
+    OnePointPanel onePoint{form,
+                           frmeOne,
+                           parameters,
+                           state,
+                           services.disk,
+                           services.messages,
+                           [this] { writeCfgFile(); }};
+    ViewerControls viewerControls{form};
+    PlotSettingsPanel settings{form, state, services.disk, services.messages};
+    PrintModePanel printMode{form, window, frmeOne, viewerControls.frmeFile};
+    CommonDialog cmd{services.dialogs};
+    RecentFileList recent{state, window, menus, services.disk, services.messages};
+    PointPictures pictures{settings, state, services};
+    ResultViewer viewer{
+        viewerControls, settings.controls(), state, printMode, pictures, recent, cmd,
+        services.disk};
+    Printing printing{viewerControls, menus, printMode, viewer, pictures, cmd, state, services};
+    FileMenu fileMenu{menus,  frmeOne, state,    viewer,
+                      recent, cmd,     services, [this] { Form_Close(); }};
+    SavedResults savedResults{menus,  parameters.controls(), onePoint.controls(), state,
+                              viewer, services.disk,         services.messages};
+    SmallCommands smallCommands{menus,  frmeOne, viewerControls.frmeFile, state,
+                                viewer, cmd,     services.disk,           services.messages};
+};
+
+void frmKelvo::Members::Form_Load() {
+    const ScreenSize screen = services.screen.size();
+    window.setPosition(0, 0);
+    window.setSize(kShareOfScreen * screen.width + window.left(),
+                   kShareOfScreen * screen.height + window.top());
+    recent.showCaption();
+
+    frmeOne.setPosition(10, 50);
+    Image1.setPosition(0, 0);
+    Image1.setSize(window.width(), window.height() - kMenuHeight);
+    Image1.setVisible(true);
+    frmeOne.setVisible(false);
+    viewerControls.frmeFile.setPosition(300, 300);
+    viewerControls.frmeFile.setVisible(false);
+    printMode.controls().frmePrintMode.setPosition(3000, 1500);
+    printMode.controls().frmePrintMode.setVisible(false);
+    settings.controls().pctPlot.setVisible(false);
+    settings.controls().frmePcfg.setVisible(false);
+
+    parameters.fillPresetList();
+    printMode.fillLists();
+    parameters.showFlags();
+    onePoint.FillDefault();
+    parameters.FillDefault();
+    settings.RestorePcfgFile();
+    state.conversion.ParaDirty = true;
+}
+
+void frmKelvo::Members::Form_Close() {
+    parameters.SaveCfg();
+    writeCfgFile();
+    settings.SavePcfgFile();
+    services.programEnd.end();
+}
+
+void frmKelvo::Members::mnuBatchGo_Click() {
+    const RunPlaces places{.dataFile = state.RecentFiles[1],
+                           .detPath = state.inApplicationFolder("kelvo.det"),
+                           .CorPath = state.CorPath};
+    RunBatch(state.conversion, places, *this, services.disk, services.messages);
+}
+
+frmKelvo::frmKelvo(std::string applicationFolder, const Services& services)
+    : members_(std::make_unique<Members>(std::move(applicationFolder), services)) {}
+
+frmKelvo::~frmKelvo() = default;
+
+Form& frmKelvo::form() {
+    return members_->form;
+}
+
+ProgramState& frmKelvo::state() {
+    return members_->state;
+}
+
+const Services& frmKelvo::services() const {
+    return members_->services;
+}
+
+void frmKelvo::Form_Load() {
+    members_->Form_Load();
+}
+
+void frmKelvo::Form_Close() {
+    members_->Form_Close();
+}
+
+void frmKelvo::UpdateRecentFiles(const std::string& name) {
+    members_->recent.UpdateRecentFiles(name);
+}
+
+void frmKelvo::PrintFile(const std::string& name) {
+    members_->printing.PrintFile(name);
+}
+
+}  // namespace kelvo

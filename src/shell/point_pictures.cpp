@@ -1,0 +1,51 @@
+#include "shell/point_pictures.h"
+
+#include "plot/clsplot1.h"
+#include "plot/point_plots.h"
+
+namespace kelvo {
+
+namespace {
+
+constexpr int kPrinter = 1;
+constexpr int kScreen = 2;
+
+}  // namespace
+
+PointPictures::PointPictures(PlotSettingsPanel& settings, ProgramState& state,
+                             const Services& services)
+    : settings_(settings), state_(state), services_(services) {
+    settings_.controls().cmdPlot.onClick = [this] { cmdPlot_Click(); };
+}
+
+PointPictures::~PointPictures() = default;
+
+void PointPictures::cmdPlot_Click() {
+    settings_.SavePcfgFile();
+    drawOnScreen();
+}
+
+void PointPictures::drawOnScreen() {
+    draw(ScreenPlot_, kScreen, services_.surfaces.screen());
+}
+
+void PointPictures::drawOnPrinter() {
+    draw(PrinterPlot_, kPrinter, services_.surfaces.printer());
+}
+
+void PointPictures::draw(std::unique_ptr<clsplot1>& object, int kind, Surface& surface) {
+    if (!object)
+        object = std::make_unique<clsplot1>(services_.messages, services_.programs,
+                                            services_.surfaces.printer());
+    const PlotTexts texts{.dataFile = state_.RecentFiles[1],
+                          .date = services_.clock.date(),
+                          .time = services_.clock.time()};
+    PlotSource source{.points = state_.conversion.points,
+                      .cfg = state_.plotCfg,
+                      .panel = settings_,
+                      .texts = texts,
+                      .messages = services_.messages};
+    plot(*object, kind, surface, source);
+}
+
+}  // namespace kelvo

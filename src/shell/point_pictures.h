@@ -1,0 +1,40 @@
+// The picture of the points on the screen and on paper, and printing of what is on view.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "form/services.h"
+#include "panels/print_mode_panel.h"
+#include "panels/scale_panel.h"
+
+namespace kelvo {
+
+class clsplot1;
+
+class PointPictures {
+public:
+    PointPictures(PlotSettingsPanel& settings, ProgramState& state, const Services& services);
+    ~PointPictures();
+    PointPictures(const PointPictures&) = delete;
+    PointPictures& operator=(const PointPictures&) = delete;
+
+    // Saves the settings of the scale panel and draws.
+    void cmdPlot_Click();
+
+    // Draws with the settings as they are. The plot object is made at the first time and bound
+    // to its surface anew each time.
+    void drawOnScreen();
+    void drawOnPrinter();
+
+private:
+    void draw(std::unique_ptr<clsplot1>& object, int kind, Surface& surface);
+
+    PlotSettingsPanel& settings_;
+    ProgramState& state_;
+    const Services& services_;
+    std::unique_ptr<clsplot1> ScreenPlot_;
+    std::unique_ptr<clsplot1> PrinterPlot_;
+};
+
+}  // namespace kelvo

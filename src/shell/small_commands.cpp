@@ -1,0 +1,105 @@
+#include "shell/small_commands.h"
+
+#include <string>
+
+#include "common/paths.h"
+#include "common/text_constants.h"
+
+namespace kelvo {
+
+namespace {
+
+// One sentence a paragraph: what it is and for whom, that it is free, that it comes without
+// warranty, what else there is, and where suggestions go.
+constexpr std::array<std::string_view, 5> kAbout{
+    "Kelvo - 측량인을 위하여 측량인과 함께 만든 좌표변환프로그램입니다.",
+    "이 프로그램은 무료로 제공되며 소스는 누구나 이용하고 발전시킬 수 있습니다.",
+    "사용에 따른 책임은 사용자에게 있으며 제공자는 계산 결과를 보증하지 않습니다.",
+    "만든이의 다른 프로그램도 함께 이용해 주십시오.", "개선할 점이 있으면 알려 주시기 바랍니다."};
+
+}  // namespace
+
+SmallCommands::SmallCommands(const MenuControls& menus, Control& frmeOne, Control& frmeFile,
+                             ProgramState& state, ResultViewer& viewer, CommonDialog& cmd,
+                             Disk& disk, MessageBoxes& messages)
+    : menus_(menus),
+      frmeOne_(frmeOne),
+      frmeFile_(frmeFile),
+      state_(state),
+      viewer_(viewer),
+      cmd_(cmd),
+      disk_(disk),
+      messages_(messages) {
+    menus_.mnuBatchEdit.onClick = [this] { mnuBatchEdit_Click(); };
+    menus_.mnuCorrEdit.onClick = [this] { mnuCorrEdit_Click(); };
+    menus_.mnuCorrShow.onClick = [this] { mnuCorrShow_Click(); };
+    menus_.mnuOneOpen.onClick = [this] { mnuOneOpen_Click(); };
+    menus_.mnuEditorSelect.onClick = [this] { mnuEditorSelect_Click(); };
+    menus_.mnuHelpFile.onClick = [this] { mnuHelpFile_Click(); };
+    menus_.mnuAbout.onClick = [this] { mnuAbout_Click(); };
+}
+
+void SmallCommands::mnuBatchEdit_Click() {
+    viewer_.OpenRichText(state_.RecentFiles[1]);
+}
+
+void SmallCommands::mnuCorrEdit_Click() {
+    viewer_.OpenRichText(state_.CorPath);
+}
+
+void SmallCommands::mnuCorrShow_Click() {
+    viewer_.OpenRichText(state_.inApplicationFolder("kelvo.det"));
+}
+
+void SmallCommands::mnuOneOpen_Click() {
+    frmeOne_.setVisible(true);
+    frmeFile_.setVisible(false);
+}
+
+void SmallCommands::chooseEditor() {
+    cmd_.properties.filter = "EXE files (*.exe)|*.exe|All Files (*.*)|*.*";
+    cmd_.properties.filterIndex = 1;
+    cmd_.properties.title = "Editor Program 설정";
+    std::string& editor = state_.Cfg.Editor;
+    while (true) {
+        cmd_.properties.fileName = editor;
+        editor = cmd_.showOpen();
+        const std::optional<int> exists = genSub::FileExists(disk_, editor);
+        if (exists == genSub::kFileIsThere) return;
+        if (exists != genSub::kFileIsMissing) continue;
+        const Answer answer = messages_.show({.text = "파일 " + editor + " 이 없습니다." +
+                                                      std::string(kLineEnd) + "다시 설정하십시오",
+                                              .icon = Icon::Warning,
+                                              .buttons = Buttons::OkCancel,
+                                              .title = {}});
+        if (answer != Answer::Ok) return;
+    }
+}
+
+void SmallCommands::mnuEditorSelect_Click() {
+    try {
+        chooseEditor();
+    } catch (const RuntimeFault& fault) {
+        if (fault.fault() != Fault::DialogCancelled) throw;
+    }
+    menus_.mnuEditorSelect.setCaption("Editor Program 설정(" + state_.Cfg.Editor + ")");
+}
+
+void SmallCommands::mnuHelpFile_Click() {
+    try {
+        viewer_.OpenRichText(state_.inApplicationFolder("KelvoHelp.txt"));
+    } catch (const RuntimeFault&) {
+        messages_.tell("도움말 File Kelvohelp.txt를 열수 없습니다.");
+    }
+}
+
+void SmallCommands::mnuAbout_Click() {
+    std::string text;
+    for (const std::string_view paragraph : kAbout) {
+        if (!text.empty()) text += kLineEnd;
+        text += paragraph;
+    }
+    messages_.tell(text);
+}
+
+}  // namespace kelvo

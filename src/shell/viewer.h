@@ -1,0 +1,71 @@
+// The viewer: one text file at a time in a box that can be edited and saved, and after a run the
+// plot in the same place.
+#pragma once
+
+#include <string>
+
+#include "panels/print_mode_panel.h"
+#include "panels/program_state.h"
+#include "panels/scale_controls.h"
+#include "shell/common_dialog.h"
+#include "shell/recent_files.h"
+#include "shell/window_controls.h"
+
+namespace kelvo {
+
+class PointPictures;
+
+class ResultViewer {
+public:
+    ResultViewer(const ViewerControls& controls, const ScaleControls& scale, ProgramState& state,
+                 PrintModePanel& printMode, PointPictures& pictures, RecentFileList& recent,
+                 CommonDialog& cmd, Disk& disk);
+    ResultViewer(const ResultViewer&) = delete;
+    ResultViewer& operator=(const ResultViewer&) = delete;
+
+    // The one way to show a text file. The panels have changed when a fault of loading comes out.
+    void OpenRichText(const std::string& Path);
+
+    // Takes the numbers of a run and its plot in turn, by the caption of cmdShow. Fault 53 where
+    // there is no result file.
+    void cmdShow_Click();
+
+    // Saves under the name that the text was loaded from. A fault leaves the old file whole.
+    void cmdSave_Click();
+
+    // Saves under a name from the dialog, with no question, and shows that file; only a data file
+    // goes into the recent list. Cancelling ends it silently; other faults come out.
+    void cmdSaveAs_Click();
+
+    // Nothing is saved and nothing asked.
+    void cmdClose_Click();
+
+    // What the File menu's save does with the text: it goes to `name`, which the box keeps, and
+    // the box is hidden.
+    void saveAndHide(const std::string& name);
+
+    // After a run: the numbers at once, the plot a click away.
+    void showRunResult();
+
+    // A copy of the text for printing; the name that the box keeps stays.
+    void saveCopy(const std::string& name);
+
+    // True while the caption of cmdShow says that the numbers are on view.
+    [[nodiscard]] bool numbersOnView() const;
+
+private:
+    void showTextPanel();
+    void load(const std::string& path);
+
+    const ViewerControls& on_;
+    const ScaleControls& scale_;
+    ProgramState& state_;
+    PrintModePanel& printMode_;
+    PointPictures& pictures_;
+    RecentFileList& recent_;
+    CommonDialog& cmd_;
+    Disk& disk_;
+    std::string fileName_;  // changes by loading and by the File menu's save only
+};
+
+}  // namespace kelvo

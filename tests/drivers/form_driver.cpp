@@ -1,0 +1,58 @@
+// form_driver APP_FOLDER < script > transcript: the whole form, driven from a text script.
+//
+// Exit code 0 at the end of the script or of the program, 1 at a run-time fault that reaches the
+// top, 2 on wrong usage.
+#include <cstdio>
+#include <iostream>
+#include <new>
+#include <string>
+
+#include "common/run_time_fault.h"
+#include "drivers/form_script.h"
+#include "support/escape.h"
+
+namespace {
+
+using namespace kelvo;
+
+void print(const std::string& line) {
+    std::cout << line << '\n';
+}
+
+void drive(const std::string& folder) {
+    PlatformDisk disk;
+    testing::RecordingServices services(disk, print);
+    frmKelvo window(folder, services.services());
+    Main(window);
+    testing::FormScript script(window, services, print);
+    std::string line;
+    while (!services.ended && std::getline(std::cin, line)) {
+        if (!line.empty() && line.back() == '\r') line.pop_back();
+        script.run(line);
+    }
+}
+
+std::string withoutTrailingSeparator(std::string folder) {
+    while (folder.size() > 1 && folder.back() == kPathSeparator) folder.pop_back();
+    return folder;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 2) {
+        std::fputs("usage: form_driver APP_FOLDER < script > transcript\n", stderr);
+        return 2;
+    }
+    std::ios::sync_with_stdio(false);
+    try {
+        drive(withoutTrailingSeparator(argv[1]));
+    } catch (const RuntimeFault& fault) {
+        print("fault|" + std::to_string(fault.number()) + "|" + testing::escaped(fault.text()));
+        return 1;
+    } catch (const std::bad_alloc&) {
+        print("fault|7|메모리가 모자랍니다");
+        return 1;
+    }
+    return 0;
+}
