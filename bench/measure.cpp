@@ -1,5 +1,6 @@
 // kelvo_measure ROUNDS COMMAND ARG ...   times a command from its start to its end and tells the
-//                                        median and the least milliseconds and its peak memory
+//                                        median of its milliseconds, the median of those that the
+//                                        processor worked for it, and its peak memory in KiB
 // kelvo_measure --points N DATA          writes the sample points as a data file
 // kelvo_measure --points-corrected N DATA
 // kelvo_measure --known N FILE           writes known points
@@ -27,9 +28,19 @@ namespace {
 
 struct Round {
     double milliseconds = 0;
+    double processorMilliseconds = 0;
     long peakKilobytes = 0;
     bool ok = false;
 };
+
+double milliseconds(const timeval& time) {
+    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_usec) / 1e3;
+}
+
+double medianOf(std::vector<double> values) {
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
 
 Round timeOnce(char** command) {
     const char* input = std::getenv("KELVO_MEASURE_INPUT");
@@ -47,6 +58,7 @@ Round timeOnce(char** command) {
         wait4(child, &status, 0, &usage);
         round.ok = WIFEXITED(status) && WEXITSTATUS(status) == 0;
         round.peakKilobytes = usage.ru_maxrss;
+        round.processorMilliseconds = milliseconds(usage.ru_utime) + milliseconds(usage.ru_stime);
     }
     const std::chrono::duration<double, std::milli> spent =
         std::chrono::steady_clock::now() - start;
@@ -57,6 +69,7 @@ Round timeOnce(char** command) {
 
 int measure(int rounds, char** command) {
     std::vector<double> times;
+    std::vector<double> processorTimes;
     long peak = 0;
     for (int i = 0; i < rounds; ++i) {
         const Round round = timeOnce(command);
@@ -65,10 +78,10 @@ int measure(int rounds, char** command) {
             return 1;
         }
         times.push_back(round.milliseconds);
+        processorTimes.push_back(round.processorMilliseconds);
         peak = std::max(peak, round.peakKilobytes);
     }
-    std::sort(times.begin(), times.end());
-    std::printf("%.2f %.2f %ld\n", times[times.size() / 2], times.front(), peak);
+    std::printf("%.2f %.2f %ld\n", medianOf(times), medianOf(processorTimes), peak);
     return 0;
 }
 
