@@ -1,7 +1,9 @@
 #include "desktop/korean_faces.h"
 
+#include <QFontInfo>
 #include <QFontMetricsF>
 #include <QStringList>
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -96,6 +98,8 @@ double TextFace::width(const QString& text) const {
     return width * scale_;
 }
 
+QString TextFace::installedName() const { return QFontInfo(font_).family(); }
+
 void TextFace::draw(QPainter& painter, double x, double y, const QString& text) const {
     if (text.isEmpty()) return;
     const QTransform before = painter.transform();
@@ -113,6 +117,22 @@ void TextFace::draw(QPainter& painter, double x, double y, const QString& text) 
 void TextFace::drawCells(QPainter& painter, const QString& text) const {
     const QFontMetricsF metrics(font_);
     const QTransform start = painter.transform();
+    // Lines under and through the text run on from cell to cell, so they are drawn whole.
+    QFont plain = font_;
+    plain.setUnderline(false);
+    plain.setStrikeOut(false);
+    painter.setFont(plain);
+    const double thickness = std::max(metrics.lineWidth(), kFontEm / 20.0);
+    const double whole = width(text) / scale_;
+    const QColor colour = painter.pen().color();
+    if (font_.underline()) {
+        const double y = ascent_ + metrics.underlinePos();
+        painter.fillRect(QRectF(0, y, whole, thickness), colour);
+    }
+    if (font_.strikeOut()) {
+        const double y = ascent_ - metrics.strikeOutPos();
+        painter.fillRect(QRectF(0, y, whole, thickness), colour);
+    }
     double left = 0;
     for (const QChar letter : text) {
         const double cell = cellWidth(letter);

@@ -34,12 +34,16 @@ public:
 
     // In the unit of the look's em.
     [[nodiscard]] double height() const { return height_; }
+    [[nodiscard]] double ascent() const { return ascent_ * scale_; }
     [[nodiscard]] double width(const QString& text) const;
 
     // (x, y) is the top left of the text cell; colour is the painter's pen.
     void draw(QPainter& painter, double x, double y, const QString& text) const;
 
     [[nodiscard]] bool fitsCells() const { return fitsCells_; }
+
+    // The face that is really drawn with.
+    [[nodiscard]] QString installedName() const;
 
 private:
     void drawCells(QPainter& painter, const QString& text) const;
