@@ -13,8 +13,7 @@ void BackgroundPicture::paintEvent(QPaintEvent*) {
     painter.fillRect(rect(), palette().window());
     if (picture_.isNull()) return;
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    const QSizeF covering =
-        QSizeF(picture_.size()).scaled(size(), Qt::KeepAspectRatioByExpanding);
+    const QSizeF covering = QSizeF(picture_.size()).scaled(size(), Qt::KeepAspectRatioByExpanding);
     const bool dark = palette().window().color().lightness() < 128;
     painter.setOpacity(dark ? 0.25 : 1.0);
     painter.drawPixmap(QRectF(QPointF(0, 0), covering), picture_, QRectF(picture_.rect()));

@@ -8,7 +8,7 @@ namespace kelvo::desktop {
 namespace {
 
 constexpr int kColumnsOfBox = 3;  // label, box, unit
-constexpr int kAllColumns = 2 * kColumnsOfBox;
+constexpr int kToTheEdge = -1;
 constexpr int kBoxEdges = 14;  // frame and inner margins of a line edit
 
 }  // namespace
@@ -38,12 +38,13 @@ void BoxGrid::boxes(std::initializer_list<std::string_view> names) {
     ++row_;
 }
 
-void BoxGrid::row(std::initializer_list<QWidget*> widgets) {
+void BoxGrid::row(std::initializer_list<QWidget*> widgets, QWidget* atTheEdge) {
     auto* line = new QHBoxLayout;
     line->setSpacing(8);
     for (QWidget* widget : widgets) line->addWidget(widget);
     line->addStretch(1);
-    grid_->addLayout(line, row_, 0, 1, kAllColumns);
+    if (atTheEdge != nullptr) line->addWidget(atTheEdge);
+    grid_->addLayout(line, row_, 0, 1, kToTheEdge);
     ++row_;
 }
 

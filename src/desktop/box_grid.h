@@ -16,7 +16,7 @@ public:
     // The next row holds these boxes side by side.
     void boxes(std::initializer_list<std::string_view> names);
     // The next row holds these widgets side by side, over all columns.
-    void row(std::initializer_list<QWidget*> widgets);
+    void row(std::initializer_list<QWidget*> widgets, QWidget* atTheEdge = nullptr);
     void gap();
     // Pushes everything up.
     void stretch();

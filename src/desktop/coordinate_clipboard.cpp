@@ -37,6 +37,9 @@ QWidget* clipboardButtons(WidgetBook& book, const std::vector<std::string>& boxe
         made->setText(text);
         made->setToolTip(hint);
         made->setAutoRaise(true);
+        QFont small = made->font();
+        small.setPointSizeF(small.pointSizeF() * 0.88);
+        made->setFont(small);
         made->setObjectName(name + qt(boxes.front()));
         made->setFocusPolicy(Qt::ClickFocus);  // out of the way of the Tab key
         row->addWidget(made);
@@ -44,8 +47,8 @@ QWidget* clipboardButtons(WidgetBook& book, const std::vector<std::string>& boxe
     };
     auto* copy = button(QStringLiteral("복사"), QStringLiteral("이 좌표를 클립보드에 복사"),
                         QStringLiteral("copy "));
-    auto* paste = button(QStringLiteral("붙여넣기"), QStringLiteral("클립보드의 좌표를 여기에 입력"),
-                         QStringLiteral("paste "));
+    auto* paste = button(QStringLiteral("붙여넣기"),
+                         QStringLiteral("클립보드의 좌표를 여기에 입력"), QStringLiteral("paste "));
     Form& form = book.form();
     QObject::connect(copy, &QToolButton::clicked, buttons, [&form, boxes] {
         std::vector<std::string> texts;
@@ -57,8 +60,7 @@ QWidget* clipboardButtons(WidgetBook& book, const std::vector<std::string>& boxe
             return form.find(name)->enabled();
         });
         if (!open) return;
-        const auto values =
-            coordinatesIn(QGuiApplication::clipboard()->text(), boxes.size());
+        const auto values = coordinatesIn(QGuiApplication::clipboard()->text(), boxes.size());
         book.gate().run([&] {
             for (std::size_t at = 0; at < values.size(); ++at) {
                 form.find(boxes[at])->typeText(values[at]);

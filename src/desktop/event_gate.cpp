@@ -1,5 +1,6 @@
 #include "desktop/event_gate.h"
 
+#include <QCursor>
 #include <QGuiApplication>
 #include <exception>
 

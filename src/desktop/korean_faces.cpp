@@ -98,7 +98,9 @@ double TextFace::width(const QString& text) const {
     return width * scale_;
 }
 
-QString TextFace::installedName() const { return QFontInfo(font_).family(); }
+QString TextFace::installedName() const {
+    return QFontInfo(font_).family();
+}
 
 void TextFace::draw(QPainter& painter, double x, double y, const QString& text) const {
     if (text.isEmpty()) return;

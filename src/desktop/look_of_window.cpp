@@ -4,6 +4,7 @@
 #include <QFontDatabase>
 #include <QPalette>
 #include <QRawFont>
+#include <QStyle>
 #include <QStyleFactory>
 
 #include "desktop/korean_faces.h"
@@ -28,13 +29,13 @@ QPalette lightPalette() {
 }
 
 QPalette darkPalette() {
-    QPalette palette(QColor(0x2A, 0x2E, 0x32));
+    QPalette palette(QColor(0x3A, 0x3F, 0x44));
     const QColor text(0xE6, 0xE8, 0xEA);
     palette.setColor(QPalette::WindowText, text);
-    palette.setColor(QPalette::Base, QColor(0x1E, 0x21, 0x24));
+    palette.setColor(QPalette::Base, QColor(0x23, 0x27, 0x2A));
     palette.setColor(QPalette::AlternateBase, QColor(0x24, 0x28, 0x2B));
     palette.setColor(QPalette::Text, text);
-    palette.setColor(QPalette::Button, QColor(0x38, 0x3D, 0x42));
+    palette.setColor(QPalette::Button, QColor(0x4A, 0x50, 0x56));
     palette.setColor(QPalette::ButtonText, text);
     palette.setColor(QPalette::BrightText, Qt::white);
     palette.setColor(QPalette::Highlight, QColor(0x3B, 0x73, 0x99));
@@ -105,13 +106,18 @@ Theme themeNamed(const QString& name) {
 
 QString nameOf(Theme theme) {
     switch (theme) {
-        case Theme::Light: return QStringLiteral("light");
-        case Theme::Dark: return QStringLiteral("dark");
-        case Theme::System: break;
+        case Theme::Light:
+            return QStringLiteral("light");
+        case Theme::Dark:
+            return QStringLiteral("dark");
+        case Theme::System:
+            break;
     }
     return QStringLiteral("system");
 }
 
-bool isDark() { return QApplication::palette().window().color().lightness() < 128; }
+bool isDark() {
+    return QApplication::palette().window().color().lightness() < 128;
+}
 
 }  // namespace kelvo::desktop

@@ -56,6 +56,7 @@ FilePanel layOutFilePanel(WidgetBook& book) {
 
     auto* commands = new QHBoxLayout;
     commands->setContentsMargins(8, 2, 8, 8);
+    commands->setSpacing(8);
     commands->addWidget(book.at("cmdShow"));
     commands->addStretch(1);
     for (const char* name : {"cmdSave", "cmdSaveAs", "cmdPrint", "cmdPrintMode", "cmdClose"}) {

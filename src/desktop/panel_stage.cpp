@@ -20,7 +20,9 @@ void PanelStage::setUp(const WidgetBook& book, const FilePanel& filePanel) {
     arrange();
 }
 
-void PanelStage::resizeEvent(QResizeEvent*) { arrange(); }
+void PanelStage::resizeEvent(QResizeEvent*) {
+    arrange();
+}
 
 bool PanelStage::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Show || event->type() == QEvent::Hide) {
@@ -55,9 +57,9 @@ void PanelStage::arrange() {
     plot_->setGeometry(area.adjusted(8, 8, -side, -4));
     plotSettings_->setGeometry(area.right() - side + 1, area.top(), side, area.height());
     const QSize card = printMode_->sizeHint();
-    printMode_->setGeometry(QRect(QPoint((width() - card.width()) / 2,
-                                         std::max(0, (height() - card.height()) / 2 - 20)),
-                                  card));
+    printMode_->setGeometry(QRect(
+        QPoint((width() - card.width()) / 2, std::max(0, (height() - card.height()) / 2 - 20)),
+        card));
 }
 
 }  // namespace kelvo::desktop

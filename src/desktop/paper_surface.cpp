@@ -14,15 +14,20 @@ constexpr double kTwipsPerInch = 1440;
 
 }  // namespace
 
-PaperSurface::PaperSurface() : PictureSurface({kTwipsPerInch / kPixelsPerInch, kPixelsPerInch, 1}) {}
+PaperSurface::PaperSurface()
+    : PictureSurface({kTwipsPerInch / kPixelsPerInch, kPixelsPerInch, 1}) {}
 
-void PaperSurface::EndDoc() { NewPage(); }
+void PaperSurface::EndDoc() {
+    NewPage();
+}
 
 void PaperSurface::NewPage() {
     if (hasDrawing()) sheets_.push_back({takePicture(), landscape_});
 }
 
-void PaperSurface::setOrientation(int orientation) { landscape_ = orientation == 2; }
+void PaperSurface::setOrientation(int orientation) {
+    landscape_ = orientation == 2;
+}
 
 std::vector<Sheet> PaperSurface::takeSheets() {
     NewPage();

@@ -53,8 +53,8 @@ bool savePdf(const PlotPicture& picture, const QString& path) {
     {
         QPdfWriter writer(&file);
         writer.setCreator(QStringLiteral("Kelvo"));
-        writer.setPageSize(QPageSize(frame.size() / 20, QPageSize::Point, QString(),
-                                     QPageSize::ExactMatch));
+        writer.setPageSize(
+            QPageSize(frame.size() / 20, QPageSize::Point, QString(), QPageSize::ExactMatch));
         writer.setPageMargins(QMarginsF(0, 0, 0, 0));
         QPainter painter(&writer);
         painter.scale(writer.resolution() / kTwipsPerInch, writer.resolution() / kTwipsPerInch);
@@ -65,7 +65,9 @@ bool savePdf(const PlotPicture& picture, const QString& path) {
     return file.commit();
 }
 
-QString number(double value) { return QString::number(value, 'f', 1); }
+QString number(double value) {
+    return QString::number(value, 'f', 1);
+}
 
 QString stroke(const Pen& pen, const QColor& ink) {
     return QStringLiteral("fill=\"none\" stroke=\"%1\" stroke-width=\"%2\"")
@@ -105,11 +107,11 @@ public:
         if (whole) {
             const auto fill = inkOnPaper(circle.pen.drawMode, circle.fill);
             out_ << "<ellipse cx=\"" << number(circle.centre.x()) << "\" cy=\""
-                 << number(circle.centre.y()) << "\" rx=\"" << number(circle.radiusX)
-                 << "\" ry=\"" << number(circle.radiusY) << "\" "
-                 << stroke(circle.pen, *ink).replace(
-                        QStringLiteral("none"),
-                        circle.filled && fill ? fill->name() : QStringLiteral("none"))
+                 << number(circle.centre.y()) << "\" rx=\"" << number(circle.radiusX) << "\" ry=\""
+                 << number(circle.radiusY) << "\" "
+                 << stroke(circle.pen, *ink)
+                        .replace(QStringLiteral("none"),
+                                 circle.filled && fill ? fill->name() : QStringLiteral("none"))
                  << "/>\n";
             return;
         }
@@ -133,8 +135,7 @@ public:
         out_ << "\" y=\"" << number(face.ascent()) << "\" textLength=\""
              << number(face.width(text.text)) << "\" fill=\"" << text.colour.name()
              << "\" font-family=\"" << look.face.toHtmlEscaped() << ", "
-             << face.installedName().toHtmlEscaped() << "\" font-size=\"" << number(look.em)
-             << '"';
+             << face.installedName().toHtmlEscaped() << "\" font-size=\"" << number(look.em) << '"';
         if (look.bold) out_ << " font-weight=\"bold\"";
         if (look.italic) out_ << " font-style=\"italic\"";
         if (look.underline || look.strikethru) {
@@ -164,9 +165,9 @@ QString svgOf(const PlotPicture& picture) {
     const QRectF frame = frameOf(picture);
     out << "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
         << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" << number(frame.width() / 20)
-        << "pt\" height=\"" << number(frame.height() / 20) << "pt\" viewBox=\""
-        << number(frame.x()) << ' ' << number(frame.y()) << ' ' << number(frame.width()) << ' '
-        << number(frame.height()) << "\" stroke-linecap=\"round\">\n"
+        << "pt\" height=\"" << number(frame.height() / 20) << "pt\" viewBox=\"" << number(frame.x())
+        << ' ' << number(frame.y()) << ' ' << number(frame.width()) << ' ' << number(frame.height())
+        << "\" stroke-linecap=\"round\">\n"
         << "<rect x=\"" << number(frame.x()) << "\" y=\"" << number(frame.y()) << "\" width=\""
         << number(frame.width()) << "\" height=\"" << number(frame.height()) << "\" fill=\""
         << picture.paper.name() << "\"/>\n";

@@ -28,8 +28,12 @@ PlotView::PlotView(QWidget* parent) : QWidget(parent), surface_(DeviceUnits{}) {
     setToolTip(QStringLiteral("오른쪽 단추를 누르면 그림을 파일로 저장할 수 있습니다."));
 }
 
-QSize PlotView::sizeHint() const { return {620, 640}; }
-QSize PlotView::minimumSizeHint() const { return {300, 320}; }
+QSize PlotView::sizeHint() const {
+    return {620, 640};
+}
+QSize PlotView::minimumSizeHint() const {
+    return {300, 320};
+}
 
 void PlotView::refresh() {
     if (surface_.revision() != drawnRevision_) update();
@@ -51,7 +55,8 @@ void PlotView::render() {
     wanted.adjust(-kPageMargin, -kPageMargin, kPageMargin, kPageMargin);
     const double scale = std::min(width() / wanted.width(), height() / wanted.height());
     QPainter painter(&image_);
-    painter.translate((width() - wanted.width() * scale) / 2, (height() - wanted.height() * scale) / 2);
+    painter.translate((width() - wanted.width() * scale) / 2,
+                      (height() - wanted.height() * scale) / 2);
     painter.scale(scale, scale);
     painter.translate(-wanted.topLeft());
     paintPicture(painter, picture, Medium::Pixels);

@@ -45,19 +45,26 @@ private:
 
 QMessageBox::Icon iconOf(Icon icon) {
     switch (icon) {
-        case Icon::Information: return QMessageBox::Information;
-        case Icon::Question: return QMessageBox::Question;
-        case Icon::Warning: return QMessageBox::Warning;
-        case Icon::None: break;
+        case Icon::Information:
+            return QMessageBox::Information;
+        case Icon::Question:
+            return QMessageBox::Question;
+        case Icon::Warning:
+            return QMessageBox::Warning;
+        case Icon::None:
+            break;
     }
     return QMessageBox::NoIcon;
 }
 
 QMessageBox::StandardButtons buttonsOf(Buttons buttons) {
     switch (buttons) {
-        case Buttons::OkCancel: return QMessageBox::Ok | QMessageBox::Cancel;
-        case Buttons::YesNoCancel: return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
-        case Buttons::Ok: break;
+        case Buttons::OkCancel:
+            return QMessageBox::Ok | QMessageBox::Cancel;
+        case Buttons::YesNoCancel:
+            return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+        case Buttons::Ok:
+            break;
     }
     return QMessageBox::Ok;
 }
@@ -69,8 +76,12 @@ FolderLock::FolderLock(const QString& folder) : file_(QDir(folder).filePath("kel
 }
 
 // After a while the work goes on without it: a lock that nobody gives back must not stop anyone.
-void FolderLock::take() { file_.tryLock(std::chrono::seconds(3)); }
-void FolderLock::release() { file_.unlock(); }
+void FolderLock::take() {
+    file_.tryLock(std::chrono::seconds(3));
+}
+void FolderLock::release() {
+    file_.unlock();
+}
 
 Answer ScreenMessages::show(const Message& message) {
     const Waiting waiting(parent_);
@@ -90,10 +101,14 @@ Answer ScreenMessages::show(const Message& message) {
         if (auto* shown = box.button(button)) shown->setText(QString::fromUtf8(word));
     }
     switch (box.exec()) {
-        case QMessageBox::Yes: return Answer::Yes;
-        case QMessageBox::No: return Answer::No;
-        case QMessageBox::Ok: return Answer::Ok;
-        default: return message.buttons == Buttons::Ok ? Answer::Ok : Answer::Cancel;
+        case QMessageBox::Yes:
+            return Answer::Yes;
+        case QMessageBox::No:
+            return Answer::No;
+        case QMessageBox::Ok:
+            return Answer::Ok;
+        default:
+            return message.buttons == Buttons::Ok ? Answer::Ok : Answer::Cancel;
     }
 }
 
@@ -171,13 +186,14 @@ void DetachedPrograms::start(const std::string& command) {
     if (!QProcess::startDetached(program, words)) raise(Fault::FileNotFound, command);
 }
 
-void RawPrintService::print(const std::string& path) {
-    QProcess::startDetached(QStringLiteral("lp"),
-                            {QStringLiteral("-o"), QStringLiteral("raw"), QStringLiteral("--"),
-                             qt(path)});
+void RawPrintService::printRaw(const std::string& path) {
+    QProcess::startDetached(QStringLiteral("lp"), {QStringLiteral("-o"), QStringLiteral("raw"),
+                                                   QStringLiteral("--"), qt(path)});
 }
 
-void ScreenBeeper::beep() { QApplication::beep(); }
+void ScreenBeeper::beep() {
+    QApplication::beep();
+}
 
 std::string LocaleClock::date() {
     return QLocale::system().toString(QDate::currentDate(), QLocale::ShortFormat).toStdString();
@@ -194,14 +210,16 @@ ScreenSize PrimaryScreen::size() {
     return {pixels.width() * kTwipsPerPixel, pixels.height() * kTwipsPerPixel};
 }
 
-void OverridePointer::setBusy(bool on) {
-    if (on) {
+void OverridePointer::setBusy(bool busy) {
+    if (busy) {
         QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     } else if (QGuiApplication::overrideCursor() != nullptr) {
         QGuiApplication::restoreOverrideCursor();
     }
 }
 
-void WindowEnd::end() { ended_ = true; }
+void WindowEnd::end() {
+    ended_ = true;
+}
 
 }  // namespace kelvo::desktop

@@ -67,7 +67,7 @@ public:
 // Hands the text to the platform's raw print service.
 class RawPrintService final : public RawPrinter {
 public:
-    void print(const std::string& path) override;
+    void printRaw(const std::string& path) override;
 };
 
 class ScreenBeeper final : public Beeper {
@@ -88,7 +88,7 @@ public:
 
 class OverridePointer final : public BusyPointer {
 public:
-    void setBusy(bool on) override;
+    void setBusy(bool busy) override;
 };
 
 class WindowEnd final : public ProgramEnd {

@@ -125,8 +125,12 @@ std::string TextViewer::text() const {
     return text.toStdString();
 }
 
-bool TextViewer::isModified() const { return editor_->document()->isModified(); }
-void TextViewer::setModified(bool on) { editor_->document()->setModified(on); }
+bool TextViewer::isModified() const {
+    return editor_->document()->isModified();
+}
+void TextViewer::setModified(bool on) {
+    editor_->document()->setModified(on);
+}
 
 void TextViewer::openSearch() {
     const QString selected = editor_->textCursor().selectedText();

@@ -36,7 +36,7 @@ public:
     bool findNext(bool backward);
 
 signals:
-    void edited();       // a while after the last letter typed
+    void edited();  // a while after the last letter typed
     void modifiedChanged(bool on);
 
 private:

@@ -62,27 +62,46 @@ QWidget* WidgetBook::at(std::string_view name) const {
     return widget;
 }
 
-QWidget* WidgetBook::find(std::string_view name) const { return findIn(widgets_, name); }
-QWidget* WidgetBook::labelOf(std::string_view name) const { return findIn(labels_, name); }
-QWidget* WidgetBook::unitOf(std::string_view name) const { return findIn(units_, name); }
-QAction* WidgetBook::action(std::string_view name) const { return findIn(actions_, name); }
+QWidget* WidgetBook::find(std::string_view name) const {
+    return findIn(widgets_, name);
+}
+QWidget* WidgetBook::labelOf(std::string_view name) const {
+    return findIn(labels_, name);
+}
+QWidget* WidgetBook::unitOf(std::string_view name) const {
+    return findIn(units_, name);
+}
+QAction* WidgetBook::action(std::string_view name) const {
+    return findIn(actions_, name);
+}
 
 void WidgetBook::make(Control& control) {
     switch (control.kind()) {
-        case ControlKind::Window: return;
-        case ControlKind::Menu: return makeMenu(control);
-        case ControlKind::MenuItem: return makeMenuItem(control);
-        case ControlKind::MenuArray: return makeMenuArray(control);
-        case ControlKind::Frame: return enter(control, makeFrame(control));
+        case ControlKind::Window:
+            return;
+        case ControlKind::Menu:
+            return makeMenu(control);
+        case ControlKind::MenuItem:
+            return makeMenuItem(control);
+        case ControlKind::MenuArray:
+            return makeMenuArray(control);
+        case ControlKind::Frame:
+            return enter(control, makeFrame(control));
         case ControlKind::TextBox:
             return enter(control,
                          control.design().multiLine ? makeViewer(control) : makeTextBox(control));
-        case ControlKind::OptionButton: return enter(control, makeOption(control));
-        case ControlKind::CheckBox: return enter(control, makeCheck(control));
-        case ControlKind::ComboBox: return enter(control, makeCombo(control));
-        case ControlKind::Button: return enter(control, makeButton(control));
-        case ControlKind::Label: return enter(control, makeLabel(control));
-        case ControlKind::Picture: return enter(control, makePicture(control));
+        case ControlKind::OptionButton:
+            return enter(control, makeOption(control));
+        case ControlKind::CheckBox:
+            return enter(control, makeCheck(control));
+        case ControlKind::ComboBox:
+            return enter(control, makeCombo(control));
+        case ControlKind::Button:
+            return enter(control, makeButton(control));
+        case ControlKind::Label:
+            return enter(control, makeLabel(control));
+        case ControlKind::Picture:
+            return enter(control, makePicture(control));
     }
 }
 
@@ -139,9 +158,8 @@ QWidget* WidgetBook::makeViewer(Control& control) {
     viewer->editor().setAccessibleDescription(qt(control.name()));
     viewer_ = viewer;
     viewerControl_ = &control;
-    QObject::connect(viewer, &TextViewer::edited, viewer, [this] {
-        gate_.run([this] { takeViewerText(); }, EventGate::Event::Typing);
-    });
+    QObject::connect(viewer, &TextViewer::edited, viewer,
+                     [this] { gate_.run([this] { takeViewerText(); }, EventGate::Event::Typing); });
     control.watch([this, &control, viewer](Property property) {
         if (showCommon(control, *viewer, property)) return;
         if (property == Property::Text && !takingText_) viewer->load(control.text());
@@ -191,9 +209,8 @@ QWidget* WidgetBook::makeOption(Control& control) {
 QWidget* WidgetBook::makeCheck(Control& control) {
     auto* box = new QCheckBox(qt(control.caption()), firstParent_);
     box->setChecked(control.value());
-    QObject::connect(box, &QCheckBox::clicked, box, [this, &control](bool on) {
-        gate_.run([&] { control.setChecked(on); });
-    });
+    QObject::connect(box, &QCheckBox::clicked, box,
+                     [this, &control](bool on) { gate_.run([&] { control.setChecked(on); }); });
     control.watch([&control, box](Property property) {
         if (showCommon(control, *box, property)) return;
         if (property == Property::Value) box->setChecked(control.value());
@@ -226,6 +243,8 @@ QWidget* WidgetBook::makeCombo(Control& control) {
 QWidget* WidgetBook::makeButton(Control& control) {
     auto* button = new QPushButton(shownCaption(control), firstParent_);
     button->setAutoDefault(true);
+    // A breath of room around the caption.
+    button->setMinimumWidth(button->sizeHint().width() + 12);
     if (shownCaption(control) != qt(control.caption())) {
         button->setAccessibleName(qt(control.caption()));
     }
