@@ -186,7 +186,7 @@ void DetachedPrograms::start(const std::string& command) {
     if (!QProcess::startDetached(program, words)) raise(Fault::FileNotFound, command);
 }
 
-void RawPrintService::printRaw(const std::string& path) {
+void RawPrintService::print(const std::string& path) {
     QProcess::startDetached(QStringLiteral("lp"), {QStringLiteral("-o"), QStringLiteral("raw"),
                                                    QStringLiteral("--"), qt(path)});
 }

@@ -67,7 +67,7 @@ public:
 // Hands the text to the platform's raw print service.
 class RawPrintService final : public RawPrinter {
 public:
-    void printRaw(const std::string& path) override;
+    void print(const std::string& path) override;
 };
 
 class ScreenBeeper final : public Beeper {
