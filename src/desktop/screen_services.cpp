@@ -159,17 +159,21 @@ std::optional<std::string> ScreenDialogs::show(DialogKind kind,
     }
     const bool isPattern = name.contains(QLatin1Char('*'));
     if (!name.isEmpty() && !isPattern) dialog.selectFile(named.fileName());
+    auto* edit = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
     // A proposed ending waits for the name to be typed in front of it.
-    if (auto* edit = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))) {
-        if (name.startsWith(QLatin1Char('.'))) {
-            edit->setText(name);
-            QMetaObject::invokeMethod(
-                edit, [edit] { edit->home(false); }, Qt::QueuedConnection);
-        }
+    if (edit != nullptr && name.startsWith(QLatin1Char('.'))) {
+        edit->setText(name);
+        QMetaObject::invokeMethod(
+            edit, [edit] { edit->home(false); }, Qt::QueuedConnection);
     }
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
-    const QString chosen = dialog.selectedFiles().value(0);
-    return QDir::toNativeSeparators(chosen).toStdString();
+    QString chosen = dialog.selectedFiles().value(0);
+    // What stands in the box counts; the list may still mark the proposed file (without focus in
+    // the box, as with assistive technology, the dialog doesn't take that mark away).
+    if (edit != nullptr && !edit->text().isEmpty()) {
+        chosen = QDir(dialog.directory()).absoluteFilePath(edit->text());
+    }
+    return QDir::toNativeSeparators(QDir::cleanPath(chosen)).toStdString();
 }
 
 std::optional<std::string> ScreenDialogs::showPrinterDialog() {
