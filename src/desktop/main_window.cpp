@@ -125,6 +125,9 @@ void MainWindow::addThemeButton() {
     button->setObjectName(QStringLiteral("theme"));
     button->setText(QStringLiteral("◐"));
     button->setAutoRaise(true);
+    // Not higher than a menu, or the bar's lower edge breaks between the menus.
+    button->setFixedHeight(fontMetrics().height());
+    button->setFocusPolicy(Qt::NoFocus);
     button->setToolTip(QStringLiteral("밝은 화면 / 어두운 화면"));
     button->setAccessibleName(QStringLiteral("밝은 화면 / 어두운 화면"));
     connect(button, &QToolButton::clicked, this, [this] {

@@ -18,11 +18,12 @@ void NumberBox::focusInEvent(QFocusEvent* event) {
     if (event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason) {
         return;
     }
-    if (!selectsOnEntry_) {
+    const bool selects = selectsOnEntry_ && selectsOnEntry_();
+    if (!selects) {
         deselect();
         setCursorPosition(caret);
     }
-    enteredByThisPress_ = selectsOnEntry_ && event->reason() == Qt::MouseFocusReason;
+    enteredByThisPress_ = selects && event->reason() == Qt::MouseFocusReason;
     emit entered();
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QLineEdit>
+#include <functional>
 
 namespace kelvo::desktop {
 
@@ -13,7 +14,7 @@ public:
 
     // A box of the form selects its text when it is entered, or leaves the caret alone; Qt's own
     // habits of selecting on the way in are put aside.
-    void setSelectsOnEntry(bool on) { selectsOnEntry_ = on; }
+    void setSelectsOnEntry(std::function<bool()> asked) { selectsOnEntry_ = std::move(asked); }
 
 signals:
     void entered();
@@ -25,7 +26,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    bool selectsOnEntry_ = true;
+    std::function<bool()> selectsOnEntry_;
     bool enteredByThisPress_ = false;
 };
 

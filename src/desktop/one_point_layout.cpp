@@ -5,6 +5,8 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <array>
 
 #include "desktop/box_grid.h"
 #include "desktop/coordinate_clipboard.h"
@@ -98,6 +100,35 @@ void layOutGrids(WidgetBook& book) {
     }
 }
 
+// The frame or button that stands in the panel itself and holds this control.
+std::string partOfPanel(const Form& form, const Control& control) {
+    const Control* part = &control;
+    while (part != nullptr && part->parent() != "frmeOne") part = form.find(part->parent());
+    return part == nullptr ? std::string() : part->name();
+}
+
+// Along the work: the coordinates with their arrows from left to right, then the parameters.
+void orderTabs(WidgetBook& book) {
+    constexpr std::array<std::string_view, 5> parameterFrames{"Frame4", "Frame10", "Frame8",
+                                                              "Frame5", "Frame14"};
+    QWidget* previous = nullptr;
+    const auto next = [&previous](QWidget* widget) {
+        if (widget->focusPolicy() == Qt::NoFocus) return;
+        if (previous != nullptr) QWidget::setTabOrder(previous, widget);
+        previous = widget;
+    };
+    for (const bool parameters : {false, true}) {
+        for (const Control& control : book.form().controls()) {
+            const std::string part = partOfPanel(book.form(), control);
+            if (part.empty() || part == "cmdOneClose") continue;
+            const bool isParameter = std::find(parameterFrames.begin(), parameterFrames.end(),
+                                               part) != parameterFrames.end();
+            if (isParameter == parameters) next(book.at(control.name()));
+        }
+    }
+    next(book.at("cmdOneClose"));
+}
+
 }  // namespace
 
 void layOutOnePointPanel(WidgetBook& book) {
@@ -145,6 +176,7 @@ void layOutOnePointPanel(WidgetBook& book) {
     auto* panel = new QVBoxLayout(book.at("frmeOne"));
     panel->setContentsMargins(0, 0, 0, 0);
     panel->addWidget(scroll);
+    orderTabs(book);
 }
 
 }  // namespace kelvo::desktop

@@ -34,7 +34,7 @@ TextViewer::TextViewer(QWidget* parent)
       searchResult_(new QLabel(searchBar_)),
       place_(new QLabel(this)) {
     editor_->setLineWrapMode(QPlainTextEdit::NoWrap);
-    editor_->setFont(fixedPitchFont(font().pointSizeF() + 0.5));
+    editor_->setFont(fixedPitchFont(font().pointSizeF() + 1));
     editor_->setTabChangesFocus(false);
     editor_->setTabStopDistance(8 * QFontMetricsF(editor_->font()).horizontalAdvance(' '));
     setFocusProxy(editor_);

@@ -130,9 +130,9 @@ QWidget* WidgetBook::makeTextBox(Control& control) {
     QObject::connect(box, &QLineEdit::textEdited, box, [this, &control](const QString& text) {
         gate_.run([&] { control.typeText(text.toStdString()); }, EventGate::Event::Typing);
     });
+    // Asked late: handlers are hung on after the controls are made.
+    box->setSelectsOnEntry([&control] { return static_cast<bool>(control.onFocus); });
     QObject::connect(box, &NumberBox::entered, box, [this, &control, box] {
-        // Known only now: handlers are hung on after the controls are made.
-        box->setSelectsOnEntry(static_cast<bool>(control.onFocus));
         gate_.run([&] { control.enter(); }, EventGate::Event::Typing);
         if (control.onFocus) box->setSelection(control.selStart(), control.selLength());
     });
@@ -192,6 +192,12 @@ QWidget* WidgetBook::makeOption(Control& control) {
         group->setExclusive(false);
         button->setChecked(control.value());
         group->setExclusive(true);
+        // The Tab key comes to the button that is on; the arrow keys lead to the others.
+        const bool oneIsOn = group->checkedButton() != nullptr;
+        for (QAbstractButton* other : group->buttons()) {
+            other->setFocusPolicy(!oneIsOn || other->isChecked() ? Qt::StrongFocus
+                                                                 : Qt::ClickFocus);
+        }
     };
     show();
     QObject::connect(button, &QRadioButton::clicked, button, [this, &control, show] {
