@@ -24,12 +24,16 @@ struct BatchRun {
     TransPara para = runDefaults();
     int AngleIn = kAngleDms;
     int AngleOut = kAngleHyphens;
+    long lineNumber = 0;    // of the line in hand, as a fault names it
     bool lineHeld = false;  // LineBuf already holds the next line to dispatch
     bool tablesWritten = false;
 
     // Shorthands for the line and its fields.
     [[nodiscard]] FieldStore& fields() const { return state.fields; }
-    void readLine() const { data.readLine(state.fields.LineBuf); }
+    void readLine() {
+        data.readLine(state.fields.LineBuf);
+        lineNumber = data.linesRead();
+    }
     void parse(int maxFields) const { genSub::ParseFields(state.fields, maxFields); }
 };
 

@@ -86,15 +86,13 @@ void PrintResultTables(PointTable& points, TextWriter& out, int AngleOut, TransP
     out.line("");
     out.line("WGS 타윈체 직교좌표 및 표고 (WGS 경위도 -> WGS 타원체 UTM)");
     out.line(kGridHeading);
+    TmGrid wgsGrid(
+        kWgsGridEllipsoid,
+        {.X0 = para.UX0, .Y0 = para.UY0, .Phi0 = para.UPhi0, .Lam0 = para.ULam0, .S0 = para.US0});
     eachPoint([&](PointRec& p) {
         KelvoSub::chkUZone(p.WgsLam, para.UZone, para.ULam0);
-        const GridPoint grid = KelvoSub::GeoToTM(p.WgsPhi, p.WgsLam, kWgsGridEllipsoid,
-                                                 {.X0 = para.UX0,
-                                                  .Y0 = para.UY0,
-                                                  .Phi0 = para.UPhi0,
-                                                  .Lam0 = para.ULam0,
-                                                  .S0 = para.US0},
-                                                 messages);
+        wgsGrid.setCentralMeridian(para.ULam0);
+        const GridPoint grid = KelvoSub::GeoToTM(p.WgsPhi, p.WgsLam, wgsGrid, messages);
         p.WgsUtmX = grid.X;
         p.WgsUtmY = grid.Y;
         p.WgsUtmH = p.TmH;

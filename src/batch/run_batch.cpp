@@ -60,7 +60,7 @@ void RunBatch(ConversionState& state, const RunPlaces& places, RunView& view, Di
         det.close();
         out.close();
     } catch (RuntimeFault& fault) {
-        fault.addPlace(places.dataFile + " " + std::to_string(data.linesRead()) + "번째 줄");
+        fault.addPlace(places.dataFile + " " + std::to_string(run.lineNumber) + "번째 줄");
         throw;
     }
 

@@ -1,15 +1,20 @@
-// kelvo-batch: one run of a data file from a shell.
+// kelvo-batch: runs of data files from a shell.
 #include <cstdio>
+#include <memory>
 #include <new>
-#include <optional>
-#include <span>
 #include <string>
-#include <string_view>
 
 #include "batch/run_batch.h"
+#include "cli/command_line.h"
+#include "cli/progress_bar.h"
 #include "common/application_folder.h"
 #include "common/disk.h"
+#include "common/paths.h"
 #include "common/run_time_fault.h"
+
+#ifdef _WIN32
+#include <windows.h>
+#endif
 
 namespace {
 
@@ -19,108 +24,131 @@ constexpr int kRunEnded = 0;
 constexpr int kRunTimeFault = 1;
 constexpr int kWrongUsage = 2;
 
-constexpr const char* kUsage = "usage: kelvo-batch [--app-folder DIR] DATA.dat\n";
-
-struct CommandLine {
-    std::optional<std::string> applicationFolder;
-    std::string dataFile;
-};
+constexpr std::size_t kManyFiles = 5;  // from so many on a progress bar is worth its line
 
 void print(std::FILE* stream, const std::string& text) {
     std::fwrite(text.data(), 1, text.size(), stream);
 }
 
-// Each text on one line of standard error, a line break inside as one blank.
-class StandardErrorMessages final : public MessageBoxes {
+// Lines of standard error, each behind the name of its data file if there are several.
+class StandardError {
 public:
-    Answer show(const Message& message) override {
-        std::string line = "message: " + message.text + "\n";
-        for (std::size_t at = line.find("\r\n"); at != std::string::npos; at = line.find("\r\n"))
-            line.replace(at, 2, " ");
-        print(stderr, line);
-        return Answer::Ok;
+    explicit StandardError(ProgressBar& bar) : bar_(bar) {}
+
+    void setPrefix(std::string prefix) { prefix_ = std::move(prefix); }
+
+    void line(const std::string& text) {
+        bar_.clear();
+        print(stderr, prefix_ + text + "\n");
     }
+
+private:
+    ProgressBar& bar_;
+    std::string prefix_;
 };
 
-std::optional<CommandLine> readCommandLine(std::span<char* const> arguments) {
-    CommandLine line;
-    bool hasData = false;
-    for (std::size_t i = 1; i < arguments.size(); ++i) {
-        const std::string_view argument = arguments[i];
-        if (argument == "--app-folder") {
-            if (++i == arguments.size()) return std::nullopt;
-            line.applicationFolder = arguments[i];
-        } else if (argument.size() > 1 && argument.front() == '-') {
-            return std::nullopt;
-        } else {
-            if (hasData || argument.empty() || argument == "-") return std::nullopt;
-            hasData = true;
-            line.dataFile = argument;
-        }
+// Each text on one line, a line break inside as one blank.
+class StandardErrorMessages final : public MessageBoxes {
+public:
+    StandardErrorMessages(StandardError& error, bool quiet) : error_(error), quiet_(quiet) {}
+
+    Answer show(const Message& message) override {
+        if (quiet_) return Answer::Ok;
+        std::string line = "message: " + message.text;
+        for (std::size_t at = line.find("\r\n"); at != std::string::npos; at = line.find("\r\n"))
+            line.replace(at, 2, " ");
+        error_.line(line);
+        return Answer::Ok;
     }
-    if (!hasData) return std::nullopt;
-    return line;
+
+private:
+    StandardError& error_;
+    bool quiet_;
+};
+
+// Does the work and says whether it ended without a run-time fault.
+template <typename Work>
+bool ends(const Work& work, StandardError& error) {
+    try {
+        work();
+        return true;
+    } catch (const RuntimeFault& fault) {
+        error.line("run-time error " + std::to_string(fault.number()) + ": " + fault.text());
+    } catch (const std::bad_alloc&) {
+        error.line("run-time error 7: 메모리가 모자랍니다");
+    }
+    return false;
 }
 
-std::string withoutTrailingSeparator(std::string folder) {
-    while (folder.size() > 1 && folder.back() == kPathSeparator) folder.pop_back();
-    return folder;
+void copyFile(Disk& disk, const std::string& from, const std::string& to) {
+    const auto source = disk.openForReading(from);
+    const auto target = disk.openForWriting(to);
+    std::string buffer(65536, '\0');
+    while (const std::size_t count = source->read(buffer))
+        target->write(std::string_view(buffer).substr(0, count));
+    target->close();
 }
 
-int run(const CommandLine& line) {
-    std::string folder;
-    if (line.applicationFolder) {
-        folder = withoutTrailingSeparator(*line.applicationFolder);
-    } else {
-        folder = findApplicationFolder();
-        makeApplicationFolder(folder);
-    }
-    const RunPlaces places{.dataFile = line.dataFile,
-                           .detPath = folder + kPathSeparator + "kelvo.det",
-                           .CorPath = folder + kPathSeparator + "kelvo.cor"};
-    ConversionState state;
-    RunView noScreen;
+std::string detailBeside(const std::string& data) {
+    return genSub::StripExtension(data) + ".det";
+}
+
+// Every file is a run of its own: nothing of one shows in another.
+int runAll(const CommandLine& line, const std::string& folder, StandardError& error,
+           ProgressBar& bar) {
+    const bool several = line.dataFiles.size() > 1;
+    const std::string detail = folder + kPathSeparator + "kelvo.det";
     PlatformDisk disk;
-    StandardErrorMessages messages;
-    RunBatch(state, places, noScreen, disk, messages);
-    return kRunEnded;
+    RunView noScreen;
+    StandardErrorMessages messages(error, line.quiet);
+
+    bool good = true;
+    std::size_t done = 0;
+    for (const std::string& data : line.dataFiles) {
+        bar.show(done++, data);
+        if (several) error.setPrefix(data + ": ");
+        const RunPlaces places{.dataFile = data,
+                               .detPath = several ? detailBeside(data) : detail,
+                               .CorPath = folder + kPathSeparator + "kelvo.cor"};
+        const auto state = std::make_unique<ConversionState>();
+        good &= ends([&] { RunBatch(*state, places, noScreen, disk, messages); }, error);
+    }
+    // As ever, kelvo.det tells of the last run.
+    const std::string last = detailBeside(line.dataFiles.back());
+    if (several && genSub::FileExists(disk, last) == genSub::kFileIsThere)
+        good &= ends([&] { copyFile(disk, last, detail); }, error);
+    return good ? kRunEnded : kRunTimeFault;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    const std::span<char* const> arguments(argv, static_cast<std::size_t>(argc));
-    if (arguments.size() == 2 && std::string_view(arguments[1]) == "--help") {
-        print(stdout,
-              std::string(kUsage) +
-                  "\n"
-                  "Converts the points of a data file. The result stands in DATA.out beside\n"
-                  "it, the detail of the correction in kelvo.det in the application folder,\n"
-                  "where kelvo.cor holds the known points.\n"
-                  "\n"
-                  "  --app-folder DIR  use DIR as the application folder\n"
-                  "  --help            print this and end\n"
-                  "  --version         print the version and end\n"
-                  "\n"
-                  "Exit code: 0 the run ended, 1 run-time fault, 2 wrong usage.\n");
+#ifdef _WIN32
+    SetConsoleOutputCP(CP_UTF8);
+#endif
+    const CommandLineReading reading = readCommandLine(argumentsOfProcess(argc, argv));
+    if (!reading.line) {
+        print(stderr, "kelvo-batch: " + reading.complaint + "\n" + usageText());
+        return kWrongUsage;
+    }
+    const CommandLine& line = *reading.line;
+    if (line.wish == CommandLine::Wish::Help) {
+        print(stdout, helpText());
         return kRunEnded;
     }
-    if (arguments.size() == 2 && std::string_view(arguments[1]) == "--version") {
+    if (line.wish == CommandLine::Wish::Version) {
         print(stdout, "kelvo-batch " KELVO_VERSION "\n");
         return kRunEnded;
     }
-    const std::optional<CommandLine> line = readCommandLine(arguments);
-    if (!line) {
-        print(stderr, kUsage);
-        return kWrongUsage;
-    }
-    try {
-        return run(*line);
-    } catch (const RuntimeFault& fault) {
-        print(stderr,
-              "run-time error " + std::to_string(fault.number()) + ": " + fault.text() + "\n");
-    } catch (const std::bad_alloc&) {
-        print(stderr, "run-time error 7: 메모리가 모자랍니다\n");
-    }
-    return kRunTimeFault;
+    ProgressBar bar(line.dataFiles.size(), !line.quiet && line.dataFiles.size() >= kManyFiles &&
+                                               standardErrorIsTerminal());
+    StandardError error(bar);
+    std::string folder;
+    const bool folderStands = ends(
+        [&] {
+            folder = line.applicationFolder ? *line.applicationFolder : findApplicationFolder();
+            if (!line.applicationFolder) makeApplicationFolder(folder);
+        },
+        error);
+    return folderStands ? runAll(line, folder, error, bar) : kRunTimeFault;
 }

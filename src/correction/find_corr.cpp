@@ -20,13 +20,12 @@ float weightOf(const CorrPoint& known, double Phi, double Lam, std::string_view 
     const double d2 = known.WgsLam - Lam;
     double Q = d1 * d1 * kLatitudeStretch + d2 * d2;
     if (Q == 0) Q = kSmallestDistance2;
-    try {
-        const auto weight = static_cast<double>(known.Weight);
-        return toSingle(quotient(weight, Q * Q));
-    } catch (const RuntimeFault&) {
-        raise(Fault::Overflow, "점 " + std::string(pointName) + "이(가) 보정점 " + known.Name +
-                                   "에 너무 가까워 가중치를 계산할 수 없습니다");
-    }
+    const double Q2 = Q * Q;
+    const auto w = static_cast<float>(static_cast<double>(known.Weight) / Q2);
+    if (!std::isfinite(w) || !std::isfinite(Q2))
+        raise(Fault::Overflow, "점 " + std::string(pointName) + "과(와) 보정점 " + known.Name +
+                                   "의 거리에서는 가중치를 계산할 수 없습니다");
+    return w;
 }
 
 Correction weightedMean(CorrPointTable& table, double Phi, double Lam, std::string_view pointName) {

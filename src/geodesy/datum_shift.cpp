@@ -1,5 +1,7 @@
 #include "geodesy/datum_shift.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "common/checked_arithmetic.h"
@@ -15,6 +17,7 @@ struct Shape {
     double e2 = 0;
     double b2OverA2 = 0;
 
+    Shape() = default;
     explicit Shape(const Ellipsoid& ellipsoid) : a(ellipsoid.a) {
         double f = ellipsoid.f;
         NormFlat(f);
@@ -40,34 +43,74 @@ Geocentric turnedBack(const DatumShift& s, double u, double v, double w1) {
                         .Z = ((-s.Phi * u + s.Omega * v) + w1) * reciprocal});
 }
 
-// The iteration. `h` is handed out as it goes, since after a fault it keeps its last value.
-Position iterate(const Geocentric& point, const Ellipsoid& ellipsoid, double& h) {
-    constexpr int kMostPasses = 31;
-    constexpr double kSettled = 1e-18;
-    const Shape shape(ellipsoid);
-
-    const double lam = std::atan(quotient(point.Y, point.X));
-    const double p = squareRoot(point.X * point.X + point.Y * point.Y);
-    const double Z2 = point.Z * point.Z;
-    double phi = 0;
-    double N = shape.a;
-    double previous = 0;
-    for (int pass = 1; pass <= kMostPasses; ++pass) {
-        const double r = shape.b2OverA2 * N + h;
-        phi = std::atan(quotient(point.Z, squareRoot(r * r - Z2)));
-        if (std::abs(phi - previous) < kSettled) break;
-        const double s = std::sin(phi);  // side by side, so that both come from one call
-        const double c = std::cos(phi);
-        N = quotient(shape.a, squareRoot(1 - s * s * shape.e2));  // RadiusN at phi
-        h = quotient(p, c) - N;
-        previous = phi;
+// One point on its way through the passes. Where a plain operation would give an infinity or a
+// NaN the iteration has failed, and h keeps the value of the last full pass.
+class LatitudeIteration {
+public:
+    LatitudeIteration() = default;
+    LatitudeIteration(const Geocentric& point, const Shape& shape)
+        : shape_(shape), X_(point.X), Z_(point.Z), Z2_(point.Z * point.Z), N_(shape.a) {
+        const double slope = point.Y / point.X;
+        lam_ = std::atan(slope);
+        p_ = std::sqrt(point.X * point.X + point.Y * point.Y);
+        if (!std::isfinite(slope) || !std::isfinite(p_)) state_ = State::Failed;
     }
-    const double radian = degreeToRadian();
-    Position position{.Phi = phi / radian, .Lam = lam / radian};
-    if (point.X < 0) position.Lam += 180;
-    if (position.Lam < 0) position.Lam += 360;
-    return position;
-}
+
+    [[nodiscard]] bool goesOn() const { return state_ == State::GoesOn; }
+    [[nodiscard]] bool failed() const { return state_ == State::Failed; }
+
+    void pass() {
+        constexpr int kMostPasses = 31;
+        constexpr double kSettled = 1e-18;
+        ++passes_;
+        const double r = shape_.b2OverA2 * N_ + h_;
+        const double d = r * r - Z2_;
+        const double tangent = Z_ / std::sqrt(d);
+        if (!(d > 0 && std::isfinite(tangent) && std::isfinite(d))) return fail();
+        phi_ = std::atan(tangent);
+        if (std::abs(phi_ - previous_) < kSettled) {
+            state_ = State::Settled;
+            return;
+        }
+        const double s = std::sin(phi_);  // side by side, so that both come from one call
+        const double c = std::cos(phi_);
+        const double N = shape_.a / std::sqrt(1 - s * s * shape_.e2);  // RadiusN at phi
+        const double h = p_ / c - N;
+        if (!std::isfinite(N) || !std::isfinite(h)) return fail();
+        N_ = N;
+        h_ = h;
+        previous_ = phi_;
+        if (passes_ == kMostPasses) state_ = State::Settled;
+    }
+
+    // Behind the last pass; (0, 0) after a failure. Longitude in 0..360.
+    [[nodiscard]] Geographic result() const {
+        if (failed()) return {.Phi = 0, .Lam = 0, .h = h_};
+        const double radian = degreeToRadian();
+        Geographic position{.Phi = phi_ / radian, .Lam = lam_ / radian, .h = h_};
+        if (X_ < 0) position.Lam += 180;
+        if (position.Lam < 0) position.Lam += 360;
+        return position;
+    }
+
+private:
+    enum class State { GoesOn, Settled, Failed };
+
+    void fail() { state_ = State::Failed; }
+
+    Shape shape_;
+    double X_ = 0;
+    double Z_ = 0;
+    double Z2_ = 0;
+    double lam_ = 0;
+    double p_ = 0;
+    double N_ = 0;
+    double h_ = 0;
+    double phi_ = 0;
+    double previous_ = 0;
+    int passes_ = 0;
+    State state_ = State::GoesOn;
+};
 
 }  // namespace
 
@@ -82,14 +125,38 @@ Geocentric GeoToXYZ(double Phi, double Lam, double h, const Ellipsoid& ellipsoid
 }
 
 Geographic XYZToGeo(const Geocentric& point, const Ellipsoid& ellipsoid, MessageBoxes& messages) {
-    double h = 0;
-    try {
-        const Position position = iterate(point, ellipsoid, h);
-        return {.Phi = position.Phi, .Lam = position.Lam, .h = h};
-    } catch (const RuntimeFault&) {
+    Geographic result;
+    if (!XYZToGeoTogether({&point, 1}, ellipsoid, {&result, 1}))
         messages.tell("경위도로 변환 할 수 없는 GPS 좌표 입니다. 확인후 다시 변환 하십시오");
-        return {.Phi = 0, .Lam = 0, .h = h};
+    return result;
+}
+
+bool XYZToGeoTogether(std::span<const Geocentric> points, const Ellipsoid& ellipsoid,
+                      std::span<Geographic> results) {
+    std::array<LatitudeIteration, kMostTogether> iterations;
+    try {
+        const Shape shape(ellipsoid);
+        for (std::size_t i = 0; i < points.size(); ++i)
+            iterations[i] = LatitudeIteration(points[i], shape);
+    } catch (const RuntimeFault&) {  // no ellipsoid to speak of
+        std::fill(results.begin(), results.end(), Geographic{});
+        return false;
     }
+    const std::span ways(iterations.data(), points.size());
+    for (bool goesOn = true; goesOn;) {
+        goesOn = false;
+        for (LatitudeIteration& way : ways)
+            if (way.goesOn()) {
+                way.pass();
+                goesOn = true;
+            }
+    }
+    bool all = true;
+    for (std::size_t i = 0; i < ways.size(); ++i) {
+        results[i] = ways[i].result();
+        all = all && !ways[i].failed();
+    }
+    return all;
 }
 
 void SetDatumPara(DatumState& state, double dX, double dY, double dZ, double Omega, double Phi,

@@ -4,6 +4,9 @@
 // are those of the forward direction. Angles are decimal degrees, lengths metres.
 #pragma once
 
+#include <cstddef>
+#include <span>
+
 #include "common/ports.h"
 #include "geodesy/ellipsoid.h"
 #include "geodesy/geoid.h"
@@ -53,6 +56,13 @@ namespace KelvoSub {
 // gives Phi = Lam = 0 with the height of the last full pass. Longitude comes in 0..360.
 [[nodiscard]] Geographic XYZToGeo(const Geocentric& point, const Ellipsoid& ellipsoid,
                                   MessageBoxes& messages);
+
+// Several points, at most kMostTogether, each with the very result of XYZToGeo; no message. False
+// if one of them failed. A pass is a chain of roots and quotients that wait for each other, so
+// the passes of some points side by side take little longer than those of one.
+inline constexpr std::size_t kMostTogether = 4;
+[[nodiscard]] bool XYZToGeoTogether(std::span<const Geocentric> points, const Ellipsoid& ellipsoid,
+                                    std::span<Geographic> results);
 
 // Loads the shift (rotations in seconds of arc, dS in parts per million) and fills the geoid
 // tables.

@@ -6,58 +6,66 @@
 #include "common/integer_power.h"
 #include "common/run_time_fault.h"
 
+namespace kelvo {
+
+TmGrid::TmGrid(const Ellipsoid& ellipsoid, const Projection& projection) : projection_(projection) {
+    try {
+        derive(ellipsoid);
+        M0_ = meridianArc(finite(projection.Phi0 * KelvoSub::degreeToRadian())) * projection.S0;
+    } catch (const RuntimeFault&) {
+        computable_ = false;
+    }
+}
+
+// Squares of the eccentricities and the coefficients of the meridian arc by the third flattening
+// n (after Helmert).
+void TmGrid::derive(const Ellipsoid& ellipsoid) {
+    const double a = ellipsoid.a;
+    double f = ellipsoid.f;
+    KelvoSub::NormFlat(f);
+    const double invf = quotient(1, f);
+    const double b = quotient((invf - 1) * a, invf);
+    const double a2 = a * a;
+    const double b2 = b * b;
+    a_ = a;
+    e2_ = quotient(a2 - b2, a2);
+    ep2_ = quotient(a2 - b2, b2);
+
+    const Powers<5> n(quotient(a - b, b + a));
+    A_ = (81 * (n(4) - n(5)) / 64 + (5 * (n(2) - n(3)) / 4 + (1 - n(1)))) * a;
+    B_ = ((55 * n(5) / 64 + ((n(1) - n(2)) + 7 * (n(3) - n(4)) / 8)) * (3 * a)) / 2;
+    C_ = (((n(2) - n(3)) + 3 * (n(4) - n(5)) / 4) * (15 * a)) / 16;
+    D_ = ((11 * n(5) / 16 + (n(3) - n(4))) * (35 * a)) / 48;
+    E_ = ((n(4) - n(5)) * (315 * a)) / 512;
+}
+
+double TmGrid::meridianArc(double phi) const {
+    return KelvoSub::MeridianArc(A_, B_, C_, D_, E_, phi);
+}
+
+}  // namespace kelvo
+
 namespace kelvo::KelvoSub {
 
 namespace {
 
-// What both series derive from the ellipsoid: squares of the first and second eccentricity and
-// the coefficients of the meridian arc, by the third flattening n (after Helmert).
-struct DerivedConstants {
-    double a = 0;
-    double e2 = 0;
-    double ep2 = 0;
-    double A = 0;
-    double B = 0;
-    double C = 0;
-    double D = 0;
-    double E = 0;
+void requireComputable(const TmGrid& grid) {
+    if (!grid.computable()) raise(Fault::Overflow);
+}
 
-    explicit DerivedConstants(const Ellipsoid& ellipsoid) : a(ellipsoid.a) {
-        double f = ellipsoid.f;
-        NormFlat(f);
-        const double invf = quotient(1, f);
-        const double b = quotient((invf - 1) * a, invf);
-        const double a2 = a * a;
-        const double b2 = b * b;
-        e2 = quotient(a2 - b2, a2);
-        ep2 = quotient(a2 - b2, b2);
-
-        const Powers<5> n(quotient(a - b, b + a));
-        A = (81 * (n(4) - n(5)) / 64 + (5 * (n(2) - n(3)) / 4 + (1 - n(1)))) * a;
-        B = ((55 * n(5) / 64 + ((n(1) - n(2)) + 7 * (n(3) - n(4)) / 8)) * (3 * a)) / 2;
-        C = (((n(2) - n(3)) + 3 * (n(4) - n(5)) / 4) * (15 * a)) / 16;
-        D = ((11 * n(5) / 16 + (n(3) - n(4))) * (35 * a)) / 48;
-        E = ((n(4) - n(5)) * (315 * a)) / 512;
-    }
-
-    [[nodiscard]] double arc(double phi) const { return MeridianArc(A, B, C, D, E, phi); }
-};
-
-GridPoint gridOf(double Phi, double Lam, const Ellipsoid& ellipsoid, const Projection& p) {
+GridPoint gridOf(double Phi, double Lam, const TmGrid& grid) {
+    requireComputable(grid);
+    const Projection& p = grid.projection();
     const double radian = degreeToRadian();
     const double phi = Phi * radian;
-    const double phi0 = p.Phi0 * radian;
     const double S0 = p.S0;
-
-    const DerivedConstants k(ellipsoid);
     const Powers<8> dl(Lam * radian - p.Lam0 * radian);
-    const double M0 = k.arc(phi0) * S0;
 
     const double s = std::sin(finite(phi));
     const Powers<7> c(std::cos(phi));
     const Powers<6> t(quotient(s, c(1)));
-    const Powers<4> h(c(2) * k.ep2);  // the square of the usual eta
-    const double N = RadiusN(k.a, k.e2, phi);
+    const Powers<4> h(c(2) * grid.ep2());  // the square of the usual eta
+    const double N = RadiusN(grid.a(), grid.e2(), phi);
     const double sN = s * N;
 
     const double P3 = 5 - t(2) + 9 * h(1) + 4 * h(2);
@@ -66,13 +74,13 @@ GridPoint gridOf(double Phi, double Lam, const Ellipsoid& ellipsoid, const Proje
                       192 * t(2) * h(4);
     const double P5 = 1385 - 3111 * t(2) + 543 * t(4) - t(6);
 
-    const double T1 = k.arc(phi) * S0;
+    const double T1 = grid.meridianArc(phi) * S0;
     const double T2 = (sN * c(1) * S0) / 2;
     const double T3 = (c(3) * sN * S0 * P3) / 24;
     const double T4 = (c(5) * sN * S0 * P4) / 720;
     const double T5 = (c(7) * sN * S0 * P5) / 40320;
 
-    const double X = (dl(2) * T2 + T1) + dl(4) * T3 + dl(6) * T4 + dl(8) * T5 - M0 + p.X0;
+    const double X = (dl(2) * T2 + T1) + dl(4) * T3 + dl(6) * T4 + dl(8) * T5 - grid.M0() + p.X0;
 
     const double P8 = 5 - 18 * t(2) + t(4) + 14 * h(1) - 58 * t(2) * h(1) + 13 * h(2) + 4 * h(3) -
                       64 * t(2) * h(2) - 24 * t(2) * h(3);
@@ -89,10 +97,10 @@ GridPoint gridOf(double Phi, double Lam, const Ellipsoid& ellipsoid, const Proje
 }
 
 // The latitude whose meridian arc is S: exactly five passes, whatever the data.
-double footPointLatitude(const DerivedConstants& k, double S) {
-    double phi = quotient(S, RadiusM(k.a, k.e2, 0));
+double footPointLatitude(const TmGrid& grid, double S) {
+    double phi = quotient(S, RadiusM(grid.a(), grid.e2(), 0));
     for (int pass = 0; pass < 5; ++pass)
-        phi = finite(quotient(S - k.arc(phi), RadiusM(k.a, k.e2, phi)) + phi);
+        phi = finite(quotient(S - grid.meridianArc(phi), RadiusM(grid.a(), grid.e2(), phi)) + phi);
     return phi;
 }
 
@@ -100,16 +108,17 @@ Position positionOf(double X, double Y, const Ellipsoid& ellipsoid, const Projec
     const double radian = degreeToRadian();
     const Powers<8> S0(p.S0);
 
-    const DerivedConstants k(ellipsoid);
-    const double S = quotient((k.arc(finite(p.Phi0 * radian)) * S0(1) + X) - p.X0, S0(1));
-    const double phi = footPointLatitude(k, S);
+    const TmGrid grid(ellipsoid, p);
+    requireComputable(grid);
+    const double S = quotient((grid.M0() + X) - p.X0, S0(1));
+    const double phi = footPointLatitude(grid, S);
 
-    const double M = RadiusM(k.a, k.e2, phi);
-    const Powers<7> N(RadiusN(k.a, k.e2, phi));
+    const double M = RadiusM(grid.a(), grid.e2(), phi);
+    const Powers<7> N(RadiusN(grid.a(), grid.e2(), phi));
     const double s = std::sin(phi);
     const double c = std::cos(phi);
     const Powers<6> t(quotient(s, c));
-    const Powers<4> h(c * c * k.ep2);
+    const Powers<4> h(c * c * grid.ep2());
     const Powers<8> dy(Y - p.Y0);
 
     const double Q11 = 5 + 3 * t(2) + h(1) - 4 * h(2) - 9 * t(2) * h(1);
@@ -138,12 +147,19 @@ Position positionOf(double X, double Y, const Ellipsoid& ellipsoid, const Projec
 }
 
 // The national grid, its central meridian by zone: 125, 127, 129 and so on, plus the shift.
-Projection nationalGrid(int zone, double shiftSeconds) {
+Projection nationalProjection(int zone, double shiftSeconds) {
     return {.X0 = 500000.0,
             .Y0 = 200000.0,
             .Phi0 = 38.0,
             .Lam0 = (2.0 * zone + 123) + shiftSeconds / 3600,
             .S0 = 1.0};
+}
+
+TmGrid nationalGrid(int zone, double shiftSeconds) {
+    static const TmGrid grid(kBessel, nationalProjection(1, 0));
+    TmGrid ofZone = grid;
+    ofZone.setCentralMeridian(nationalProjection(zone, shiftSeconds).Lam0);
+    return ofZone;
 }
 
 }  // namespace
@@ -155,12 +171,16 @@ double MeridianArc(double A, double B, double C, double D, double E, double phi)
 
 GridPoint GeoToTM(double Phi, double Lam, const Ellipsoid& ellipsoid, const Projection& projection,
                   MessageBoxes& messages) {
+    return GeoToTM(Phi, Lam, TmGrid(ellipsoid, projection), messages);
+}
+
+GridPoint GeoToTM(double Phi, double Lam, const TmGrid& grid, MessageBoxes& messages) {
     try {
-        return gridOf(Phi, Lam, ellipsoid, projection);
+        return gridOf(Phi, Lam, grid);
     } catch (const RuntimeFault&) {
         messages.tell(
             "직교좌표로 변환할 수 없는 데이터 입니다. 타원체 제원과 경위도를 확인후 다시 하십시오");
-        return {.X = projection.X0, .Y = projection.Y0};
+        return {.X = grid.projection().X0, .Y = grid.projection().Y0};
     }
 }
 
@@ -182,13 +202,13 @@ GridPoint BesselToTM(double Phi, double Lam, int& zone, double shiftSeconds,
         if (Lam < 126.0) zone = 1;
         if (Lam > 128.0) zone = 3;
     }
-    return GeoToTM(Phi, Lam, kBessel, nationalGrid(zone, shiftSeconds), messages);
+    return GeoToTM(Phi, Lam, nationalGrid(zone, shiftSeconds), messages);
 }
 
 Position TMToBessel(double X, double Y, int& zone, double shiftSeconds, MessageBoxes& messages) {
     if (zone < 1) zone = 1;
     if (zone > 3) zone = 3;
-    return TMToGeo(X, Y, kBessel, nationalGrid(zone, shiftSeconds), messages);
+    return TMToGeo(X, Y, kBessel, nationalProjection(zone, shiftSeconds), messages);
 }
 
 void chkZone(double lam, std::int16_t& Zone, double& Lam0) {

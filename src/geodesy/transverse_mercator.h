@@ -36,6 +36,41 @@ struct Position {
     double Lam = 0;  // longitude, decimal degrees
 };
 
+// What a grid on an ellipsoid has in common for all its points, whatever the central meridian:
+// computed once where many points go to one grid. Data that can't be computed is told by the
+// points, each for itself.
+class TmGrid {
+public:
+    TmGrid(const Ellipsoid& ellipsoid, const Projection& projection);
+
+    [[nodiscard]] const Projection& projection() const { return projection_; }
+    void setCentralMeridian(double Lam0) { projection_.Lam0 = Lam0; }
+
+    // Arc of the meridian from the equator, metres; phi in radians.
+    [[nodiscard]] double meridianArc(double phi) const;
+
+    [[nodiscard]] bool computable() const { return computable_; }
+    [[nodiscard]] double a() const { return a_; }
+    [[nodiscard]] double e2() const { return e2_; }    // first eccentricity, squared
+    [[nodiscard]] double ep2() const { return ep2_; }  // second eccentricity, squared
+    [[nodiscard]] double M0() const { return M0_; }    // arc to the origin, scaled
+
+private:
+    void derive(const Ellipsoid& ellipsoid);
+
+    Projection projection_;
+    double a_ = 0;
+    double e2_ = 0;
+    double ep2_ = 0;
+    double A_ = 0;
+    double B_ = 0;
+    double C_ = 0;
+    double D_ = 0;
+    double E_ = 0;
+    double M0_ = 0;
+    bool computable_ = true;
+};
+
 // The seconds of arc by which the longitude of the Korean TM origins is raised: the difference
 // between the longitude of the old origin point and its later determination.
 inline constexpr double kOriginShiftSeconds = 10.405;
@@ -50,6 +85,9 @@ namespace KelvoSub {
 // a message and gives X0, Y0.
 [[nodiscard]] GridPoint GeoToTM(double Phi, double Lam, const Ellipsoid& ellipsoid,
                                 const Projection& projection, MessageBoxes& messages);
+
+// The same on a grid that is computed once.
+[[nodiscard]] GridPoint GeoToTM(double Phi, double Lam, const TmGrid& grid, MessageBoxes& messages);
 
 // Grid to position. Exactly five passes for the foot-point latitude. Data that can't be computed
 // (a zero scale, say) shows a message and gives Phi0, Lam0.

@@ -208,7 +208,7 @@ TEST_F(KelvoBatch, WrongUsageEndsWithTwo) {
     };
     EXPECT_EQ(exitCodeOf({}).exitCode, 2);
     EXPECT_EQ(exitCodeOf({"--nonsense", "a.dat"}).exitCode, 2);
-    EXPECT_EQ(exitCodeOf({"a.dat", "b.dat"}).exitCode, 2);
+    EXPECT_EQ(exitCodeOf({"-"}).exitCode, 2);
     EXPECT_EQ(exitCodeOf({"--app-folder"}).exitCode, 2);
     EXPECT_NE(exitCodeOf({}).err, "");
 }

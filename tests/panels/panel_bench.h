@@ -6,9 +6,9 @@
 #include <string>
 #include <string_view>
 
-#include "common/run_time_fault.h"
 #include "panels/one_point_panel.h"
 #include "panels/parameter_panels.h"
+#include "support/faults.h"
 #include "support/memory_disk.h"
 #include "support/recording_messages.h"
 
@@ -87,16 +87,5 @@ protected:
     int written = 0;  // how often the configuration was written
     OnePointPanel panel{form, frmeOne, parameters, state, disk, messages, [this] { ++written; }};
 };
-
-// The number of the fault that a piece of work ends in, 0 if it ends well.
-template <class Work>
-[[nodiscard]] int faultOf(Work work) {
-    try {
-        work();
-    } catch (const RuntimeFault& fault) {
-        return fault.number();
-    }
-    return 0;
-}
 
 }  // namespace kelvo::testing

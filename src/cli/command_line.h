@@ -1,0 +1,36 @@
+// The command line of kelvo-batch.
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace kelvo {
+
+struct CommandLine {
+    enum class Wish { Convert, Help, Version };
+
+    Wish wish = Wish::Convert;
+    std::optional<std::string> applicationFolder;  // without a trailing separator
+    bool quiet = false;
+    std::vector<std::string> dataFiles;
+};
+
+// A command line that is understood, or what is wrong with it, in one sentence.
+struct CommandLineReading {
+    std::optional<CommandLine> line;
+    std::string complaint;
+};
+
+// Reads the arguments behind the program's name. Refused: no data file, an unknown option, "-"
+// for standard input, two data files that would write the same result file.
+[[nodiscard]] CommandLineReading readCommandLine(std::span<const std::string> arguments);
+
+// The arguments of this process behind the program's name, in UTF-8 on every platform.
+[[nodiscard]] std::vector<std::string> argumentsOfProcess(int argc, char** argv);
+
+[[nodiscard]] std::string usageText();
+[[nodiscard]] std::string helpText();
+
+}  // namespace kelvo

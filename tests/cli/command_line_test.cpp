@@ -1,0 +1,92 @@
+// The command line of kelvo-batch and its progress bar.
+#include "cli/command_line.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "cli/progress_bar.h"
+#include "common/disk.h"
+
+namespace kelvo {
+namespace {
+
+CommandLineReading read(const std::vector<std::string>& arguments) {
+    return readCommandLine(arguments);
+}
+
+TEST(BatchCommandLine, TakesSeveralDataFilesInTheirOrder) {
+    const auto reading = read({"b.dat", "--quiet", "a.dat"});
+    ASSERT_TRUE(reading.line);
+    EXPECT_EQ(reading.line->dataFiles, (std::vector<std::string>{"b.dat", "a.dat"}));
+    EXPECT_TRUE(reading.line->quiet);
+    EXPECT_FALSE(reading.line->applicationFolder);
+}
+
+TEST(BatchCommandLine, TheApplicationFolderLosesItsTrailingSeparator) {
+    const auto reading = read({"--app-folder", std::string("dir") + kPathSeparator, "a.dat"});
+    ASSERT_TRUE(reading.line);
+    EXPECT_EQ(reading.line->applicationFolder, "dir");
+}
+
+TEST(BatchCommandLine, TheRootFolderStaysItself) {
+    const auto reading = read({"--app-folder", std::string(1, kPathSeparator), "a.dat"});
+    ASSERT_TRUE(reading.line);
+    EXPECT_EQ(reading.line->applicationFolder, std::string(1, kPathSeparator));
+}
+
+TEST(BatchCommandLine, ALoneHyphenIsRefusedWithTheReason) {
+    const auto reading = read({"-"});
+    EXPECT_FALSE(reading.line);
+    EXPECT_NE(reading.complaint.find("standard input"), std::string::npos);
+}
+
+TEST(BatchCommandLine, NoDataFileAndAnEmptyNameAreRefused) {
+    EXPECT_FALSE(read({}).line);
+    EXPECT_FALSE(read({"--quiet"}).line);
+    EXPECT_FALSE(read({""}).line);
+}
+
+TEST(BatchCommandLine, AnUnknownOptionIsRefusedByName) {
+    const auto reading = read({"--loud", "a.dat"});
+    EXPECT_FALSE(reading.line);
+    EXPECT_NE(reading.complaint.find("--loud"), std::string::npos);
+}
+
+TEST(BatchCommandLine, AnApplicationFolderMustFollowItsOption) {
+    EXPECT_FALSE(read({"a.dat", "--app-folder"}).line);
+}
+
+TEST(BatchCommandLine, BehindTwoHyphensANameMayBeginWithOne) {
+    const auto reading = read({"--", "-a.dat", "-"});
+    ASSERT_TRUE(reading.line);
+    EXPECT_EQ(reading.line->dataFiles, (std::vector<std::string>{"-a.dat", "-"}));
+}
+
+TEST(BatchCommandLine, FilesThatWouldWriteOneResultAreRefused) {
+    EXPECT_FALSE(read({"a.dat", "a.txt"}).line);
+    EXPECT_FALSE(read({"a.dat", "a.dat"}).line);
+    EXPECT_TRUE(read({"a.dat", "b.dat"}).line);
+}
+
+TEST(BatchCommandLine, HelpAndVersionNeedNoDataFile) {
+    ASSERT_TRUE(read({"--help"}).line);
+    EXPECT_EQ(read({"--help"}).line->wish, CommandLine::Wish::Help);
+    ASSERT_TRUE(read({"--version"}).line);
+    EXPECT_EQ(read({"--version"}).line->wish, CommandLine::Wish::Version);
+}
+
+TEST(ProgressLine, TellsHowManyFilesAreDone) {
+    EXPECT_EQ(progressLine(1, 4, "b.dat"), "[#####---------------] 1/4 b.dat");
+    EXPECT_EQ(progressLine(4, 4, ""), "[####################] 4/4 ");
+}
+
+TEST(ProgressLine, ALongNameIsCutFromTheFrontBetweenCharacters) {
+    const std::string line = progressLine(0, 5, "/한글/이름이/긴/자료.dat", 43);
+    EXPECT_LE(line.size(), 43U);
+    EXPECT_EQ(line, "[--------------------] 0/5 /긴/자료.dat");
+}
+
+}  // namespace
+}  // namespace kelvo

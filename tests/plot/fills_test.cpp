@@ -1,0 +1,228 @@
+#include <array>
+#include <cmath>
+
+#include "plot_fixture.h"
+
+namespace kelvo::testing {
+namespace {
+
+using PlotFills = PlotTest;
+
+TEST_F(PlotFills, ModeSixChangesNothingAndItsNeighboursSetTheirNumbers) {
+    useScreen();
+    object.pfillMode(6);
+    EXPECT_EQ(told(), Lines{});
+    object.pfillMode(5);
+    object.pfillMode(7);
+    EXPECT_EQ(told(), (Lines{"DrawMode = 5", "DrawMode = 7"}));
+}
+
+TEST_F(PlotFills, ModesOutsideOneToSixteenChangeNothing) {
+    useScreen();
+    for (const double mode : {0.0, -1.0, 17.0, 2.5}) object.pfillMode(mode);
+    EXPECT_EQ(told(), Lines{});
+    object.pfillMode(16);
+    EXPECT_EQ(told(), Lines{"DrawMode = 16"});
+}
+
+TEST_F(PlotFills, ModeOneCopiesThePenOnAPrinterWithColours) {
+    useScreen();
+    object.pfillMode(1);
+    object.setPrinterType("t");
+    object.pfillMode(1);
+    EXPECT_EQ(told(), (Lines{"DrawMode = 1", "DrawMode = 13"}));
+}
+
+TEST_F(PlotFills, BoxIsFilledInItsColourAndTheSurfaceIsPutBack) {
+    useScreen();
+    screen.setDrawMode(7);
+    screen.setForeColor(40000);
+    told();
+    const Lines expected{"FillStyle = 0", "ForeColor = 255",
+                         "DrawMode = 13", "Line 56.7000 56.7000 113.4000 170.1000 255 38",
+                         "FillStyle = 1", "ForeColor = 40000",
+                         "DrawMode = 7"};
+    object.pFillBox(1, 1, 2, 3, 255);
+    EXPECT_EQ(told(), expected);
+    object.pfill(1, 1, 2, 3, 255);
+    EXPECT_EQ(told(), expected);
+}
+
+TEST_F(PlotFills, CircleIsFilledInItsColourAndTheSurfaceIsPutBack) {
+    useScreen();
+    object.pFillCircle(1, 2, 1, 255);
+    EXPECT_EQ(told(), (Lines{"FillStyle = 0", "ForeColor = 255", "FillColor = 255", "DrawMode = 13",
+                             "Circle 56.7000 113.4000 56.7000 0 0.0000 0.0000 0.0000 0",
+                             "FillStyle = 1", "ForeColor = 0", "FillColor = 0", "DrawMode = 13"}));
+}
+
+TEST_F(PlotFills, CircleOverflowsOnAKeptColourAbove32767) {
+    useScreen();
+    screen.setForeColor(32767);
+    told();
+    EXPECT_EQ(faultOf([&] { object.pFillCircle(1, 2, 1, 255); }), 0);
+    screen.setForeColor(32768);
+    told();
+    EXPECT_EQ(faultOf([&] { object.pFillCircle(1, 2, 1, 255); }), 6);
+    EXPECT_EQ(told(), Lines{});
+    screen.setForeColor(0);
+    screen.setFillColor(65535);
+    told();
+    EXPECT_EQ(faultOf([&] { object.pFillCircle(1, 2, 1, 255); }), 6);
+}
+
+TEST_F(PlotFills, FaultStopsTheCallAndPutsNothingBack) {
+    useScreen();
+    failAt = "Line";
+    EXPECT_EQ(faultOf([&] { object.pFillBox(1, 1, 2, 3, 255); }), 75);
+    EXPECT_EQ(told(), (Lines{"FillStyle = 0", "ForeColor = 255", "DrawMode = 13"}));
+}
+
+TEST_F(PlotFills, BlackPolygonDrawsInModeOneAndAColouredOneCopies) {
+    const std::array<double, 3> xs{10, 30, 20};
+    const std::array<double, 3> ys{10, 11, 30};
+    useScreen();
+    object.pFillPoly(xs, ys, 3, 0);
+    auto lines = told();
+    EXPECT_EQ(lines[0], "ForeColor = 0");
+    EXPECT_EQ(lines[1], "DrawMode = 1");
+    EXPECT_EQ(lines.back(), "DrawMode = 13");
+    object.pFillPoly(xs, ys, 3, 255);
+    lines = told();
+    EXPECT_EQ(lines[0], "ForeColor = 255");
+    EXPECT_EQ(lines[1], "DrawMode = 13");
+    EXPECT_EQ(lines[lines.size() - 2], "ForeColor = 0");
+}
+
+TEST_F(PlotFills, SquarePolygonFills) {
+    const std::array<double, 4> xs{10, 20, 20, 10};
+    const std::array<double, 4> ys{10, 10, 20, 20};
+    useScreen();
+    EXPECT_EQ(faultOf([&] { object.pFillPoly(xs, ys, 4, 255); }), 0);
+    // Four triangles with three outlines each, and strokes over a height of 283.5 twips or more:
+    // steps 11, 11, 22, 33, 44, 55, 66 pass it with the eighth (77).
+    const auto lines = told();
+    EXPECT_EQ(countOf(lines, "DrawWidth = 8.0000"), 4);
+}
+
+TEST_F(PlotFills, PolygonBeyondItsListsIsASubscriptFault) {
+    const std::array<double, 3> three{1, 2, 3};
+    useScreen();
+    EXPECT_EQ(faultOf([&] { object.pFillPoly(three, three, 4, 255); }), 9);
+    EXPECT_EQ(faultOf([&] { object.pFillPoly(three, three, -1, 255); }), 9);
+    EXPECT_EQ(faultOf([&] { object.pFillPoly(three, three, 0, 255); }), 6);
+}
+
+TEST_F(PlotFills, PolygonOverflowsOnAKeptColourAbove32767) {
+    const std::array<double, 3> xs{10, 30, 20};
+    useScreen();
+    screen.setForeColor(32768);
+    told();
+    EXPECT_EQ(faultOf([&] { object.pFillPoly(xs, xs, 3, 255); }), 6);
+    EXPECT_EQ(told(), Lines{});
+}
+
+TEST_F(PlotFills, StrokesGetWiderTowardTheApex) {
+    useScreen();
+    object.pFillTri(10, 10, 30, 10.001, 20, 12);  // 113.4 twips high
+    const auto lines = told();
+    Lines widths;
+    for (const auto& line : lines)
+        if (line.starts_with("DrawWidth")) widths.push_back(line);
+    // Steps 11, 11, 22, 33, 44 pass 113.4 with the fifth; the first two pens are 2 wide.
+    EXPECT_EQ(widths, (Lines{"DrawWidth = 1.0000", "DrawWidth = 1.0000", "DrawWidth = 2.0000",
+                             "DrawWidth = 2.0000", "DrawWidth = 3.0000", "DrawWidth = 4.0000",
+                             "DrawWidth = 5.0000", "DrawWidth = 1.0000"}));
+    EXPECT_EQ(countOf(lines, "Line"), 3 + 5);
+}
+
+TEST_F(PlotFills, StrokesOnPaperStepByThePrintersPixel) {
+    usePrinter();
+    object.pFillTri(10, 10, 30, 10.001, 20, 12);
+    // 113.4 / 2.4 = 47.25 pixels: 1 + 1 + 2 + ... + 9 = 46, so the eleventh stroke passes it.
+    EXPECT_EQ(countOf(told(), "Line"), 3 + 11);
+}
+
+// The meeting point of a moved side that stands upright takes its y from the slope 1E25, which
+// leaves no digit of it: required. Height, direction, number, width and x of the strokes are
+// those of the triangle slightly turned.
+TEST_F(PlotFills, UprightFirstSideTakesTheStrokesOfTheTriangleSlightlyTurned) {
+    const auto strokes = [this](double lean) {
+        useScreen();
+        object.pline(0, 0, 0, 0, 1);  // the width of the outline, told once only
+        told();
+        object.pFillTri(0, 10, lean, 30, 8, 20);
+        return told();
+    };
+    const Lines upright = strokes(0);
+    const Lines turned = strokes(1e-6);
+    ASSERT_EQ(upright.size(), turned.size());
+    int compared = 0;
+    for (std::size_t i = 0; i < upright.size(); ++i) {
+        double a[4];
+        double b[4];
+        const auto read = [](const std::string& line, double* v) {
+            return std::sscanf(line.c_str(), "Line %lf %lf %lf %lf", &v[0], &v[1], &v[2], &v[3]);
+        };
+        if (read(upright[i], a) != 4) {
+            EXPECT_EQ(upright[i], turned[i]);
+            continue;
+        }
+        ASSERT_EQ(read(turned[i], b), 4);
+        EXPECT_NEAR(a[0], b[0], 0.001) << i;
+        EXPECT_NEAR(a[2], b[2], 0.001) << i;
+        ++compared;
+    }
+    EXPECT_EQ(compared, 3 + 10);
+    // Outline and first stroke lie on the side itself and have their y as well.
+    EXPECT_EQ(countOf(upright, "Line 5.5000 567.0000 5.5000 1701.0000"), 1);
+}
+
+TEST_F(PlotFills, MovedSideLiesBetweenTheOtherTwo) {
+    const auto stroke = clsplot1::TriStroke(0, 0, 10, 0, 5, 10, 5, 90);
+    EXPECT_NEAR(stroke.ax, 2.5, 1e-6);
+    EXPECT_NEAR(stroke.ay, 5, 1e-6);
+    EXPECT_NEAR(stroke.bx, 7.5, 1e-6);
+    EXPECT_NEAR(stroke.by, 5, 1e-6);
+}
+
+TEST_F(PlotFills, EllipseIsAFanOf24Triangles) {
+    useScreen();
+    object.pFillEllipse(50, 60, 10, 15, 0.5, 255);
+    const auto lines = told();
+    EXPECT_EQ(lines[0], "ForeColor = 255");
+    EXPECT_EQ(lines[1], "DrawMode = 13");
+    EXPECT_EQ(lines[lines.size() - 2], "ForeColor = 0");
+    EXPECT_EQ(lines.back(), "DrawMode = 13");
+    // Each triangle ends with its pen of width 1 back, and begins with it twice in the first.
+    long triangles = 0;
+    for (std::size_t i = 1; i < lines.size(); ++i)
+        triangles += lines[i] == "DrawWidth = 2.0000" && lines[i - 1].starts_with("Line") &&
+                             !lines[i - 2].starts_with("DrawWidth")
+                         ? 1
+                         : 0;
+    EXPECT_EQ(triangles, 24);
+}
+
+TEST_F(PlotFills, EllipseOnAZeroValueBreaksItsFan) {
+    useScreen();
+    // The first corner stands on x = 10 + (-10) = 0, so the first sector is missing.
+    object.pFillEllipse(-10, 60, 10, 0, 0.5, 255);
+    const long broken = countOf(told(), "DrawWidth = 1.0000");
+    object.pFillEllipse(-11, 60, 10, 0, 0.5, 255);
+    EXPECT_GT(countOf(told(), "DrawWidth = 1.0000"), broken);
+}
+
+TEST_F(PlotFills, HugeTriangleEnds) {
+    useScreen();
+    object.pFillTri(0, 0, 1e9, 1, 5e8, 1e9);
+    EXPECT_EQ(countOf(told(), "Line"), 3 + clsplot1::kMostTriangleStrokes);
+}
+
+TEST_F(PlotFills, FlatTriangleIsAFaultOrEnds) {
+    useScreen();
+    EXPECT_NE(faultOf([&] { object.pFillTri(1, 1, 1, 1, 1, 1); }), 0);
+}
+
+}  // namespace
+}  // namespace kelvo::testing
