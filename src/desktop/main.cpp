@@ -1,0 +1,98 @@
+// kelvo: the window.
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QFileInfo>
+#include <QIcon>
+#include <QLibraryInfo>
+#include <QMessageBox>
+#include <QSettings>
+#include <QTranslator>
+#include <cstdio>
+
+#include "common/application_folder.h"
+#include "desktop/fault_report.h"
+#include "desktop/look_of_window.h"
+#include "desktop/main_window.h"
+
+using namespace kelvo;
+using namespace kelvo::desktop;
+
+namespace {
+
+// The help text comes with the program; the copy in the application folder is the one shown.
+void provideHelpFile(const QString& folder) {
+    const QString target = QDir(folder).filePath(QStringLiteral("KelvoHelp.txt"));
+    if (QFileInfo::exists(target)) return;
+    if (QFile::copy(QStringLiteral(":/kelvo/KelvoHelp.txt"), target)) {
+        QFile::setPermissions(
+            target, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
+    }
+}
+
+int reportStart(const RuntimeFault& fault) {
+    QMessageBox::critical(nullptr, QStringLiteral("Kelvo"),
+                          faultReport(fault.number(), fault.text(), {}, false));
+    return 1;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("kelvo"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Kelvo"));
+    QApplication::setApplicationVersion(QStringLiteral("3.5.0"));
+    QApplication::setDesktopFileName(QStringLiteral("kelvo"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/kelvo/icon.png")));
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("측량 좌표변환 프로그램"));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    const QCommandLineOption folderOption(QStringLiteral("app-folder"),
+                                          QStringLiteral("설정과 결과를 두는 폴더"),
+                                          QStringLiteral("DIR"));
+    const QCommandLineOption themeOption(QStringLiteral("theme"),
+                                         QStringLiteral("화면 색: system, light, dark"),
+                                         QStringLiteral("NAME"));
+    parser.addOptions({folderOption, themeOption});
+    parser.addPositionalArgument(QStringLiteral("DATA.dat"), QStringLiteral("열 데이터 파일"),
+                                 QStringLiteral("[DATA.dat]"));
+    parser.process(application);
+
+    QTranslator dialogs;
+    if (dialogs.load(QStringLiteral("qtbase_ko"),
+                     QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QApplication::installTranslator(&dialogs);
+    }
+    setUpFonts(application);
+
+    try {
+        std::string folder = findApplicationFolder();
+        if (parser.isSet(folderOption)) {
+            folder = QDir(parser.value(folderOption)).absolutePath().toStdString();
+        }
+        makeApplicationFolder(folder);
+        const QString shownFolder = QString::fromStdString(folder);
+        provideHelpFile(shownFolder);
+        const QSettings settings(QDir(shownFolder).filePath(QStringLiteral("window.ini")),
+                                 QSettings::IniFormat);
+        setTheme(application, themeNamed(parser.isSet(themeOption)
+                                             ? parser.value(themeOption)
+                                             : settings.value(QStringLiteral("theme")).toString()));
+
+        // A name on the command line counts from where the program was started, not from the
+        // folder of the data file that it will have moved to.
+        QString dataFile = parser.positionalArguments().value(0);
+        if (!dataFile.isEmpty()) dataFile = QFileInfo(dataFile).absoluteFilePath();
+
+        MainWindow window(folder);
+        if (!window.start()) return 1;
+        if (!dataFile.isEmpty()) window.openDataFile(dataFile);
+        if (window.gate().isClosed()) return 1;
+        return QApplication::exec();
+    } catch (const RuntimeFault& fault) {
+        return reportStart(fault);
+    }
+}

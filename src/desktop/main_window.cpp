@@ -1,0 +1,219 @@
+#include "desktop/main_window.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDir>
+#include <QFile>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QToolButton>
+#include <cmath>
+
+#include "common/code_page.h"
+#include "desktop/fault_report.h"
+#include "desktop/text_viewer.h"
+
+namespace kelvo::desktop {
+
+namespace {
+
+constexpr double kTwipsPerPixel = 15;
+constexpr int kEntryOpen = 2;  // mnuFileItem(2): 기존파일 열기
+
+QString droppedDataFile(const QMimeData* data) {
+    for (const QUrl& url : data->urls()) {
+        const QString path = url.toLocalFile();
+        if (path.endsWith(QLatin1String(".dat"), Qt::CaseInsensitive)) return path;
+    }
+    return {};
+}
+
+}  // namespace
+
+MainWindow::MainWindow(const std::string& applicationFolder)
+    : applicationFolder_(applicationFolder),
+      lock_(qt(applicationFolder)),
+      messages_(dialogParent_),
+      dialogs_(dialogParent_, [this]() -> QPrinter& { return systemPrinter(); }) {
+    setObjectName(QStringLiteral("frmKelvo"));
+    setAccessibleDescription(QStringLiteral("frmKelvo"));
+    setAcceptDrops(true);
+    dialogParent_ = {this, &lock_};
+    gate_.before = [this](EventGate::Event event) { beforeEvent(event); };
+    gate_.after = [this](EventGate::Event event) { afterEvent(event); };
+    gate_.onFault = [this](int number, const std::string& text) { reportFault(number, text); };
+
+    program_ = std::make_unique<frmKelvo>(applicationFolder, Services{.disk = disk_,
+                                                                      .messages = messages_,
+                                                                      .programs = programs_,
+                                                                      .dialogs = dialogs_,
+                                                                      .rawPrinter = rawPrinter_,
+                                                                      .beeper = beeper_,
+                                                                      .clock = clock_,
+                                                                      .screen = primaryScreen_,
+                                                                      .pointer = pointer_,
+                                                                      .surfaces = *this,
+                                                                      .programEnd = end_});
+    stage_ = new PanelStage;
+    setCentralWidget(stage_);
+    book_ = std::make_unique<WidgetBook>(program_->form(), gate_, *menuBar(), stage_);
+    buildPanels();
+    bindWindow();
+    addShortcuts();
+    addThemeButton();
+}
+
+MainWindow::~MainWindow() {
+    // The widgets go before what they call.
+    gate_.close();
+    setCentralWidget(nullptr);
+}
+
+Surface& MainWindow::screen() {
+    return book_->plotView()->surface();
+}
+
+void MainWindow::buildPanels() {
+    layOutOnePointPanel(*book_);
+    filePanel_ = layOutFilePanel(*book_);
+    layOutPlotSettings(*book_);
+    layOutPrintMode(*book_);
+    stage_->setUp(*book_, filePanel_);
+
+    filePanel_.panel->installEventFilter(this);
+    filePanel_.path->setText(filePanel_.panel->property("caption").toString());
+    connect(book_->viewer(), &TextViewer::modifiedChanged, this, [this] { showUnsavedMark(); });
+    connect(book_->plotView(), &PlotView::saveFailed, this, [this](const QString& path) {
+        messages_.show(
+            {.text = (path + QStringLiteral(" 파일을 저장할 수 없습니다.")).toStdString(),
+             .icon = Icon::Warning,
+             .buttons = Buttons::Ok,
+             .title = {}});
+    });
+}
+
+void MainWindow::bindWindow() {
+    Control* window = program_->form().find("frmKelvo");
+    if (window == nullptr) return;
+    setWindowTitle(qt(window->caption()));
+    window->watch([this, window](Property property) {
+        if (property == Property::Caption) setWindowTitle(qt(window->caption()));
+        if (property == Property::Place && window->width() > 0) {
+            setGeometry(static_cast<int>(std::lround(window->left() / kTwipsPerPixel)),
+                        static_cast<int>(std::lround(window->top() / kTwipsPerPixel)),
+                        static_cast<int>(std::lround(window->width() / kTwipsPerPixel)),
+                        static_cast<int>(std::lround(window->height() / kTwipsPerPixel)));
+        }
+    });
+}
+
+void MainWindow::addShortcuts() {
+    const auto key = [this](const char* name, const QKeySequence& keys) {
+        if (QAction* action = book_->action(name)) action->setShortcut(keys);
+    };
+    key("mnuBatchGo", Qt::Key_F5);
+    key("mnuBatchEdit", Qt::Key_F4);
+    key("mnuOneOpen", Qt::Key_F2);
+    key("mnuHelpFile", QKeySequence::HelpContents);
+}
+
+void MainWindow::addThemeButton() {
+    auto* button = new QToolButton(this);
+    button->setObjectName(QStringLiteral("theme"));
+    button->setText(QStringLiteral("◐"));
+    button->setAutoRaise(true);
+    // Not higher than a menu, or the bar's lower edge breaks between the menus.
+    button->setFixedHeight(fontMetrics().height());
+    button->setFocusPolicy(Qt::NoFocus);
+    button->setToolTip(QStringLiteral("밝은 화면 / 어두운 화면"));
+    button->setAccessibleName(QStringLiteral("밝은 화면 / 어두운 화면"));
+    connect(button, &QToolButton::clicked, this, [this] {
+        const Theme theme = isDark() ? Theme::Light : Theme::Dark;
+        setTheme(*static_cast<QApplication*>(QApplication::instance()), theme);
+        QSettings(QDir(qt(applicationFolder_)).filePath(QStringLiteral("window.ini")),
+                  QSettings::IniFormat)
+            .setValue(QStringLiteral("theme"), nameOf(theme));
+    });
+    menuBar()->setCornerWidget(button);
+}
+
+bool MainWindow::start() {
+    gate_.run([this] { Main(*program_); });
+    if (gate_.isClosed()) return false;
+    show();
+    return true;
+}
+
+void MainWindow::openDataFile(const QString& path) {
+    gate_.run([this, &path] {
+        dialogs_.chooseNext(QDir::toNativeSeparators(path).toStdString());
+        program_->form().find("mnuFileItem")->clickEntry(kEntryOpen);
+    });
+    dialogs_.forgetChosen();
+}
+
+void MainWindow::beforeEvent(EventGate::Event event) {
+    if (event == EventGate::Event::Typing) return;
+    book_->takeViewerText();
+    lock_.take();
+}
+
+void MainWindow::afterEvent(EventGate::Event event) {
+    if (event == EventGate::Event::Command) lock_.release();
+    if (end_.hasEnded()) {
+        gate_.close();
+        QApplication::exit(0);
+        return;
+    }
+    book_->plotView()->refresh();
+    showUnsavedMark();
+    if (paper_.sheetsAreWaiting()) printWaitingSheets();
+}
+
+bool MainWindow::textIsSaved() const {
+    QFile file(filePanel_.path->text());
+    if (!file.open(QIODevice::ReadOnly)) return false;
+    const std::string bytes = encodeCodePage(book_->viewer()->text());
+    if (file.size() != static_cast<qint64>(bytes.size())) return false;
+    return file.readAll() ==
+           QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
+}
+
+// The mark says that the text differs from the file it came from; nothing is ever asked.
+void MainWindow::showUnsavedMark() {
+    TextViewer* viewer = book_->viewer();
+    if (viewer->isModified() && !viewer->hasUntakenText() && textIsSaved()) {
+        viewer->setModified(false);
+    }
+    filePanel_.unsavedMark->setVisible(viewer->isModified());
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == filePanel_.panel && event->type() == QEvent::DynamicPropertyChange) {
+        filePanel_.path->setText(filePanel_.panel->property("caption").toString());
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    if (!gate_.isClosed()) {
+        gate_.run([this] { program_->Form_Close(); });
+    }
+    event->setAccepted(gate_.isClosed());
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (!droppedDataFile(event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+    const QString path = droppedDataFile(event->mimeData());
+    if (path.isEmpty()) return;
+    event->acceptProposedAction();
+    openDataFile(path);
+}
+
+}  // namespace kelvo::desktop

@@ -1,0 +1,91 @@
+// The window: widgets around one frmKelvo.
+#pragma once
+
+#include <QMainWindow>
+#include <QPrinter>
+#include <memory>
+#include <string>
+
+#include "desktop/event_gate.h"
+#include "desktop/look_of_window.h"
+#include "desktop/panel_layouts.h"
+#include "desktop/panel_stage.h"
+#include "desktop/paper_surface.h"
+#include "desktop/plot_view.h"
+#include "desktop/screen_services.h"
+#include "desktop/widget_book.h"
+#include "shell/frm_kelvo.h"
+
+namespace kelvo::desktop {
+
+class MainWindow final : public QMainWindow, private Surfaces {
+    Q_OBJECT
+
+public:
+    // The application folder is there with its folder "data".
+    explicit MainWindow(const std::string& applicationFolder);
+    ~MainWindow() override;
+
+    // Runs Main and shows the window. False if a fault ended the start.
+    bool start();
+
+    // Does what choosing this data file in the open dialog does.
+    void openDataFile(const QString& path);
+
+    [[nodiscard]] frmKelvo& program() { return *program_; }
+    [[nodiscard]] WidgetBook& book() { return *book_; }
+    [[nodiscard]] EventGate& gate() { return gate_; }
+    [[nodiscard]] PaperSurface& paper() { return paper_; }
+
+    // In place of the report box and the end of the process; for tests.
+    std::function<void(const QString& report)> onFaultReport;
+    // In place of the preview; for tests.
+    std::function<void(std::vector<Sheet> sheets)> onSheets;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    Surface& screen() override;
+    Surface& printer() override { return paper_; }
+
+    void buildPanels();
+    void bindWindow();
+    void addShortcuts();
+    void addThemeButton();
+    void beforeEvent(EventGate::Event event);
+    void afterEvent(EventGate::Event event);
+    void showUnsavedMark();
+    [[nodiscard]] bool textIsSaved() const;
+    void reportFault(int number, const std::string& text);
+    void printWaitingSheets();
+    [[nodiscard]] QPrinter& systemPrinter();
+
+    std::string applicationFolder_;
+    EventGate gate_;
+    FolderLock lock_;
+    DialogParent dialogParent_;
+    PaperSurface paper_;
+    std::unique_ptr<QPrinter> printer_;  // asked for late: looking for printers takes its time
+
+    PlatformDisk disk_;
+    ScreenMessages messages_;
+    ScreenDialogs dialogs_;
+    DetachedPrograms programs_;
+    RawPrintService rawPrinter_;
+    ScreenBeeper beeper_;
+    LocaleClock clock_;
+    PrimaryScreen primaryScreen_;
+    OverridePointer pointer_;
+    WindowEnd end_;
+
+    std::unique_ptr<frmKelvo> program_;
+    std::unique_ptr<WidgetBook> book_;
+    PanelStage* stage_ = nullptr;
+    FilePanel filePanel_;
+};
+
+}  // namespace kelvo::desktop

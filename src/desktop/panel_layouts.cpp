@@ -1,0 +1,162 @@
+#include "desktop/panel_layouts.h"
+
+#include <QFrame>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QShortcut>
+#include <QVBoxLayout>
+#include <array>
+
+#include "desktop/box_grid.h"
+#include "desktop/text_viewer.h"
+
+namespace kelvo::desktop {
+
+namespace {
+
+// A bar in the colour of a selection, with the caption of the panel.
+QFrame* captionBar(QLabel*& caption) {
+    auto* bar = new QFrame;
+    bar->setAutoFillBackground(true);
+    bar->setBackgroundRole(QPalette::Highlight);
+    auto* row = new QHBoxLayout(bar);
+    row->setContentsMargins(10, 4, 10, 4);
+    caption = new QLabel(bar);
+    caption->setForegroundRole(QPalette::HighlightedText);
+    caption->setTextFormat(Qt::PlainText);
+    caption->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    row->addWidget(caption, 1);
+    return bar;
+}
+
+}  // namespace
+
+FilePanel layOutFilePanel(WidgetBook& book) {
+    FilePanel parts;
+    parts.panel = book.at("frmeFile");
+    auto* column = new QVBoxLayout(parts.panel);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+
+    QFrame* bar = captionBar(parts.path);
+    parts.path->setObjectName(QStringLiteral("frmeFileCaption"));
+    parts.unsavedMark = new QLabel(QStringLiteral("● 저장하지 않음"), bar);
+    parts.unsavedMark->setObjectName(QStringLiteral("unsavedMark"));
+    parts.unsavedMark->setForegroundRole(QPalette::HighlightedText);
+    bar->layout()->addWidget(parts.unsavedMark);
+    parts.unsavedMark->hide();
+    column->addWidget(bar);
+
+    parts.body = new QWidget(parts.panel);
+    auto* body = new QVBoxLayout(parts.body);
+    body->setContentsMargins(8, 8, 8, 4);
+    body->addWidget(book.at("Richtxt"));
+    column->addWidget(parts.body, 1);
+
+    auto* commands = new QHBoxLayout;
+    commands->setContentsMargins(8, 2, 8, 8);
+    commands->setSpacing(8);
+    commands->addWidget(book.at("cmdShow"));
+    commands->addStretch(1);
+    for (const char* name : {"cmdSave", "cmdSaveAs", "cmdPrint", "cmdPrintMode", "cmdClose"}) {
+        commands->addWidget(book.at(name));
+    }
+    column->addLayout(commands);
+    return parts;
+}
+
+void layOutPlotSettings(WidgetBook& book) {
+    auto* manual = new QVBoxLayout(book.at("frmeManual"));
+    manual->setContentsMargins(8, 5, 8, 6);
+    manual->setSpacing(3);
+    const auto named = [&](std::string_view label, std::string_view box) {
+        manual->addWidget(book.at(label));
+        manual->addWidget(book.at(box));
+        if (auto* words = qobject_cast<QLabel*>(book.at(label))) words->setBuddy(book.at(box));
+    };
+    manual->addWidget(book.at("lblStart"));
+    named("lblX", "txtXb");
+    named("lblY", "txtYb");
+    for (const char* name : {"txtSpan", "txtInter"}) {
+        if (QWidget* label = book.labelOf(name)) manual->addWidget(label);
+        manual->addWidget(book.at(name));
+    }
+
+    auto* column = new QVBoxLayout(book.at("frmePcfg"));
+    column->setContentsMargins(10, 10, 10, 10);
+    for (const char* name : {"optWGS", "optUGS", "optXY"}) column->addWidget(book.at(name));
+    column->addSpacing(10);
+    for (const char* name : {"optAuto", "optManual", "frmeManual"}) {
+        column->addWidget(book.at(name));
+    }
+    column->addSpacing(10);
+    auto* size = new QHBoxLayout;
+    if (QWidget* label = book.labelOf("txtFontSize")) size->addWidget(label);
+    size->addWidget(book.at("txtFontSize"), 1);
+    column->addLayout(size);
+    column->addSpacing(10);
+    column->addWidget(book.at("cmdPlot"));
+    column->addStretch(1);
+}
+
+void layOutPrintMode(WidgetBook& book) {
+    QWidget* panel = book.at("frmePrintMode");
+    auto* edge = new QVBoxLayout(panel);
+    edge->setContentsMargins(0, 0, 0, 0);
+    auto* card = new QFrame(panel);
+    card->setFrameStyle(QFrame::StyledPanel | QFrame::Raised);
+    edge->addWidget(card);
+
+    auto* column = new QVBoxLayout(card);
+    column->setContentsMargins(0, 0, 0, 12);
+    QLabel* caption = nullptr;
+    QFrame* bar = captionBar(caption);
+    caption->setText(panel->property("caption").toString());
+    column->addWidget(bar);
+
+    const auto line = [column](std::initializer_list<QWidget*> widgets, int indent) {
+        auto* row = new QHBoxLayout;
+        row->setContentsMargins(14 + indent, 2, 14, 2);
+        for (QWidget* widget : widgets) {
+            if (widget != nullptr) row->addWidget(widget);
+        }
+        row->addStretch(1);
+        column->addLayout(row);
+    };
+    column->addSpacing(6);
+    line({book.at("optFast")}, 0);
+    line({book.labelOf("txtLmr"), book.at("txtLmr")}, 24);
+    column->addSpacing(8);
+    line({book.at("Option1")}, 0);
+    line({book.at("cmbFont"), book.at("cmbFontStyle"), book.at("cmbSize")}, 24);
+    line({book.at("chk1"), book.at("chk2")}, 24);
+    column->addSpacing(10);
+    auto* commands = new QHBoxLayout;
+    commands->setContentsMargins(14, 0, 14, 0);
+    commands->addStretch(1);
+    commands->addWidget(book.at("cmdModeSave"));
+    commands->addWidget(book.at("cmdModeCancel"));
+    column->addLayout(commands);
+
+    const std::array<std::pair<const char*, const char*>, 3> names{
+        {{"cmbFont", "글꼴"}, {"cmbFontStyle", "글꼴 모양"}, {"cmbSize", "크기"}}};
+    for (const auto& [name, words] : names) {
+        if (book.labelOf(name) == nullptr) {
+            book.at(name)->setAccessibleName(QString::fromUtf8(words));
+        }
+    }
+
+    // What people expect of a panel that works like a dialog.
+    const auto key = [&](Qt::Key code, std::string_view button) {
+        auto* shortcut = new QShortcut(code, panel);
+        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+        auto* clicked = qobject_cast<QPushButton*>(book.at(button));
+        QObject::connect(shortcut, &QShortcut::activated, clicked, &QPushButton::click);
+    };
+    key(Qt::Key_Return, "cmdModeSave");
+    key(Qt::Key_Enter, "cmdModeSave");
+    key(Qt::Key_Escape, "cmdModeCancel");
+}
+
+}  // namespace kelvo::desktop

@@ -1,0 +1,181 @@
+#include "desktop/picture_painter.h"
+
+#include <QPen>
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+#include <optional>
+
+#include "desktop/raster_modes.h"
+
+namespace kelvo::desktop {
+
+namespace {
+
+constexpr double kSixteenthsPerRadian = 16 * 180 / std::numbers::pi;
+
+std::vector<TextFace> facesOf(const PlotPicture& picture) {
+    return {picture.looks.begin(), picture.looks.end()};
+}
+
+class ItemPainter {
+public:
+    ItemPainter(QPainter& painter, const PlotPicture& picture, Medium medium)
+        : painter_(painter), faces_(facesOf(picture)), medium_(medium) {}
+
+    void operator()(const DrawnLine& line) {
+        if (!usePen(line.pen)) return;
+        // Grid lines are crisp without smoothing, slanted ones are smooth with it; a raster
+        // operation needs whole pixels.
+        const bool level = std::abs(line.from.x() - line.to.x()) < 0.5 ||
+                           std::abs(line.from.y() - line.to.y()) < 0.5;
+        smooth(!level && line.pen.drawMode == 13);
+        painter_.drawLine(line.from, line.to);
+    }
+
+    void operator()(const DrawnBox& box) {
+        const std::optional<QColor> ink = useMode(box.pen);
+        if (!ink) return;
+        smooth(false);
+        if (box.filled) {
+            painter_.fillRect(box.box, *ink);
+            return;
+        }
+        if (!usePen(box.pen)) return;
+        painter_.setBrush(Qt::NoBrush);
+        painter_.drawRect(box.box);
+    }
+
+    void operator()(const DrawnCircle& circle) {
+        if (!usePen(circle.pen)) return;
+        smooth(circle.pen.drawMode == 13);
+        const QRectF frame(circle.centre.x() - circle.radiusX, circle.centre.y() - circle.radiusY,
+                           2 * circle.radiusX, 2 * circle.radiusY);
+        const bool whole = !(circle.start < circle.end) && !(circle.end < circle.start);
+        if (whole) {
+            const std::optional<QColor> fill = inkOf({circle.fill, 0, circle.pen.drawMode});
+            painter_.setBrush(circle.filled && fill ? QBrush(*fill) : QBrush(Qt::NoBrush));
+            painter_.drawEllipse(frame);
+            return;
+        }
+        double span = circle.end - circle.start;
+        if (span < 0) span += 2 * std::numbers::pi;
+        painter_.setBrush(Qt::NoBrush);
+        painter_.drawArc(frame, static_cast<int>(std::lround(circle.start * kSixteenthsPerRadian)),
+                         static_cast<int>(std::lround(span * kSixteenthsPerRadian)));
+    }
+
+    // Text never knows a raster operation.
+    void operator()(const DrawnText& text) {
+        setMode(QPainter::CompositionMode_SourceOver);
+        smooth(true);
+        painter_.setPen(text.colour);
+        penIsKnown_ = false;
+        const TextFace& face = faces_[text.look];
+        if (std::abs(text.angle) < 0.05) {
+            face.draw(painter_, text.corner.x(), text.corner.y(), text.text);
+            return;
+        }
+        painter_.save();
+        painter_.translate(text.corner);
+        painter_.rotate(-text.angle);
+        face.draw(painter_, 0, 0, text.text);
+        painter_.restore();
+    }
+
+private:
+    void smooth(bool on) {
+        if (on == smooth_) return;
+        painter_.setRenderHint(QPainter::Antialiasing, on);
+        smooth_ = on;
+    }
+
+    void setMode(QPainter::CompositionMode mode) {
+        if (medium_ == Medium::Paper || mode == mode_) return;
+        painter_.setCompositionMode(mode);
+        mode_ = mode;
+    }
+
+    [[nodiscard]] std::optional<QColor> inkOf(const Pen& pen) const {
+        if (medium_ == Medium::Paper) return inkOnPaper(pen.drawMode, pen.colour);
+        return compositionOf(pen.drawMode) ? std::optional(pen.colour) : std::nullopt;
+    }
+
+    // The colour to draw with, and the raster operation set; nothing if nothing is to be drawn.
+    std::optional<QColor> useMode(const Pen& pen) {
+        const std::optional<QPainter::CompositionMode> mode = compositionOf(pen.drawMode);
+        if (!mode) return std::nullopt;
+        setMode(*mode);
+        return inkOf(pen);
+    }
+
+    bool usePen(const Pen& pen) {
+        const std::optional<QColor> ink = useMode(pen);
+        if (!ink) return false;
+        if (penIsKnown_ && *ink == ink_ && !(pen.width < width_) && !(width_ < pen.width)) {
+            return true;
+        }
+        painter_.setPen(QPen(*ink, pen.width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        ink_ = *ink;
+        width_ = pen.width;
+        penIsKnown_ = true;
+        return true;
+    }
+
+    QPainter& painter_;
+    std::vector<TextFace> faces_;
+    Medium medium_;
+    QPainter::CompositionMode mode_ = QPainter::CompositionMode_SourceOver;
+    bool smooth_ = false;
+    bool penIsKnown_ = false;
+    QColor ink_;
+    double width_ = 0;
+};
+
+QRectF widened(const QRectF& box, double width) {
+    return box.adjusted(-width / 2, -width / 2, width / 2, width / 2);
+}
+
+struct Extent {
+    std::vector<TextFace> faces;
+
+    QRectF operator()(const DrawnLine& line) const {
+        return widened(QRectF(line.from, line.to).normalized(), line.pen.width);
+    }
+    QRectF operator()(const DrawnBox& box) const { return widened(box.box, box.pen.width); }
+    QRectF operator()(const DrawnCircle& circle) const {
+        const QRectF frame(circle.centre.x() - circle.radiusX, circle.centre.y() - circle.radiusY,
+                           2 * circle.radiusX, 2 * circle.radiusY);
+        return widened(frame, circle.pen.width);
+    }
+    QRectF operator()(const DrawnText& text) const {
+        const TextFace& face = faces[text.look];
+        const QRectF cell(0, 0, face.width(text.text), face.height());
+        QTransform turn;
+        turn.translate(text.corner.x(), text.corner.y());
+        turn.rotate(-text.angle);
+        return turn.mapRect(cell);
+    }
+};
+
+}  // namespace
+
+void paintPicture(QPainter& painter, const PlotPicture& picture, Medium medium) {
+    painter.save();
+    painter.setRenderHint(QPainter::TextAntialiasing, true);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    ItemPainter itemPainter(painter, picture, medium);
+    for (const DrawnItem& item : picture.items) {
+        std::visit([&itemPainter](const auto& drawn) { itemPainter(drawn); }, item);
+    }
+    painter.restore();
+}
+
+QRectF extentOf(const PlotPicture& picture) {
+    QRectF extent;
+    const Extent measure{facesOf(picture)};
+    for (const DrawnItem& item : picture.items) extent |= std::visit(measure, item);
+    return extent;
+}
+
+}  // namespace kelvo::desktop

@@ -1,0 +1,229 @@
+#include "desktop/screen_services.h"
+
+#include <QApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QLocale>
+#include <QMessageBox>
+#include <QPrintDialog>
+#include <QProcess>
+#include <QPushButton>
+#include <QScreen>
+#include <algorithm>
+#include <array>
+#include <chrono>
+
+#include "desktop/paper_surface.h"
+#include "desktop/widget_book.h"
+
+namespace kelvo::desktop {
+
+namespace {
+
+constexpr double kTwipsPerPixel = 15;
+
+// While a box waits for its answer the pointer is free and so is the application folder.
+class Waiting {
+public:
+    explicit Waiting(const DialogParent& parent) : parent_(parent) {
+        QGuiApplication::setOverrideCursor(Qt::ArrowCursor);
+        if (parent_.lock != nullptr) parent_.lock->release();
+    }
+    ~Waiting() {
+        if (parent_.lock != nullptr) parent_.lock->take();
+        QGuiApplication::restoreOverrideCursor();
+    }
+    Waiting(const Waiting&) = delete;
+    Waiting& operator=(const Waiting&) = delete;
+
+private:
+    const DialogParent& parent_;
+};
+
+QMessageBox::Icon iconOf(Icon icon) {
+    switch (icon) {
+        case Icon::Information:
+            return QMessageBox::Information;
+        case Icon::Question:
+            return QMessageBox::Question;
+        case Icon::Warning:
+            return QMessageBox::Warning;
+        case Icon::None:
+            break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButtons buttonsOf(Buttons buttons) {
+    switch (buttons) {
+        case Buttons::OkCancel:
+            return QMessageBox::Ok | QMessageBox::Cancel;
+        case Buttons::YesNoCancel:
+            return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+        case Buttons::Ok:
+            break;
+    }
+    return QMessageBox::Ok;
+}
+
+}  // namespace
+
+FolderLock::FolderLock(const QString& folder) : file_(QDir(folder).filePath("kelvo.lock")) {
+    file_.setStaleLockTime(std::chrono::seconds(30));
+}
+
+// After a while the work goes on without it: a lock that nobody gives back must not stop anyone.
+void FolderLock::take() {
+    file_.tryLock(std::chrono::seconds(3));
+}
+void FolderLock::release() {
+    file_.unlock();
+}
+
+Answer ScreenMessages::show(const Message& message) {
+    const Waiting waiting(parent_);
+    QString text = qt(message.text);
+    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    QMessageBox box(iconOf(message.icon), qt(message.title), text, buttonsOf(message.buttons),
+                    parent_.window);
+    box.setTextFormat(Qt::PlainText);
+    // Words of our own: the translation of the standard buttons may not be installed.
+    constexpr std::array<std::pair<QMessageBox::StandardButton, const char*>, 4> words{{
+        {QMessageBox::Ok, "확인(&O)"},
+        {QMessageBox::Yes, "예(&Y)"},
+        {QMessageBox::No, "아니요(&N)"},
+        {QMessageBox::Cancel, "취소(&C)"},
+    }};
+    for (const auto& [button, word] : words) {
+        if (auto* shown = box.button(button)) shown->setText(QString::fromUtf8(word));
+    }
+    switch (box.exec()) {
+        case QMessageBox::Yes:
+            return Answer::Yes;
+        case QMessageBox::No:
+            return Answer::No;
+        case QMessageBox::Ok:
+            return Answer::Ok;
+        default:
+            return message.buttons == Buttons::Ok ? Answer::Ok : Answer::Cancel;
+    }
+}
+
+QStringList qtFilters(const std::string& filter) {
+    QStringList filters;
+    const QStringList parts = qt(filter).split(QLatin1Char('|'));
+    for (qsizetype at = 0; at + 1 < parts.size(); at += 2) {
+        QString name = parts[at];
+        name.truncate(name.indexOf(QLatin1Char('(')));
+        QString pattern = parts[at + 1];
+        if (pattern == QLatin1String("*.*")) {
+            pattern = QStringLiteral("*");
+        } else if (pattern.toUpper() != pattern) {
+            pattern += QLatin1Char(' ') + pattern.toUpper();  // names may be told apart by case
+        }
+        filters << name.trimmed() + QStringLiteral(" (") + pattern + QLatin1Char(')');
+    }
+    return filters;
+}
+
+std::optional<std::string> ScreenDialogs::show(DialogKind kind,
+                                               const DialogProperties& properties) {
+    if (kind == DialogKind::Printer) return showPrinterDialog();
+    if (!chosen_.empty()) {
+        std::string path = chosen_.front();
+        chosen_.pop_front();
+        return path;
+    }
+    const Waiting waiting(parent_);
+    QFileDialog dialog(parent_.window, qt(properties.title));
+    const bool saving = kind == DialogKind::Save;
+    dialog.setAcceptMode(saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    // A new file is named in an open dialog, and the questions about it are asked afterwards.
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    const QStringList filters = qtFilters(properties.filter);
+    if (!filters.isEmpty()) {
+        dialog.setNameFilters(filters);
+        const int place = std::max(1, properties.filterIndex) - 1;
+        dialog.selectNameFilter(filters.value(place, filters.first()));
+    }
+    const QString name = qt(properties.fileName);
+    const QFileInfo named(name);
+    if (named.isAbsolute()) {
+        dialog.setDirectory(named.absolutePath());
+    } else if (!properties.folder.empty()) {
+        dialog.setDirectory(qt(properties.folder));
+    }
+    const bool isPattern = name.contains(QLatin1Char('*'));
+    if (!name.isEmpty() && !isPattern) dialog.selectFile(named.fileName());
+    auto* edit = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    // A proposed ending waits for the name to be typed in front of it.
+    if (edit != nullptr && name.startsWith(QLatin1Char('.'))) {
+        edit->setText(name);
+        QMetaObject::invokeMethod(
+            edit, [edit] { edit->home(false); }, Qt::QueuedConnection);
+    }
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    QString chosen = dialog.selectedFiles().value(0);
+    // What stands in the box counts; the list may still mark the proposed file (without focus in
+    // the box, as with assistive technology, the dialog doesn't take that mark away).
+    if (edit != nullptr && !edit->text().isEmpty()) {
+        chosen = QDir(dialog.directory()).absoluteFilePath(edit->text());
+    }
+    return QDir::toNativeSeparators(QDir::cleanPath(chosen)).toStdString();
+}
+
+std::optional<std::string> ScreenDialogs::showPrinterDialog() {
+    const Waiting waiting(parent_);
+    QPrintDialog dialog(&printer_(), parent_.window);
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    return printer_().printerName().toStdString();
+}
+
+void DetachedPrograms::start(const std::string& command) {
+    QStringList words = QProcess::splitCommand(qt(command));
+    if (words.isEmpty()) raise(Fault::FileNotFound);
+    const QString program = words.takeFirst();
+    if (!QProcess::startDetached(program, words)) raise(Fault::FileNotFound, command);
+}
+
+void RawPrintService::print(const std::string& path) {
+    QProcess::startDetached(QStringLiteral("lp"), {QStringLiteral("-o"), QStringLiteral("raw"),
+                                                   QStringLiteral("--"), qt(path)});
+}
+
+void ScreenBeeper::beep() {
+    QApplication::beep();
+}
+
+std::string LocaleClock::date() {
+    return QLocale::system().toString(QDate::currentDate(), QLocale::ShortFormat).toStdString();
+}
+
+std::string LocaleClock::time() {
+    return QLocale::system().toString(QTime::currentTime(), QLocale::ShortFormat).toStdString();
+}
+
+ScreenSize PrimaryScreen::size() {
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    if (screen == nullptr) return {15360, 11520};
+    const QSize pixels = screen->availableGeometry().size();
+    return {pixels.width() * kTwipsPerPixel, pixels.height() * kTwipsPerPixel};
+}
+
+void OverridePointer::setBusy(bool busy) {
+    if (busy) {
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    } else if (QGuiApplication::overrideCursor() != nullptr) {
+        QGuiApplication::restoreOverrideCursor();
+    }
+}
+
+void WindowEnd::end() {
+    ended_ = true;
+}
+
+}  // namespace kelvo::desktop

@@ -1,0 +1,170 @@
+// plot_gallery FOLDER: draws all that a surface offers into PNG files and one PDF, to be looked
+// at by a person. Run it with QT_QPA_PLATFORM=offscreen where there is no display.
+#include <QApplication>
+#include <QImage>
+#include <QPainter>
+#include <QPrinter>
+#include <array>
+#include <cstdio>
+#include <string>
+
+#include "desktop/korean_faces.h"
+#include "desktop/picture_painter.h"
+#include "desktop/picture_surface.h"
+
+using kelvo::LogicalFont;
+using kelvo::desktop::Medium;
+using kelvo::desktop::PictureSurface;
+using kelvo::desktop::PlotPicture;
+
+namespace {
+
+constexpr std::array<const char*, 8> kFaces{"굴림", "굴림체", "궁서", "궁서체",
+                                            "돋움", "돋움체", "바탕", "바탕체"};
+
+void label(PictureSurface& surface, double x, double y, const std::string& text) {
+    surface.setFont("굴림");
+    surface.setFontsize(9);
+    surface.setCurrentX(x);
+    surface.setCurrentY(y);
+    surface.print(text);
+}
+
+void drawFaces(PictureSurface& surface) {
+    double y = 200;
+    for (const char* face : kFaces) {
+        for (const double size : {8.0, 10.0, 14.0}) {
+            surface.setFont(face);
+            surface.setFontsize(size);
+            surface.setCurrentX(200);
+            surface.setCurrentY(y);
+            surface.print(std::string(face) + " 인천No-3 |위도|abcdefgh|1234.5678 지오이드고 ─│±※");
+            y += surface.TextHeight("A");
+        }
+        y += 60;
+    }
+    int style = 0;
+    for (const char* face : {"굴림체", "바탕체"}) {
+        for (style = 0; style < 4; ++style) {
+            surface.setFont(face);
+            surface.setFontsize(11);
+            surface.setFontBold(style == 1);
+            surface.setFontItalic(style == 2);
+            surface.setFontUnderline(style == 3);
+            surface.setFontStrikethru(style == 3);
+            surface.setCurrentX(200);
+            surface.setCurrentY(y);
+            surface.print("굵게 기울임꼴 밑줄 취소선 Bold Italic 37-30-15");
+            y += surface.TextHeight("A");
+        }
+    }
+}
+
+void drawTurned(PictureSurface& surface) {
+    for (int angle = 0; angle < 360; angle += 30) {
+        LogicalFont font;
+        font.lfHeight = 16;
+        font.lfEscapement = angle * 10;
+        font.lfWeight = angle % 60 == 0 ? 700 : 400;
+        font.lfCharSet = 1;
+        font.lfFaceName = angle % 90 == 0 ? "굴림체" : "바탕체";
+        surface.CreateFontIndirectA(font);
+        surface.SelectCreatedFont();
+        surface.TextOutA(300, 300, "          경도 127-30-15", 24);
+        surface.SelectOldFont();
+        surface.DeleteCreatedFont();
+    }
+    surface.setDrawWidth(1);
+    surface.Line(4500, 4300, 4500, 4700, 0, kelvo::kFormLine);
+    surface.Line(4300, 4500, 4700, 4500, 0, kelvo::kFormLine);
+}
+
+void drawShapes(PictureSurface& surface) {
+    for (int width = 1; width <= 6; ++width) {
+        surface.setDrawWidth(width);
+        const double y = 300.0 + width * 200;
+        surface.Line(300, y, 3000, y, 0, kelvo::kFormLine);
+        surface.Line(3200, y, 5200, y + 500, 0x0000FF, kelvo::kFormLine);
+    }
+    surface.setDrawWidth(1);
+    surface.setForeColor(0);
+    surface.Circle(900, 3200, 500, 0, 0, 0, 0, kelvo::kFormCircle);
+    surface.setFillStyle(0);
+    surface.setFillColor(0x00C000);
+    surface.Circle(2200, 3200, 500, 0, 0, 0, 0, kelvo::kFormCircle);
+    surface.setFillStyle(1);
+    surface.setDrawWidth(3);
+    surface.Circle(3500, 3200, -500, 0xC00000, 0, 1.570796, 0, kelvo::kFormArc);
+    surface.Circle(4800, 3200, 500, 0xC000C0, 4.7, 1.0, 0, kelvo::kFormArc);
+    surface.Circle(6100, 3200, 500, 0, 0, 3.141592654, 0.5, kelvo::kFormArc);
+    surface.setDrawWidth(1);
+    surface.Line(300, 4200, 1500, 5000, 0, kelvo::kFormBox);
+    surface.Line(3000, 5000, 1800, 4200, 0xC0C000, kelvo::kFormFilledBox);
+}
+
+void drawModes(PictureSurface& surface) {
+    surface.setDrawMode(13);
+    surface.Line(0, 2000, 9000, 3000, 0x80C0FF, kelvo::kFormFilledBox);
+    for (int mode = 1; mode <= 16; ++mode) {
+        const double x = 100.0 + (mode - 1) * 540;
+        surface.setDrawMode(mode);
+        surface.Line(x, 1500, x + 400, 3500, 0xC04020, kelvo::kFormFilledBox);
+        surface.setDrawWidth(4);
+        surface.Line(x, 3700, x + 400, 4300, 0xC04020, kelvo::kFormLine);
+        surface.setDrawMode(13);
+        label(surface, x + 100, 1200, std::to_string(mode));
+    }
+}
+
+bool save(const PlotPicture& picture, const QString& path, double zoom) {
+    QImage image(static_cast<int>(620 * zoom), static_cast<int>(620 * zoom), QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.scale(zoom / 15, zoom / 15);
+    paintPicture(painter, picture, Medium::Pixels);
+    painter.end();
+    return image.save(path);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    if (argc != 2) {
+        std::fputs("usage: plot_gallery FOLDER\n", stderr);
+        return 2;
+    }
+    kelvo::desktop::installFaceSubstitutes();
+    const QString folder = QString::fromLocal8Bit(argv[1]);
+
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(folder + "/gallery.pdf");
+    printer.setPageSize(QPageSize(QPageSize::A4));
+    printer.setFullPage(true);
+    printer.setPageMargins(QMarginsF(0, 0, 0, 0));
+    QPainter paper(&printer);
+
+    using Draw = void (*)(PictureSurface&);
+    constexpr std::array<std::pair<const char*, Draw>, 4> pages{{{"faces", drawFaces},
+                                                                 {"turned", drawTurned},
+                                                                 {"shapes", drawShapes},
+                                                                 {"modes", drawModes}}};
+    bool good = true;
+    bool first = true;
+    for (const auto& [name, draw] : pages) {
+        PictureSurface surface({});
+        draw(surface);
+        for (const double zoom : {1.0, 1.6}) {
+            const QString path = QString("%1/%2-%3.png").arg(folder, name).arg(zoom);
+            good = save(surface.picture(), path, zoom) && good;
+        }
+        if (!first) printer.newPage();
+        first = false;
+        paper.save();
+        paper.scale(printer.resolution() / 1440.0, printer.resolution() / 1440.0);
+        paintPicture(paper, surface.picture(), Medium::Paper);
+        paper.restore();
+    }
+    return paper.end() && good ? 0 : 1;
+}
