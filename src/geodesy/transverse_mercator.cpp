@@ -165,8 +165,8 @@ TmGrid nationalGrid(int zone, double shiftSeconds) {
 }  // namespace
 
 double MeridianArc(double A, double B, double C, double D, double E, double phi) {
-    return A * phi - std::sin(phi + phi) * B + std::sin(4 * phi) * C - std::sin(6 * phi) * D +
-           std::sin(8 * phi) * E;
+    return finite(A * phi - std::sin(phi + phi) * B + std::sin(4 * phi) * C -
+                  std::sin(6 * phi) * D + std::sin(8 * phi) * E);
 }
 
 GridPoint GeoToTM(double Phi, double Lam, const Ellipsoid& ellipsoid, const Projection& projection,
