@@ -75,11 +75,11 @@ void CopyFileGuard(Disk& disk, MessageBoxes& messages, const std::string& source
         // Onto itself there is nothing to copy, and opening the target would empty the source.
         if (disk.sameFile(source, target)) raise(Fault::PermissionDenied);
         const auto from = disk.openForReading(source);
-        const auto to = disk.openForWriting(target);
+        std::string bytes;
         std::array<char, 65536> buffer{};
-        while (const std::size_t count = from->read(buffer))
-            to->write(std::string_view(buffer.data(), count));
-        to->close();
+        while (const std::size_t count = from->read(buffer)) bytes.append(buffer.data(), count);
+        // As a whole: a copy that fails leaves the file that was there.
+        disk.replace(target, bytes);
     } catch (const RuntimeFault&) {
         messages.tell("파일 복사에 실패했습니다");
     }

@@ -33,7 +33,8 @@ double rebuilt(const DegreesMinutesSeconds& parts) {
 
 // A number as it is joined into a sentence: a positive one has a blank in its sign place.
 std::string joinedNumber(double value) {
-    return (value < 0 ? "" : " ") + generalText(value);
+    std::string text(value < 0 ? "" : " ");
+    return text += generalText(value);
 }
 
 // Splits at the point of a positional text: [from, from + count) as a number.

@@ -63,8 +63,9 @@ void RecentFileList::UpdateRecentFiles(const std::string& name) {
         messages_.tell("Error  " + generalText(fault.number()) + "  " + fault.text());
     };
     try {
+        // Appending makes it just as well, and spares a file that merely wasn't ready.
         if (genSub::FileExists(disk_, name) == genSub::kFileIsMissing)
-            disk_.openForWriting(name)->close();
+            disk_.openForAppending(name)->close();
     } catch (const RuntimeFault& fault) {
         tell(fault);
     }

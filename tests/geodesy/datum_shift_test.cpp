@@ -275,7 +275,8 @@ TEST(Chains, AreTheirStepsInTurn) {
         EXPECT_NEAR(wgs.h, same.h, 1e-7);
 
         int zone = 0;
-        const KelvoSub::GridHeight grid = KelvoSub::WgsToTM(shift, 37.25, 127.75, 88, zone, 10.405, messages);
+        const KelvoSub::GridHeight grid =
+            KelvoSub::WgsToTM(shift, 37.25, 127.75, 88, zone, 10.405, messages);
         EXPECT_EQ(zone, 2);
         EXPECT_EQ(grid.h, bessel.h);
         int sameZone = 2;

@@ -43,8 +43,9 @@ inline Split SplitDeg(double x) {
 
 inline double ParseDms(double x) {
     const std::string t = FormatNum(x, 4, 10);
-    const double D = std::atof(t.substr(0, 4).c_str());
-    const double M = std::atof(t.substr(5, 2).c_str());
+    // With five degrees digits and more the point stands among the minutes: ".5" counts as 0.
+    const double D = std::trunc(std::atof(t.substr(0, 4).c_str()));
+    const double M = std::trunc(std::atof(t.substr(5, 2).c_str()));
     const double S = std::atof(t.substr(7, 8).c_str()) / 1000000;
     return (M / 60 + D) + S / 3600;
 }

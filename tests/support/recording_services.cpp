@@ -121,7 +121,7 @@ public:
 class RecordingServices::Pointer final : public BusyPointer {
 public:
     explicit Pointer(RecordingServices& owner) : owner_(owner) {}
-    void setBusy(bool busy) override { owner_.busy = busy; }
+    void setBusy(bool on) override { owner_.busy = on; }
 
 private:
     RecordingServices& owner_;

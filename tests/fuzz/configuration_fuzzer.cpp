@@ -1,0 +1,77 @@
+// kelvo.cfg: the program starts on it and closes; what it wrote then is a fixed point.
+#include <cmath>
+
+#include "fuzz/whole_form.h"
+
+namespace kelvo::fuzz {
+namespace {
+
+constexpr std::string_view kLines[] = {
+    "xdg-open",
+    " 115.8        -474.99       -674.11 ",
+    " 1.16         -2.31         -1.63 ",
+    "-6.43 ",
+    " 1 ",
+    " 0             0             0 ",
+    " 6377397.155   299.1528128 ",
+    " 2 ",
+    " 38            127 ",
+    " 500000        200000 ",
+    " .9996 ",
+    " 0             129 ",
+    " 0             500000 ",
+    " 1               0 ",
+    "/app/data/test.DAT",
+    "/app/a.dat",
+    "/app/b.dat",
+    "/app/c.dat",
+    "/app/d.dat",
+    "/app/missing.dat",
+    "\"/app/a.dat\"",
+    "a,b",
+};
+
+void requireNumbers(const TransPara& Cfg) {
+    for (const double value :
+         {Cfg.dX,   Cfg.dY, Cfg.dZ, Cfg.Omega, Cfg.Phi, Cfg.Kappa, Cfg.dS,    Cfg.dPhi,
+          Cfg.dLam, Cfg.dH, Cfg.a,  Cfg.f,     Cfg.X0,  Cfg.Y0,    Cfg.S0,    Cfg.Phi0,
+          Cfg.Lam0, Cfg.Ua, Cfg.Uf, Cfg.UPhi0, Cfg.UX0, Cfg.UY0,   Cfg.ULam0, Cfg.US0})
+        require(std::isfinite(value), "parameters are numbers");
+}
+
+// Starts and closes; what kelvo.cfg holds then, or nothing after a fault.
+std::optional<std::string> startAndClose(testing::MemoryDisk& disk) {
+    WholeForm form(disk);
+    if (form.startFault) return std::nullopt;
+    requireNumbers(form.window.state().Cfg);
+    require(!form.close().has_value(), "what a start fills in can be saved");
+    return disk.bytes("/app/kelvo.cfg");
+}
+
+}  // namespace
+
+std::span<const std::string_view> knownLines() {
+    return kLines;
+}
+
+}  // namespace kelvo::fuzz
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
+    using namespace kelvo::fuzz;
+    kelvo::testing::MemoryDisk disk;
+    addPlaces(disk);
+    for (const char* name : {"a", "b", "c", "d"})
+        disk.putText(std::string("/app/") + name + ".dat", "");
+    disk.putBytes("/app/kelvo.cfg", std::string(textOf(bytes, size)));
+    const std::size_t filesBefore = disk.files.size();
+
+    const auto first = startAndClose(disk);
+    // At the most plot.cfg and the sample file are new.
+    require(disk.files.size() <= filesBefore + 2, "a start makes its own files and no other");
+    if (!first) return 0;
+    const auto second = startAndClose(disk);
+    require(second.has_value(), "the program starts on what it wrote");
+    const auto third = startAndClose(disk);
+    require(third == startAndClose(disk), "what the program writes settles");
+    return 0;
+}
