@@ -129,10 +129,14 @@ def type_into(name, text):
 
 def wait_for(test, what, patience=20.0):
     end = time.time() + patience
-    while not test():
-        if time.time() > end:
-            raise SystemExit("in vain: " + what)
+    while time.time() < end:
+        try:
+            if test():
+                return
+        except Exception:  # the widget is being made anew
+            pass
         time.sleep(0.1)
+    raise SystemExit("in vain: " + what)
 
 
 def control_names():
