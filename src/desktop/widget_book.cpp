@@ -106,8 +106,10 @@ void WidgetBook::make(Control& control) {
 }
 
 void WidgetBook::enter(Control& control, QWidget* widget) {
-    widget->setObjectName(qt(control.name()));
-    widget->setAccessibleDescription(qt(control.name()));
+    // The viewer is a panel around the text box that bears the name.
+    QWidget* named = widget == viewer_ ? &viewer_->editor() : widget;
+    named->setObjectName(qt(control.name()));
+    named->setAccessibleDescription(qt(control.name()));
     if (!control.label().empty()) addWords(control, widget);
     widget->setEnabled(control.enabled());
     if (!control.visible()) widget->hide();
@@ -153,9 +155,7 @@ QWidget* WidgetBook::makeTextBox(Control& control) {
 QWidget* WidgetBook::makeViewer(Control& control) {
     auto* viewer = new TextViewer(firstParent_);
     viewer->load(control.text());
-    viewer->editor().setObjectName(qt(control.name()) + QStringLiteral("Editor"));
     viewer->editor().setAccessibleName(QStringLiteral("글"));
-    viewer->editor().setAccessibleDescription(qt(control.name()));
     viewer_ = viewer;
     viewerControl_ = &control;
     QObject::connect(viewer, &TextViewer::edited, viewer,
