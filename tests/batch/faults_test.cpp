@@ -149,6 +149,21 @@ TEST(Faults, EveryOperationFailingFromSomePointOnEndsTheRunToo) {
     }
 }
 
+// The correction comes before the grid: where both fail, the fault of the first ends the run and
+// the message of the second isn't reached.
+TEST(Faults, AUtmPointIsCorrectedBeforeItsTmCoordinatesAreComputed) {
+    const std::string gridThatFails =
+        "tm para\n6377397.155 299.1528128\n38 127\n500000 200000\n1e305\n";
+    BatchBench bench;
+    bench.run(gridThatFails + "UTM u 4100000 450000 1\nend\n\n");
+    EXPECT_EQ(bench.fault, 0) << bench.faultText;
+    EXPECT_EQ(bench.messages.shown.size(), 1U);
+    bench.known("k 37.30 127.00 10 37.2950 127.0007 20 0\n*\n*\n");
+    bench.run("CORR\n" + gridThatFails + "UTM u 4100000 450000 1\nend\n\n");
+    EXPECT_EQ(bench.fault, 6);
+    EXPECT_EQ(bench.messages.shown.size(), 0U);
+}
+
 TEST(Faults, TheResultOfARunIsNotItsDataFile) {
     BatchBench bench;
     bench.places.dataFile = "/job/a.out";
