@@ -92,6 +92,25 @@ TEST(Faults, TheTextSaysWhichLineOfWhichFile) {
     EXPECT_NE(bench.faultText.find("4"), std::string::npos) << bench.faultText;
 }
 
+TEST(Faults, InABlockOfPointsTheTextNamesTheLineOfThePoint) {
+    for (int bad = 1; bad <= 6; ++bad) {
+        BatchBench bench;
+        bench.known("k 37.30 127.00 10 37.2950 127.0007 20 1\n*\n*\n");
+        std::string data = "CORR\nINPUT deg\n";
+        for (int i = 1; i <= 6; ++i) {
+            data += i == 1 ? "WGS" : "   ";
+            // too near the known point for its weight to be computed
+            data += i == bad ? " p 37.5 127.0000000001 1\n" : " p 37.3 127 1\n";
+        }
+        bench.run(data + "end\n\n");
+        EXPECT_EQ(bench.fault, 6);
+        EXPECT_EQ(bench.points(), bad);
+        EXPECT_NE(bench.faultText.find(" " + std::to_string(bad + 2) + "번째 줄"),
+                  std::string::npos)
+            << bench.faultText;
+    }
+}
+
 TEST(Faults, TheTextOfACutFileOfKnownPointsNamesThatFile) {
     BatchBench bench;
     bench.known("k 37.30 127.00 10 37.2950 127.0007 20 1\n*\n");
