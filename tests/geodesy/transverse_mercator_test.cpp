@@ -197,6 +197,9 @@ TEST(BesselToTM, AZoneAboveHasNoLimitUnlikeTheWayBack) {
     EXPECT_EQ(zone, 3);
     EXPECT_NEAR(back.Lam, 129, 1e-12);
     EXPECT_NEAR(back.Phi, 37.5, 1e-12);
+    zone = 4;
+    EXPECT_NEAR(KelvoSub::TMToBessel(point.X, point.Y, zone, 0, messages).Lam, 129, 1e-12);
+    EXPECT_EQ(zone, 3) << "the first one above counts as above";
     zone = 0;
     (void)KelvoSub::TMToBessel(point.X, point.Y, zone, 0, messages);
     EXPECT_EQ(zone, 1);
