@@ -201,14 +201,12 @@ def drive(folder):
              and node.get_name() in ("인쇄", "Print"), "the preview's print button"), "Press")
     pdf = folder / "plot.pdf"
     box = find(lambda node: node.get_role_name() == "text"
-               and "fileNameEdit" in (node.get_accessible_id() or "")
-               or node.get_role_name() == "text" and node.get_name().startswith(("파일 이름", "File name")),
-               "the file name")
+               and node.get_name().startswith(("출력 파일", "Output file")), "the file's box")
     Atspi.EditableText.set_text_contents(box, str(pdf))
     time.sleep(0.3)
-    act(find(lambda node: node.get_role_name() in ("push button", "button")
-             and node.get_name().replace("&", "") in ("저장", "저장(S)", "Save")
-             and node.get_description() != "cmdSave", "the dialog's save button"), "Press")
+    act(find(lambda node: node.get_name() in ("인쇄(P)", "Print", "Print(P)")
+             and node.get_role_name() in ("push button", "button")
+             and node.get_description() != "cmdPrint", "the dialog's print button"), "Press")
     wait_for(lambda: pdf.exists() and pdf.stat().st_size > 1000, "the PDF file")
     print("printed: %d bytes of PDF" % pdf.stat().st_size)
 
