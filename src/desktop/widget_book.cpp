@@ -129,8 +129,11 @@ void WidgetBook::addWords(Control& control, QWidget* widget) {
 QWidget* WidgetBook::makeTextBox(Control& control) {
     auto* box = new NumberBox(firstParent_);
     box->setText(qt(control.text()));
-    QObject::connect(box, &QLineEdit::textEdited, box, [this, &control](const QString& text) {
-        gate_.run([&] { control.typeText(text.toStdString()); }, EventGate::Event::Typing);
+    // Any change of the text, not only by keys: assistive technology sets it as a whole.
+    QObject::connect(box, &QLineEdit::textChanged, box, [this, &control](const QString& text) {
+        const std::string typed = text.toStdString();
+        if (typed == control.text()) return;
+        gate_.run([&] { control.typeText(typed); }, EventGate::Event::Typing);
     });
     // Asked late: handlers are hung on after the controls are made.
     box->setSelectsOnEntry([&control] { return static_cast<bool>(control.onFocus); });
@@ -234,10 +237,12 @@ QWidget* WidgetBook::makeCombo(Control& control) {
         combo->setCurrentIndex(control.index());
     };
     fill();
-    QObject::connect(combo, &QComboBox::activated, combo, [this, &control, combo](int index) {
-        gate_.run([&] { control.choose(index); });
-        combo->setCurrentIndex(control.index());
-    });
+    QObject::connect(combo, &QComboBox::currentIndexChanged, combo,
+                     [this, &control, combo](int index) {
+                         if (index == control.index()) return;
+                         gate_.run([&] { control.choose(index); });
+                         combo->setCurrentIndex(control.index());
+                     });
     control.watch([&control, combo, fill](Property property) {
         if (showCommon(control, *combo, property)) return;
         if (property == Property::Items) fill();

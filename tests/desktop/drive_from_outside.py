@@ -45,7 +45,9 @@ def start_on_own_display(kelvo):
     environment = dict(os.environ)
     environment[INSIDE] = "1"
     environment.pop("QT_QPA_PLATFORM", None)
-    command = ["xvfb-run", "-a", "-s", "-screen 0 1366x900x24", "dbus-run-session", "--",
+    # A number of its own to start the search at: two searches at one time would collide.
+    display = str(200 + os.getpid() % 700)
+    command = ["xvfb-run", "-a", "-n", display, "-s", "-screen 0 1366x900x24", "dbus-run-session", "--",
                python, os.path.abspath(__file__), kelvo]
     sys.exit(subprocess.run(command, env=environment, check=False, timeout=240).returncode)
 
@@ -63,8 +65,11 @@ Atspi.set_timeout(800, 800)
 
 def walk(node):
     yield node
-    for index in range(node.get_child_count()):
-        child = node.get_child_at_index(index)
+    try:
+        children = [node.get_child_at_index(index) for index in range(node.get_child_count())]
+    except Exception:  # it went away while it was looked at
+        return
+    for child in children:
         if child:
             yield from walk(child)
 
@@ -78,12 +83,12 @@ def everything():
 def find(test, what, patience=20.0):
     end = time.time() + patience
     while time.time() < end:
-        try:
-            for node in everything():
+        for node in everything():
+            try:
                 if test(node):
                     return node
-        except Exception:  # a node went away while it was looked at
-            pass
+            except Exception:  # it went away while it was looked at
+                pass
         time.sleep(0.1)
     raise SystemExit("not found: " + what)
 
@@ -139,6 +144,10 @@ def wait_for(test, what, patience=20.0):
     raise SystemExit("in vain: " + what)
 
 
+def showing(name):
+    return control(name).get_state_set().contains(Atspi.StateType.SHOWING)
+
+
 def control_names():
     """Every control that a widget stands for, from where the form declares them."""
     root = pathlib.Path(__file__).resolve().parents[2] / "src"
@@ -168,28 +177,36 @@ def drive(folder):
     for box, value in (("txtWdmsPhi", "37.35332567"), ("txtWdmsLam", "126.32293454"),
                        ("txtWdmsTH", "30.1756")):
         type_into(box, value)
-    for arrow in ("cmdW2B", "cmdGP2TM", "cmdTM2UTM", "cmdUTM2TM", "cmdTM2GP", "cmdB2W"):
+    # Each arrow with a box that it fills; a mark in the box shows when that has happened.
+    for arrow, box in (("cmdW2B", "txtBdmsPhi"), ("cmdGP2TM", "txtX"), ("cmdTM2UTM", "txtUX"),
+                       ("cmdUTM2TM", "txtX"), ("cmdTM2GP", "txtBdmsPhi"),
+                       ("cmdB2W", "txtWdmsPhi")):
+        type_into(box, "1")
+        wait_for(lambda name=box: text_of(name) == "1", "the mark in " + box)
         press(arrow)
+        wait_for(lambda name=box: text_of(name) != "1", arrow)
     back = float(text_of("txtWdmsPhi")), float(text_of("txtWdmsLam"))
     assert abs(back[0] - 37.35332567) < 1e-6 and abs(back[1] - 126.32293454) < 1e-6, back
     print("one point there and back: %.8f %.8f" % back)
     press("cmdOneClose")
+    wait_for(lambda: not showing("cmdOneClose"), "the closed panel")
 
     choose("변환하기")
+    wait_for(lambda: control("cmdShow").get_name() == "그림보기" and showing("cmdShow"),
+             "the result again")
     press("cmdShow")
+    wait_for(lambda: showing("pctPlot"), "the plot")
     press("cmdPrint")
     act(find(lambda node: node.get_role_name() in ("push button", "button")
              and node.get_name() in ("인쇄", "Print"), "the preview's print button"), "Press")
     pdf = folder / "plot.pdf"
     box = find(lambda node: node.get_role_name() == "text"
-               and "fileNameEdit" in (node.get_accessible_id() or "")
-               or node.get_role_name() == "text" and node.get_name().startswith(("파일 이름", "File name")),
-               "the file name")
+               and node.get_name().startswith(("출력 파일", "Output file")), "the file's box")
     Atspi.EditableText.set_text_contents(box, str(pdf))
     time.sleep(0.3)
-    act(find(lambda node: node.get_role_name() in ("push button", "button")
-             and node.get_name().replace("&", "") in ("저장", "저장(S)", "Save")
-             and node.get_description() != "cmdSave", "the dialog's save button"), "Press")
+    act(find(lambda node: node.get_name() in ("인쇄(P)", "Print", "Print(P)")
+             and node.get_role_name() in ("push button", "button")
+             and node.get_description() != "cmdPrint", "the dialog's print button"), "Press")
     wait_for(lambda: pdf.exists() and pdf.stat().st_size > 1000, "the PDF file")
     print("printed: %d bytes of PDF" % pdf.stat().st_size)
 
@@ -198,12 +215,17 @@ def main():
     with tempfile.TemporaryDirectory(prefix="kelvo") as place:
         folder = pathlib.Path(place) / "app"
         environment = dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
-        with subprocess.Popen([sys.argv[1], "--app-folder", str(folder)],
-                              env=environment) as program:
-            try:
-                drive(folder)
-            finally:
-                program.terminate()
+        for _ in range(4):  # on a busy machine the display takes its time to come up
+            program = subprocess.Popen([sys.argv[1], "--app-folder", str(folder)],
+                                       env=environment)
+            time.sleep(3)
+            if program.poll() is None:
+                break
+        try:
+            drive(folder)
+        finally:
+            program.terminate()
+            program.wait(20)
     print("done")
 
 
