@@ -28,7 +28,7 @@ constexpr bool kSlow = false;
 constexpr long kGigabyte = 1L << 30U;
 constexpr std::size_t kManyLines = kSlow ? 1'000'000 : 10'000'000;
 // Far below the gigabyte that a file holds; the longest line is 16 MB.
-constexpr long kMostMemory = kSlow ? 700L << 20U : 200L << 20U;
+constexpr long kMostMemory = kSlow ? 700L << 20U : 100L << 20U;
 
 const std::string kPoint = "WGS a 37.3 127 1\r\n";
 const std::string kEnd = "end\r\n\r\n";
