@@ -207,7 +207,7 @@ def main():
     parser = argparse.ArgumentParser()
     parser.add_argument("driver")
     parser.add_argument("--moments", type=int, default=0, help="at most so many system calls; 0: each")
-    parser.add_argument("--random", type=int, default=100)
+    parser.add_argument("--random", type=int, default=30)
     options = parser.parse_args()
     driver = str(pathlib.Path(options.driver).resolve())
     problems = []
