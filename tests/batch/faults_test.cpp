@@ -278,5 +278,22 @@ TEST(Nonsense, AnEllipsoidOfZeroTellsForEveryStepOfAPoint) {
     EXPECT_EQ(bench.fault, 11);
 }
 
+TEST(Faults, ACorrectionThatMakesAHeightInfiniteEndsTheRunAtThePoint) {
+    BatchBench bench;
+    bench.known("* \nK1 37.0 127.0 100 37.0 127.0 1.7e308 0.001\n\nx\n");
+    bench.run(
+        "CORRECTION\nWGS a 37.30 127.30 10\n1st 0 0 1.7e308\nWGS b 37.30 127.30 10\n \nend\n\n");
+    EXPECT_EQ(bench.fault, 6);
+    EXPECT_EQ(bench.points(), 2);
+    EXPECT_NE(bench.faultText.find("점 b"), std::string::npos) << bench.faultText;
+}
+
+TEST(Faults, AFaultInATableNamesThePointOfItsRow) {
+    BatchBench bench;
+    bench.run("OUTPUT deg\nINPUT deg\nWGS a 37.5 127.5\n   c 37 1e6 3\n   d 37 127 3\n \nend\n\n");
+    EXPECT_EQ(bench.fault, 6);
+    EXPECT_NE(bench.faultText.find("점 c"), std::string::npos) << bench.faultText;
+}
+
 }  // namespace
 }  // namespace kelvo

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "common/run_time_fault.h"
+
 #include <cmath>
 
 #include "support/recording_messages.h"
@@ -264,6 +266,11 @@ TEST(ChkUZone, OverridesAlsoTheUserOriginOfThree) {
     KelvoSub::chkUZone(126, zone, Lam0);
     EXPECT_EQ(zone, 4);
     EXPECT_EQ(Lam0, 117);
+}
+
+TEST(MeridianArc, BeyondADoubleIsAnOverflow) {
+    EXPECT_THROW(static_cast<void>(KelvoSub::MeridianArc(1e308, 0, 0, 0, 0, 10)), RuntimeFault);
+    EXPECT_THROW(static_cast<void>(KelvoSub::MeridianArc(1, 1, 1, 1, 1, 1e308)), RuntimeFault);
 }
 
 }  // namespace
