@@ -2,7 +2,6 @@
 
 #include <array>
 #include <charconv>
-#include <cstdio>
 #include <map>
 #include <utility>
 #include <variant>
@@ -17,8 +16,9 @@ using Value = std::optional<std::string>;
 
 std::string text(double value) {
     std::array<char, 64> buffer{};
-    const int length = std::snprintf(buffer.data(), buffer.size(), "%.17g", value);
-    return {buffer.data(), static_cast<std::size_t>(length)};
+    const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                            std::chars_format::general, 17);
+    return {buffer.data(), end};
 }
 std::string text(float value) {
     return text(double{value});

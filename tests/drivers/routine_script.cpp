@@ -1,12 +1,12 @@
 #include "drivers/routine_script.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
-#include <cstdio>
-#include <cstdlib>
 #include <limits>
 
+#include "common/number_text.h"
 #include "support/escape.h"
 
 namespace kelvo::testing {
@@ -41,11 +41,9 @@ double readPlainNumber(std::string_view word) {
     if (digits.starts_with('+')) digits.remove_prefix(1);
     double value = 0;
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
-    // A number too small for a double is still a number: it reads as what is left of it.
-    if (error == std::errc::result_out_of_range && value == 0)
-        value = std::strtod(std::string(digits).c_str(), nullptr);
-    else if (error != std::errc())
-        throw ScriptError("no number: " + std::string(word));
+    // A number too small for a double is still a number, and is 0.
+    const bool tooSmall = error == std::errc::result_out_of_range && !readNumber(digits).tooLarge;
+    if (error != std::errc() && !tooSmall) throw ScriptError("no number: " + std::string(word));
     if (end != digits.data() + digits.size() || !std::isfinite(value))
         throw ScriptError("no number: " + std::string(word));
     return value;
@@ -126,9 +124,10 @@ void AnswerLine::add(std::string_view result) {
 }
 
 AnswerLine& AnswerLine::number(double value) {
-    char digits[40];
-    std::snprintf(digits, sizeof digits, "%.17g", value);
-    add(digits);
+    std::array<char, 40> digits{};
+    const auto [end, error] = std::to_chars(digits.data(), digits.data() + digits.size(), value,
+                                            std::chars_format::general, 17);
+    add({digits.data(), end});
     return *this;
 }
 

@@ -1,6 +1,7 @@
 #include "support/recording_surface.h"
 
-#include <cstdio>
+#include <array>
+#include <charconv>
 
 #include "common/fixed_width.h"
 #include "support/escape.h"
@@ -8,10 +9,12 @@
 namespace kelvo::testing {
 namespace {
 
+// Whatever the locale says of points and commas. The longest double has 309 integer digits.
 std::string decimals4(double value) {
-    std::string text(static_cast<std::size_t>(std::snprintf(nullptr, 0, "%.4f", value)), ' ');
-    std::snprintf(text.data(), text.size() + 1, "%.4f", value);
-    return text;
+    std::array<char, 330> text{};
+    const auto [end, error] =
+        std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed, 4);
+    return {text.data(), end};
 }
 
 template <typename... Words>
