@@ -4,6 +4,7 @@
 #include <optional>
 #include <span>
 
+#include "common/checked_arithmetic.h"
 #include "common/run_time_fault.h"
 #include "geodesy/angle_forms.h"
 #include "geodesy/datum_shift.h"
@@ -94,9 +95,9 @@ public:
         row.UserLam = user.Lam + para_.dLam / 3600;
         row.UserH = orthometric + para_.dH;
         correct(row);
-        row.UserPhi += row.CorrPhi;
-        row.UserLam += row.CorrLam;
-        row.UserH += row.CorrH;
+        row.UserPhi = finite(row.UserPhi + row.CorrPhi);
+        row.UserLam = finite(row.UserLam + row.CorrLam);
+        row.UserH = finite(row.UserH + row.CorrH);
     }
 
     // Backward: first adjustment and correction taken from the WGS coordinates, so that those of
@@ -106,15 +107,15 @@ public:
         row.WgsLam = wgs.Lam - para_.dLam / 3600;
         row.WgsH = wgs.h - para_.dH;
         correct(row);
-        row.WgsPhi -= row.CorrPhi;
-        row.WgsLam -= row.CorrLam;
-        row.WgsH -= row.CorrH;
+        row.WgsPhi = finite(row.WgsPhi - row.CorrPhi);
+        row.WgsLam = finite(row.WgsLam - row.CorrLam);
+        row.WgsH = finite(row.WgsH - row.CorrH);
     }
 
-    void fillTm(PointRec& row) const {
+    void fillTm(PointRec& row) {
         KelvoSub::chkZone(row.UserLam, para_.Zone, para_.Lam0);
-        const GridPoint grid = KelvoSub::GeoToTM(row.UserPhi, row.UserLam, userEllipsoid(),
-                                                 tmProjection(), run_.messages);
+        tm_.setCentralMeridian(tmProjection().Lam0);
+        const GridPoint grid = KelvoSub::GeoToTM(row.UserPhi, row.UserLam, tm_, run_.messages);
         row.TmX = grid.X;
         row.TmY = grid.Y;
     }

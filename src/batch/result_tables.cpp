@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "common/fixed_width.h"
+#include "common/run_time_fault.h"
 #include "geodesy/angle_forms.h"
 #include "geodesy/transverse_mercator.h"
 
@@ -56,7 +57,15 @@ void PrintResultTables(PointTable& points, TextWriter& out, int AngleOut, TransP
                        MessageBoxes& messages) {
     Row row(out, AngleOut, messages);
     const auto eachPoint = [&points](auto body) {
-        for (int i = 1; i <= points.PointCount; ++i) body(points.row(i));
+        for (int i = 1; i <= points.PointCount; ++i) {
+            PointRec& point = points.row(i);
+            try {
+                body(point);
+            } catch (RuntimeFault& fault) {
+                fault.addPlace("점 " + point.name);
+                throw;
+            }
+        }
     };
 
     out.line("WGS 타윈체 경위도 및 타원체고");

@@ -54,7 +54,8 @@ CommandLineReading readCommandLine(std::span<const std::string> arguments) {
         } else if (argument == "--quiet") {
             line.quiet = true;
         } else if (argument == "--app-folder") {
-            if (++i == arguments.size()) return refused("--app-folder needs a folder");
+            if (++i == arguments.size() || arguments[i].empty())
+                return refused("--app-folder needs a folder");
             line.applicationFolder = withoutTrailingSeparator(arguments[i]);
         } else if (argument == "-") {
             return refused(

@@ -103,6 +103,7 @@ int runAll(const CommandLine& line, const std::string& folder, StandardError& er
     StandardErrorMessages messages(error, line.quiet);
 
     bool good = true;
+    bool lastEnded = false;
     std::size_t done = 0;
     for (const std::string& data : line.dataFiles) {
         bar.show(done++, data);
@@ -111,11 +112,12 @@ int runAll(const CommandLine& line, const std::string& folder, StandardError& er
                                .detPath = several ? detailBeside(data) : detail,
                                .CorPath = folder + kPathSeparator + "kelvo.cor"};
         const auto state = std::make_unique<ConversionState>();
-        good &= ends([&] { RunBatch(*state, places, noScreen, disk, messages); }, error);
+        lastEnded = ends([&] { RunBatch(*state, places, noScreen, disk, messages); }, error);
+        good &= lastEnded;
     }
     // As ever, kelvo.det tells of the last run.
     const std::string last = detailBeside(line.dataFiles.back());
-    if (several && genSub::FileExists(disk, last) == genSub::kFileIsThere)
+    if (several && lastEnded && !disk.sameFile(last, detail))
         good &= ends([&] { copyFile(disk, last, detail); }, error);
     return good ? kRunEnded : kRunTimeFault;
 }

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstdint>
 
+#include "common/checked_arithmetic.h"
 #include "common/code_page.h"
 #include "common/number_text.h"
 #include "common/powers_of_ten.h"
@@ -141,7 +142,7 @@ void appendFormatNum(std::string& line, double value, int width, int decimals) {
     decimals = std::max(decimals, 0);
     if (width > kLongestMask || decimals > kLongestMask) return;
 
-    const bool minus = value < 0;
+    const bool minus = finite(value) < 0;
     const RoundedDigits rounded = roundedDigits(value, decimals);
     if (minus && rounded.digits == 0) {
         // The sign of a number that rounds to zero stops the blanking: sign and zeros stay.

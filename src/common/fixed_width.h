@@ -18,6 +18,7 @@ namespace kelvo::genSub {
 // Rounds the decimal text of the double at 15 significant digits, halves away from zero.
 // The sign stands directly in front of the first digit. Required: a negative number with
 // `width` or more integer digits loses its sign; one that rounds to zero keeps sign and zeros.
+// Fault 6 for an infinity or NaN: none ever stands in a text.
 [[nodiscard]] std::string FormatNum(double value, int width, int decimals);
 
 // The same for a text, read by the number rule; a number too large counts as 0.

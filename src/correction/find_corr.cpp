@@ -1,4 +1,7 @@
 #include <cmath>
+#include <span>
+#include <string>
+#include <string_view>
 
 #include "common/checked_arithmetic.h"
 #include "common/fixed_width.h"
@@ -15,28 +18,35 @@ constexpr double kLatitudeStretch = 1.2;
 // The squared distance of a run point that lies on a known point, square degrees.
 constexpr double kSmallestDistance2 = 1e-8;
 
-float weightOf(const CorrPoint& known, double Phi, double Lam, std::string_view pointName) {
-    const double d1 = known.WgsPhi - Phi;
-    const double d2 = known.WgsLam - Lam;
-    double Q = d1 * d1 * kLatitudeStretch + d2 * d2;
-    if (Q == 0) Q = kSmallestDistance2;
-    const double Q2 = Q * Q;
-    const auto w = static_cast<float>(static_cast<double>(known.Weight) / Q2);
-    if (!std::isfinite(w) || !std::isfinite(Q2))
-        raise(Fault::Overflow, "점 " + std::string(pointName) + "과(와) 보정점 " + known.Name +
-                                   "의 거리에서는 가중치를 계산할 수 없습니다");
-    return w;
+// The weight of every known point for a place, kept with the point. All of them first, in a loop
+// of nothing else, since the divisions then run one behind the other.
+void weigh(std::span<CorrPoint> points, double Phi, double Lam, std::string_view pointName) {
+    const CorrPoint* unweighable = nullptr;
+    for (CorrPoint& known : points) {
+        const double d1 = known.WgsPhi - Phi;
+        const double d2 = known.WgsLam - Lam;
+        double Q = d1 * d1 * kLatitudeStretch + d2 * d2;
+        if (Q == 0) Q = kSmallestDistance2;
+        const double Q2 = Q * Q;
+        known.W = static_cast<float>(static_cast<double>(known.Weight) / Q2);
+        const bool good = std::isfinite(known.W) && std::isfinite(Q2);
+        if (!good && unweighable == nullptr) unweighable = &known;
+    }
+    if (unweighable != nullptr)
+        raise(Fault::Overflow, "점 " + std::string(pointName) + "과(와) 보정점 " +
+                                   unweighable->Name + "의 거리에서는 가중치를 계산할 수 없습니다");
 }
 
 Correction weightedMean(CorrPointTable& table, double Phi, double Lam, std::string_view pointName) {
+    const std::span<CorrPoint> points =
+        std::span(table.CorrPoints).subspan(1, static_cast<std::size_t>(table.CorrCount));
+    weigh(points, Phi, Lam, pointName);
     double SumPhi = 0;
     double SumLam = 0;
     double SumH = 0;
     double SumW = 0;
     double SumWH = 0;
-    for (int i = 1; i <= table.CorrCount; ++i) {
-        CorrPoint& known = table.CorrPoints[static_cast<std::size_t>(i)];
-        known.W = weightOf(known, Phi, Lam, pointName);
+    for (const CorrPoint& known : points) {
         const auto w = static_cast<double>(known.W);
         SumPhi += w * known.DPhi;
         SumLam += w * known.DLam;

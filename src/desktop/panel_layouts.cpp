@@ -4,6 +4,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QVBoxLayout>
 #include <array>
@@ -83,7 +84,18 @@ void layOutPlotSettings(WidgetBook& book) {
         manual->addWidget(book.at(name));
     }
 
-    auto* column = new QVBoxLayout(book.at("frmePcfg"));
+    // A low window scrolls the settings and keeps them readable.
+    auto* content = new QWidget;
+    auto* scroll = new QScrollArea;
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setWidget(content);
+    auto* edge = new QVBoxLayout(book.at("frmePcfg"));
+    edge->setContentsMargins(0, 0, 0, 0);
+    edge->addWidget(scroll);
+
+    auto* column = new QVBoxLayout(content);
     column->setContentsMargins(10, 10, 10, 10);
     for (const char* name : {"optWGS", "optUGS", "optXY"}) column->addWidget(book.at(name));
     column->addSpacing(10);
@@ -98,6 +110,7 @@ void layOutPlotSettings(WidgetBook& book) {
     column->addSpacing(10);
     column->addWidget(book.at("cmdPlot"));
     column->addStretch(1);
+    scroll->setMinimumWidth(content->sizeHint().width() + 16);
 }
 
 void layOutPrintMode(WidgetBook& book) {

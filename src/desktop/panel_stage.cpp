@@ -20,6 +20,12 @@ void PanelStage::setUp(const WidgetBook& book, const FilePanel& filePanel) {
     arrange();
 }
 
+// As wide as the row of buttons under a text; higher panels scroll.
+QSize PanelStage::minimumSizeHint() const {
+    const int row = file_.panel == nullptr ? 0 : file_.panel->minimumSizeHint().width();
+    return {std::max(560, row), 360};
+}
+
 void PanelStage::resizeEvent(QResizeEvent*) {
     arrange();
 }

@@ -17,7 +17,7 @@ public:
     // All widgets of the book are on the stage already, or in a panel that is.
     void setUp(const WidgetBook& book, const FilePanel& filePanel);
 
-    [[nodiscard]] QSize minimumSizeHint() const override { return {560, 400}; }
+    [[nodiscard]] QSize minimumSizeHint() const override;
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

@@ -1,5 +1,6 @@
 #include "desktop/picture_painter.h"
 
+#include <QPainterPath>
 #include <QPen>
 #include <algorithm>
 #include <cmath>
@@ -21,14 +22,20 @@ std::vector<TextFace> facesOf(const PlotPicture& picture) {
 class ItemPainter {
 public:
     ItemPainter(QPainter& painter, const PlotPicture& picture, Medium medium)
-        : painter_(painter), faces_(facesOf(picture)), medium_(medium) {}
+        : painter_(painter),
+          faces_(facesOf(picture)),
+          medium_(medium),
+          toDevice_(painter.deviceTransform()),
+          fromDevice_(toDevice_.inverted()),
+          onWholePixels_(medium == Medium::Pixels && toDevice_.type() <= QTransform::TxScale) {}
 
     void operator()(const DrawnLine& line) {
-        if (!usePen(line.pen)) return;
         // Grid lines are crisp without smoothing, slanted ones are smooth with it; a raster
         // operation needs whole pixels.
-        const bool level = std::abs(line.from.x() - line.to.x()) < 0.5 ||
-                           std::abs(line.from.y() - line.to.y()) < 0.5;
+        const bool upright = std::abs(line.from.x() - line.to.x()) < 0.5;
+        const bool level = upright || std::abs(line.from.y() - line.to.y()) < 0.5;
+        if (level && onWholePixels_ && line.pen.drawMode == 13) return drawLevelLine(line, upright);
+        if (!usePen(line.pen)) return;
         smooth(!level && line.pen.drawMode == 13);
         painter_.drawLine(line.from, line.to);
     }
@@ -52,6 +59,7 @@ public:
         const QRectF frame(circle.centre.x() - circle.radiusX, circle.centre.y() - circle.radiusY,
                            2 * circle.radiusX, 2 * circle.radiusY);
         const bool whole = !(circle.start < circle.end) && !(circle.end < circle.start);
+        if (whole && !circle.filled && circle.pen.drawMode == 13) return drawRing(circle);
         if (whole) {
             const std::optional<QColor> fill = inkOf({circle.fill, 0, circle.pen.drawMode});
             painter_.setBrush(circle.filled && fill ? QBrush(*fill) : QBrush(Qt::NoBrush));
@@ -84,6 +92,40 @@ public:
     }
 
 private:
+    // As a rectangle of whole pixels, so that all lines of a grid are equally wide; much quicker
+    // than a pen, too.
+    void drawLevelLine(const DrawnLine& line, bool upright) {
+        setMode(QPainter::CompositionMode_SourceOver);
+        smooth(false);
+        QRectF place = QRectF(line.from, line.to).normalized();
+        place = toDevice_.mapRect(place);
+        const double width = std::max(1.0, std::round(line.pen.width * toDevice_.m11()));
+        if (upright) {
+            place.setLeft(std::round(place.left() - width / 2));
+            place.setWidth(width);
+        } else {
+            place.setTop(std::round(place.top() - width / 2));
+            place.setHeight(width);
+        }
+        painter_.fillRect(fromDevice_.mapRect(place), line.pen.colour);
+    }
+
+    // A plot's circles are many and small. Filling the ring between two circles takes a fraction
+    // of the time of drawing one with a pen.
+    void drawRing(const DrawnCircle& circle) {
+        const auto near = [](double one, double other) { return std::abs(one - other) < 0.01; };
+        if (!near(circle.radiusX, ringRadius_) || !near(circle.pen.width, ringWidth_)) {
+            ringRadius_ = circle.radiusX;
+            ringWidth_ = circle.pen.width;
+            ring_ = QPainterPath();
+            const double outer = ringRadius_ + ringWidth_ / 2;
+            const double inner = std::max(0.0, ringRadius_ - ringWidth_ / 2);
+            ring_.addEllipse(QPointF(0, 0), outer, outer);
+            ring_.addEllipse(QPointF(0, 0), inner, inner);
+        }
+        painter_.fillPath(ring_.translated(circle.centre), circle.pen.colour);
+    }
+
     void smooth(bool on) {
         if (on == smooth_) return;
         painter_.setRenderHint(QPainter::Antialiasing, on);
@@ -125,6 +167,12 @@ private:
     QPainter& painter_;
     std::vector<TextFace> faces_;
     Medium medium_;
+    QTransform toDevice_;
+    QTransform fromDevice_;
+    bool onWholePixels_ = false;
+    QPainterPath ring_;
+    double ringRadius_ = -1;
+    double ringWidth_ = 0;
     QPainter::CompositionMode mode_ = QPainter::CompositionMode_SourceOver;
     bool smooth_ = false;
     bool penIsKnown_ = false;

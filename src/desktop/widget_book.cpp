@@ -106,8 +106,10 @@ void WidgetBook::make(Control& control) {
 }
 
 void WidgetBook::enter(Control& control, QWidget* widget) {
-    widget->setObjectName(qt(control.name()));
-    widget->setAccessibleDescription(qt(control.name()));
+    // The viewer is a panel around the text box that bears the name.
+    QWidget* named = widget == viewer_ ? &viewer_->editor() : widget;
+    named->setObjectName(qt(control.name()));
+    named->setAccessibleDescription(qt(control.name()));
     if (!control.label().empty()) addWords(control, widget);
     widget->setEnabled(control.enabled());
     if (!control.visible()) widget->hide();
@@ -127,8 +129,11 @@ void WidgetBook::addWords(Control& control, QWidget* widget) {
 QWidget* WidgetBook::makeTextBox(Control& control) {
     auto* box = new NumberBox(firstParent_);
     box->setText(qt(control.text()));
-    QObject::connect(box, &QLineEdit::textEdited, box, [this, &control](const QString& text) {
-        gate_.run([&] { control.typeText(text.toStdString()); }, EventGate::Event::Typing);
+    // Any change of the text, not only by keys: assistive technology sets it as a whole.
+    QObject::connect(box, &QLineEdit::textChanged, box, [this, &control](const QString& text) {
+        const std::string typed = text.toStdString();
+        if (typed == control.text()) return;
+        gate_.run([&] { control.typeText(typed); }, EventGate::Event::Typing);
     });
     // Asked late: handlers are hung on after the controls are made.
     box->setSelectsOnEntry([&control] { return static_cast<bool>(control.onFocus); });
@@ -153,9 +158,7 @@ QWidget* WidgetBook::makeTextBox(Control& control) {
 QWidget* WidgetBook::makeViewer(Control& control) {
     auto* viewer = new TextViewer(firstParent_);
     viewer->load(control.text());
-    viewer->editor().setObjectName(qt(control.name()) + QStringLiteral("Editor"));
     viewer->editor().setAccessibleName(QStringLiteral("글"));
-    viewer->editor().setAccessibleDescription(qt(control.name()));
     viewer_ = viewer;
     viewerControl_ = &control;
     QObject::connect(viewer, &TextViewer::edited, viewer,
@@ -234,10 +237,12 @@ QWidget* WidgetBook::makeCombo(Control& control) {
         combo->setCurrentIndex(control.index());
     };
     fill();
-    QObject::connect(combo, &QComboBox::activated, combo, [this, &control, combo](int index) {
-        gate_.run([&] { control.choose(index); });
-        combo->setCurrentIndex(control.index());
-    });
+    QObject::connect(combo, &QComboBox::currentIndexChanged, combo,
+                     [this, &control, combo](int index) {
+                         if (index == control.index()) return;
+                         gate_.run([&] { control.choose(index); });
+                         combo->setCurrentIndex(control.index());
+                     });
     control.watch([&control, combo, fill](Property property) {
         if (showCommon(control, *combo, property)) return;
         if (property == Property::Items) fill();

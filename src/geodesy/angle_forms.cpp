@@ -129,14 +129,13 @@ void appendAngleText(std::string& line, double x, int form, MessageBoxes& messag
     line.append(static_cast<std::size_t>(degrees.data() + degrees.size() - end), ' ');
     line.append(degrees.data(), end);
     // Minutes and seconds have two places, the first one a digit and never a blank.
-    const auto appendPlaces = [&line, between](double value, int decimals) {
-        line += between;
-        const std::size_t first = line.size();
-        genSub::appendFormatNum(line, value, 2, decimals);
-        if (line[first] == ' ') line[first] = '0';
-    };
-    appendPlaces(parts.M, 0);
-    appendPlaces(parts.S, 4);
+    line += between;
+    line += static_cast<char>('0' + parts.M / 10);
+    line += static_cast<char>('0' + parts.M % 10);
+    line += between;
+    const std::size_t seconds = line.size();
+    genSub::appendFormatNum(line, parts.S, 2, 4);
+    if (line[seconds] == ' ') line[seconds] = '0';
 }
 
 std::string AngleText(double x, int form, MessageBoxes& messages) {
@@ -154,7 +153,10 @@ ArcSecLengths ArcSecLen(double Phi, double Lam, MessageBoxes& messages) {
     const double second = 1.0 / 3600;
     const GridPoint here = gridAt(Phi, Lam);
     const GridPoint north = gridAt(second + Phi, Lam);
-    const GridPoint hereAgain = gridAt(Phi, Lam);
+    // The same place once more has the same grid. Only one that can't be computed, which gives the
+    // origin, is told again.
+    const bool isOrigin = here.X == kNationalX0 && here.Y == kNationalY0;
+    const GridPoint hereAgain = isOrigin ? gridAt(Phi, Lam) : here;
     const GridPoint east = gridAt(Phi, second + Lam);
     return {.MPhi = distance(here.X, here.Y, north.X, north.Y),
             .MLam = distance(hereAgain.X, hereAgain.Y, east.X, east.Y)};

@@ -148,8 +148,8 @@ Position positionOf(double X, double Y, const Ellipsoid& ellipsoid, const Projec
 
 // The national grid, its central meridian by zone: 125, 127, 129 and so on, plus the shift.
 Projection nationalProjection(int zone, double shiftSeconds) {
-    return {.X0 = 500000.0,
-            .Y0 = 200000.0,
+    return {.X0 = kNationalX0,
+            .Y0 = kNationalY0,
             .Phi0 = 38.0,
             .Lam0 = (2.0 * zone + 123) + shiftSeconds / 3600,
             .S0 = 1.0};
@@ -165,8 +165,8 @@ TmGrid nationalGrid(int zone, double shiftSeconds) {
 }  // namespace
 
 double MeridianArc(double A, double B, double C, double D, double E, double phi) {
-    return A * phi - std::sin(phi + phi) * B + std::sin(4 * phi) * C - std::sin(6 * phi) * D +
-           std::sin(8 * phi) * E;
+    return finite(A * phi - std::sin(phi + phi) * B + std::sin(4 * phi) * C -
+                  std::sin(6 * phi) * D + std::sin(8 * phi) * E);
 }
 
 GridPoint GeoToTM(double Phi, double Lam, const Ellipsoid& ellipsoid, const Projection& projection,

@@ -75,10 +75,14 @@ private:
 // between the longitude of the old origin point and its later determination.
 inline constexpr double kOriginShiftSeconds = 10.405;
 
+// The origin of the national grid, metres.
+inline constexpr double kNationalX0 = 500000.0;
+inline constexpr double kNationalY0 = 200000.0;
+
 namespace KelvoSub {
 
 // Meridian arc from the equator, A phi - B sin 2phi + C sin 4phi - D sin 6phi + E sin 8phi;
-// phi in radians, coefficients and result in metres.
+// phi in radians, coefficients and result in metres. Fault 6 where that overflows.
 [[nodiscard]] double MeridianArc(double A, double B, double C, double D, double E, double phi);
 
 // Position to grid. Data that can't be computed (a zero axis or flattening, an overflow) shows

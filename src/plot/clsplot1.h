@@ -7,7 +7,7 @@
 // the pen, pKind, and the widths of three symbols of ticmark (required; cy isn't rounded).
 // Nothing that isn't finite reaches a surface: a division by zero is fault 11 (0/0 is 6), a value
 // out of range fault 6. A call stops at its fault; what was told to the surface stands, and kept
-// values aren't put back. Drawing without a surface is fault 5.
+// values aren't put back. Drawing without a surface is fault 5, which pline swallows.
 // No call draws without end: plinedot, pcircledot and pgrid stop after kMostStrokes strokes a
 // call, a triangle of a fill after kMostTriangleStrokes.
 //

@@ -39,9 +39,14 @@ std::string SavedResults::dms(const Control& box) {
 }
 
 void SavedResults::writeResultBlock(TextWriter& file) {
-    file.line("WGS 위도 = " + dms(on_.txtWdegPhi) + "   사용자 위도 = " + dms(on_.txtBdegPhi) +
+    // Read one after the other: the first bad box is the one that is told.
+    const std::string wgsPhi = dms(on_.txtWdegPhi);
+    const std::string userPhi = dms(on_.txtBdegPhi);
+    file.line("WGS 위도 = " + wgsPhi + "   사용자 위도 = " + userPhi +
               "   사용자 X = " + F(on_.txtX, 9, 5));
-    file.line("    경도 = " + dms(on_.txtWdegLam) + "          경도 = " + dms(on_.txtBdegLam) +
+    const std::string wgsLam = dms(on_.txtWdegLam);
+    const std::string userLam = dms(on_.txtBdegLam);
+    file.line("    경도 = " + wgsLam + "          경도 = " + userLam +
               "          Y = " + F(on_.txtY, 9, 5));
     file.line(" 타원체고 = " + F(on_.txtWdegTH, 5, 4) + "          타원체고  = " +
               F(on_.txtBTH, 5, 4) + "          타원체고  = " + F(on_.txtTH, 5, 5));

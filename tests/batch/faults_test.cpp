@@ -92,6 +92,25 @@ TEST(Faults, TheTextSaysWhichLineOfWhichFile) {
     EXPECT_NE(bench.faultText.find("4"), std::string::npos) << bench.faultText;
 }
 
+TEST(Faults, InABlockOfPointsTheTextNamesTheLineOfThePoint) {
+    for (int bad = 1; bad <= 6; ++bad) {
+        BatchBench bench;
+        bench.known("k 37.30 127.00 10 37.2950 127.0007 20 1\n*\n*\n");
+        std::string data = "CORR\nINPUT deg\n";
+        for (int i = 1; i <= 6; ++i) {
+            data += i == 1 ? "WGS" : "   ";
+            // too near the known point for its weight to be computed
+            data += i == bad ? " p 37.5 127.0000000001 1\n" : " p 37.3 127 1\n";
+        }
+        bench.run(data + "end\n\n");
+        EXPECT_EQ(bench.fault, 6);
+        EXPECT_EQ(bench.points(), bad);
+        EXPECT_NE(bench.faultText.find(" " + std::to_string(bad + 2) + "번째 줄"),
+                  std::string::npos)
+            << bench.faultText;
+    }
+}
+
 TEST(Faults, TheTextOfACutFileOfKnownPointsNamesThatFile) {
     BatchBench bench;
     bench.known("k 37.30 127.00 10 37.2950 127.0007 20 1\n*\n");
@@ -147,6 +166,21 @@ TEST(Faults, EveryOperationFailingFromSomePointOnEndsTheRunToo) {
         bench.run(kWholeRun);
         EXPECT_TRUE(bench.fault == 71 || count < from) << from;
     }
+}
+
+// The correction comes before the grid: where both fail, the fault of the first ends the run and
+// the message of the second isn't reached.
+TEST(Faults, AUtmPointIsCorrectedBeforeItsTmCoordinatesAreComputed) {
+    const std::string gridThatFails =
+        "tm para\n6377397.155 299.1528128\n38 127\n500000 200000\n1e305\n";
+    BatchBench bench;
+    bench.run(gridThatFails + "UTM u 4100000 450000 1\nend\n\n");
+    EXPECT_EQ(bench.fault, 0) << bench.faultText;
+    EXPECT_EQ(bench.messages.shown.size(), 1U);
+    bench.known("k 37.30 127.00 10 37.2950 127.0007 20 0\n*\n*\n");
+    bench.run("CORR\n" + gridThatFails + "UTM u 4100000 450000 1\nend\n\n");
+    EXPECT_EQ(bench.fault, 6);
+    EXPECT_EQ(bench.messages.shown.size(), 0U);
 }
 
 TEST(Faults, TheResultOfARunIsNotItsDataFile) {
@@ -242,6 +276,23 @@ TEST(Nonsense, AnEllipsoidOfZeroTellsForEveryStepOfAPoint) {
     EXPECT_EQ(bench.fault, 6) << "the way to earth-centred coordinates has no guard: 0 / 0";
     bench.run("INPUT deg\ntm para\n1 0\n38 127\n500000 200000\n1\nUGS a 37.5 127 0\nend\n\n");
     EXPECT_EQ(bench.fault, 11);
+}
+
+TEST(Faults, ACorrectionThatMakesAHeightInfiniteEndsTheRunAtThePoint) {
+    BatchBench bench;
+    bench.known("* \nK1 37.0 127.0 100 37.0 127.0 1.7e308 0.001\n\nx\n");
+    bench.run(
+        "CORRECTION\nWGS a 37.30 127.30 10\n1st 0 0 1.7e308\nWGS b 37.30 127.30 10\n \nend\n\n");
+    EXPECT_EQ(bench.fault, 6);
+    EXPECT_EQ(bench.points(), 2);
+    EXPECT_NE(bench.faultText.find("점 b"), std::string::npos) << bench.faultText;
+}
+
+TEST(Faults, AFaultInATableNamesThePointOfItsRow) {
+    BatchBench bench;
+    bench.run("OUTPUT deg\nINPUT deg\nWGS a 37.5 127.5\n   c 37 1e6 3\n   d 37 127 3\n \nend\n\n");
+    EXPECT_EQ(bench.fault, 6);
+    EXPECT_NE(bench.faultText.find("점 c"), std::string::npos) << bench.faultText;
 }
 
 }  // namespace

@@ -84,5 +84,22 @@ TEST_F(Bulk, NoBarIsDrawnWhereThereIsNoTerminal) {
     EXPECT_EQ(run(names).err, "");
 }
 
+TEST_F(Bulk, ADataFileWhoseDetailIsThatOfTheApplicationFolderKeepsIt) {
+    folder.put("first.dat", kWgs);
+    folder.put("kelvo.cor",
+               "k1 37.30 127.00 10 37.2950 127.0007 20 1\r\nk2 37.40 127.10 12 37.3950 127.1007 22 "
+               "1\r\n*\r\n*\r\n");
+    folder.put("kelvo.dat", "CORR\r\nWGS w 37.3 127 50\r\nend\r\n\r\n");
+    EXPECT_EQ(run({"first.dat", "kelvo.dat"}).exitCode, 0);
+    EXPECT_NE(folder.bytes("kelvo.det").find("w  "), std::string::npos);
+}
+
+TEST_F(Bulk, AnOldDetailOfAFileThatFailsIsNotTakenForThatOfTheLastRun) {
+    folder.put("first.dat", kWgs);
+    folder.put("gone.det", "OLD");
+    EXPECT_EQ(run({"first.dat", "gone.dat"}).exitCode, 1);
+    EXPECT_FALSE(std::filesystem::exists(folder.file("kelvo.det")));
+}
+
 }  // namespace
 }  // namespace kelvo

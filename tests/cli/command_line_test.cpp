@@ -30,6 +30,11 @@ TEST(BatchCommandLine, TheApplicationFolderLosesItsTrailingSeparator) {
     EXPECT_EQ(reading.line->applicationFolder, "dir");
 }
 
+TEST(BatchCommandLine, AnEmptyApplicationFolderIsRefused) {
+    EXPECT_FALSE(read({"--app-folder", "", "a.dat"}).line);
+    EXPECT_FALSE(read({"--app-folder"}).line);
+}
+
 TEST(BatchCommandLine, TheRootFolderStaysItself) {
     const auto reading = read({"--app-folder", std::string(1, kPathSeparator), "a.dat"});
     ASSERT_TRUE(reading.line);

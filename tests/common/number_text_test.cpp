@@ -159,6 +159,7 @@ TEST(SingleText, HasAtMostSevenDigitsAndNoExponent) {
     EXPECT_EQ(singleText(0.02F, false), ".02");
     EXPECT_EQ(singleText(-0.02F, false), "-.02");
     EXPECT_EQ(singleText(1.5F, true), "1.5");
+    EXPECT_EQ(singleText(1.0F, true), "1");
     EXPECT_EQ(singleText(0.1F, true), "0.1");
     EXPECT_EQ(singleText(0.0F, true), "0");
     EXPECT_EQ(singleText(100.0F, true), "100");

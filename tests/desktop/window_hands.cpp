@@ -121,11 +121,9 @@ void WindowHands::choose(const std::string& name, int index) {
         window_.gate().run([&] { control(name).choose(index); });
         return;
     }
-    // With the keys, as without a mouse: up to the first entry and down from there.
+    // With a first letter or the arrows every entry on the way would be chosen, too.
     combo->setFocus();
-    if (combo->currentIndex() == index) return;
-    combo->setCurrentIndex(index == 0 ? 1 : index - 1);
-    QTest::keyClick(combo, index == 0 ? Qt::Key_Up : Qt::Key_Down);
+    combo->setCurrentIndex(index);
 }
 
 void WindowHands::check(const std::string& name, bool on) {

@@ -11,6 +11,7 @@
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QTest>
+#include <ctime>
 #include <fstream>
 #include <iterator>
 #include <memory>
@@ -322,6 +323,21 @@ private slots:
         caret.deletePreviousChar();
         hands_->click("cmdSave");
         QCOMPARE(readBytes(folder_->file("data/odd.dat")), bytes);
+    }
+
+    // Time of the processor, so that a busy machine doesn't count.
+    void theWindowIsPaintedWithin150Milliseconds() {
+        const TemporaryFolder folder;
+        makeApplicationFolder(folder.path());
+        const std::clock_t start = std::clock();
+        MainWindow window(folder.path());
+        QVERIFY(window.start());
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        window.repaint();
+        const double milliseconds =
+            1000.0 * static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+        qInfo("start to first paint: %.0f ms", milliseconds);
+        QVERIFY(milliseconds < 150);
     }
 
     void threeMegabytesOpenAtOnce() {

@@ -19,8 +19,19 @@ void print(const std::string& line) {
     std::cout << line << '\n';
 }
 
-void drive(const std::string& folder) {
+// The program changes its current folder as it goes, so a relative folder is made absolute first.
+std::string absoluteFolder(const std::string& name, Disk& disk) {
+    std::string folder = name;
+    const bool absolute =
+        !folder.empty() && (folder.front() == kPathSeparator || folder.find(':') == 1);
+    if (!absolute) folder = disk.currentFolder() + kPathSeparator + folder;
+    while (folder.size() > 1 && folder.back() == kPathSeparator) folder.pop_back();
+    return folder;
+}
+
+void drive(const std::string& name) {
     PlatformDisk disk;
+    const std::string folder = absoluteFolder(name, disk);
     testing::RecordingServices services(disk, print);
     frmKelvo window(folder, services.services());
     Main(window);
@@ -32,11 +43,6 @@ void drive(const std::string& folder) {
     }
 }
 
-std::string withoutTrailingSeparator(std::string folder) {
-    while (folder.size() > 1 && folder.back() == kPathSeparator) folder.pop_back();
-    return folder;
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -46,7 +52,7 @@ int main(int argc, char** argv) {
     }
     std::ios::sync_with_stdio(false);
     try {
-        drive(withoutTrailingSeparator(argv[1]));
+        drive(argv[1]);
     } catch (const RuntimeFault& fault) {
         print("fault|" + std::to_string(fault.number()) + "|" + testing::escaped(fault.text()));
         return 1;

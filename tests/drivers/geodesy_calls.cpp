@@ -106,7 +106,7 @@ void wgsToTM(RoutineBench& bench, Arguments& in, AnswerLine& out) {
     int zone = in.integer();
     const GridHeight grid =
         WgsToTM(bench.datum.shift, g.Phi, g.Lam, g.h, zone, in.number(), bench.messages);
-    out.integer(zone).number(grid.X).number(grid.Y).number(grid.h);
+    out.number(grid.X).number(grid.Y).number(grid.h);
 }
 
 void tmToWgs(RoutineBench& bench, Arguments& in, AnswerLine& out) {
@@ -115,7 +115,6 @@ void tmToWgs(RoutineBench& bench, Arguments& in, AnswerLine& out) {
     const double h = in.number();
     int zone = in.integer();
     const Geographic g = TMToWgs(bench.datum.shift, X, Y, h, zone, in.number(), bench.messages);
-    out.integer(zone);
     answer(out, g);
 }
 

@@ -294,6 +294,23 @@ TEST(Chains, AreTheirStepsInTurn) {
     }
 }
 
+TEST(XYZToGeo, ADistanceBeyondADoubleFails) {
+    RecordingMessages messages;
+    const Geographic found = KelvoSub::XYZToGeo({1e160, 1e160, 1e3}, kWgs84, messages);
+    EXPECT_EQ(messages.texts(), std::vector<std::string>{kMessage});
+    EXPECT_EQ(found.Phi, 0);
+    EXPECT_EQ(found.h, 0);
+}
+
+TEST(DatumShift, AnOverflowFaultsWithoutAGuard) {
+    const DatumShift shift = shiftOf(1.7e308, 0, 0, 0, 0, 0, 0, 1);
+    EXPECT_EQ(faultOf([&] { return KelvoSub::MolodForward(shift, {1.7e308, 2, 3}); }), 6);
+    EXPECT_EQ(faultOf([&] { return KelvoSub::BursaForward(shift, {1.7e308, 2, 3}); }), 6);
+    EXPECT_EQ(faultOf([&] { return KelvoSub::MolodInverse(shift, {-1.7e308, 2, 3}); }), 6);
+    EXPECT_EQ(faultOf([&] { return KelvoSub::BursaInverse(shift, {-1.7e308, 2, 3}); }), 6);
+    EXPECT_EQ(faultOf([] { return KelvoSub::GeoToXYZ(37, 127, 1, {1e200, 299}); }), 6);
+}
+
 TEST(GeoToXYZ, HasNoGuardSoAnEllipsoidOfZeroFaults) {
     EXPECT_NE(faultOf([] { return KelvoSub::GeoToXYZ(37, 127, 0, {0, 299}); }), 0);
     EXPECT_NE(faultOf([] { return KelvoSub::GeoToXYZ(37, 127, 0, {6378137, 0}); }), 0);

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "common/run_time_fault.h"
+
 #include <cmath>
 
 #include "support/recording_messages.h"
@@ -122,6 +124,39 @@ TEST(GeoToTM, EllipsoidsThatMakeNoSenseNeverGiveInfinity) {
     }
 }
 
+TEST(TMToGeo, AnOverflowIsNotHiddenByTheDivisionBehindIt) {
+    // the seventh power of such a radius is beyond a double, and its reciprocal would be 0
+    RecordingMessages messages;
+    const Position point = TMToGeo(444627, 244207, {1e50, 299}, kCentre, messages);
+    EXPECT_EQ(point.Phi, 38);
+    EXPECT_EQ(point.Lam, 127);
+    EXPECT_EQ(messages.texts(), std::vector<std::string>{kBackwardMessage});
+    for (const double S0 : {1e50, 1e-50}) {
+        messages.shown.clear();
+        (void)TMToGeo(444627, 244207, kUserBessel, {500000, 200000, 38, 127, S0}, messages);
+        EXPECT_EQ(messages.shown.size(), 1U) << S0;
+    }
+}
+
+TEST(TmGrid, KeptFromPointToPointGivesWhatAFreshOneGives) {
+    RecordingMessages messages;
+    TmGrid kept(kUserBessel, kCentre);
+    for (const double Lam0 : {127.0, 129.25, 125.0, 127.0}) {
+        Projection projection = kCentre;
+        projection.Lam0 = Lam0;
+        kept.setCentralMeridian(Lam0);
+        const GridPoint fresh = GeoToTM(36.25, 128.5, kUserBessel, projection, messages);
+        const GridPoint again = GeoToTM(36.25, 128.5, kept, messages);
+        EXPECT_EQ(again.X, fresh.X);
+        EXPECT_EQ(again.Y, fresh.Y);
+    }
+    TmGrid impossible({0, 299}, kCentre);
+    EXPECT_EQ(GeoToTM(36.25, 128.5, impossible, messages).X, 500000);
+    impossible.setCentralMeridian(129);
+    EXPECT_EQ(GeoToTM(36.25, 128.5, impossible, messages).Y, 200000);
+    EXPECT_EQ(messages.texts(), (std::vector<std::string>{kForwardMessage, kForwardMessage}));
+}
+
 TEST(RadiusN, IsTheAxisAtTheEquatorAndGrowsToThePole) {
     const double e2 = 0.00669437999014132;
     EXPECT_EQ(KelvoSub::RadiusN(6378137, e2, 0), 6378137);
@@ -164,6 +199,9 @@ TEST(BesselToTM, AZoneAboveHasNoLimitUnlikeTheWayBack) {
     EXPECT_EQ(zone, 3);
     EXPECT_NEAR(back.Lam, 129, 1e-12);
     EXPECT_NEAR(back.Phi, 37.5, 1e-12);
+    zone = 4;
+    EXPECT_NEAR(KelvoSub::TMToBessel(point.X, point.Y, zone, 0, messages).Lam, 129, 1e-12);
+    EXPECT_EQ(zone, 3) << "the first one above counts as above";
     zone = 0;
     (void)KelvoSub::TMToBessel(point.X, point.Y, zone, 0, messages);
     EXPECT_EQ(zone, 1);
@@ -228,6 +266,11 @@ TEST(ChkUZone, OverridesAlsoTheUserOriginOfThree) {
     KelvoSub::chkUZone(126, zone, Lam0);
     EXPECT_EQ(zone, 4);
     EXPECT_EQ(Lam0, 117);
+}
+
+TEST(MeridianArc, BeyondADoubleIsAnOverflow) {
+    EXPECT_THROW(static_cast<void>(KelvoSub::MeridianArc(1e308, 0, 0, 0, 0, 10)), RuntimeFault);
+    EXPECT_THROW(static_cast<void>(KelvoSub::MeridianArc(1, 1, 1, 1, 1, 1e308)), RuntimeFault);
 }
 
 }  // namespace

@@ -267,12 +267,22 @@ TEST_F(FileCommands, SaveThatFailsEndsWithoutAWordAndLeavesTheOldFileWhole) {
 
 TEST_F(FileCommands, CopyThatFailsIsTold) {
     disk.before = [](const std::string& operation, const std::string& path) {
-        if (operation == "openForWriting" && path == "/app/data/copy.dat") raise(Fault::DiskFull);
+        if (operation == "replace" && path == "/app/data/copy.dat") raise(Fault::DiskFull);
     };
     program->queueDialog("/app/data/copy.dat");
     program->file(kSaveAs);
     EXPECT_EQ(program->told(), (Lines{kSaveDialog, "message||none|ok|파일 복사에 실패했습니다"}));
     EXPECT_EQ(program->recent(1), "/app/data/a.dat");  // the copy can't be shown
+}
+
+TEST_F(FileCommands, CopyThatFailsLeavesTheFileThatWasThere) {
+    disk.before = [](const std::string& operation, const std::string& path) {
+        if (operation == "replace" && path == "/app/data/b.dat") raise(Fault::DiskFull);
+    };
+    program->queueDialog("/app/data/b.dat");
+    program->queueAnswer(Answer::Yes);
+    program->file(kSaveAs);
+    EXPECT_EQ(disk.text("/app/data/b.dat"), "* /app/data/b.dat\r\n");
 }
 
 TEST_F(FileCommands, SaveItemsStartEnabled) {

@@ -161,5 +161,17 @@ TEST_F(SavedNotes, FullDiskIsAFault) {
     EXPECT_EQ(faultOf([&] { program->click("mnuPrintBrief"); }), 61);
 }
 
+TEST_F(SavedNotes, OfTwoBadBoxesInALineTheLeftOneIsTold) {
+    // Degrees beyond 16 bits in the first column, no number in the second.
+    program->type("txtWdegPhi", "99999");
+    program->type("txtBdegPhi", "abc");
+    EXPECT_EQ(faultOf([&] { program->click("mnuPrintBrief"); }), 6);
+    program->type("txtWdegPhi", "0");
+    program->type("txtBdegPhi", "0");
+    program->type("txtWdegLam", "99999");
+    program->type("txtBdegLam", "abc");
+    EXPECT_EQ(faultOf([&] { program->click("mnuPrintBrief"); }), 6);
+}
+
 }  // namespace
 }  // namespace kelvo

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <set>
 
 #include "trust/working_day.h"
@@ -273,8 +274,12 @@ void checkTold(const Command& row, const Outcome& outcome, const Failure& failur
 
 class FaultInjection : public ::testing::TestWithParam<Command> {
 protected:
+    static void TearDownTestSuite() { std::printf("%d failures injected\n", injected); }
+    inline static int injected = 0;
+
     [[nodiscard]] static Outcome with(const Failure& failure) {
         const Command& row = GetParam();
+        if (failure.at != 0 || failure.shortReads != 0) ++injected;
         return carryOut(row.prepare, row.command, failure, row.start);
     }
     [[nodiscard]] static Outcome clean() { return with({}); }

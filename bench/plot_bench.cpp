@@ -1,0 +1,111 @@
+// A plot of 10,000 named points on the raster surface: drawing it into a picture, and painting
+// the picture. Asked: under 0.3 s together. Run it with QT_QPA_PLATFORM=offscreen.
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QImage>
+#include <QPainter>
+#include <array>
+#include <string>
+
+#include "desktop/korean_faces.h"
+#include "desktop/picture_painter.h"
+#include "desktop/picture_surface.h"
+#include "plot/clsplot1.h"
+#include "plot/point_plots.h"
+
+namespace {
+
+using namespace kelvo;
+using desktop::PictureSurface;
+
+constexpr int kPoints = 10000;
+constexpr int kSide = 900;  // pixels
+
+class Silence final : public MessageBoxes, public ProgramStarter, public ScalePanel {
+public:
+    Answer show(const Message&) override { return Answer::Ok; }
+    void start(const std::string&) override {}
+    void showScale(const std::array<std::string, 4>&) override {}
+    void SavePcfgFile() override {}
+};
+
+// Points over 3 km of a TM grid, spread without a pattern to speak of.
+PointTable somePoints() {
+    PointTable points;
+    points.PointCount = kPoints;
+    unsigned state = 20040607;
+    const auto next = [&state] { return (state = state * 1664525U + 1013904223U) >> 8; };
+    for (int row = 1; row <= kPoints; ++row) {
+        PointRec& point = points.row(row);
+        point.name = "점-" + std::to_string(row);
+        point.TmX = 453000 + static_cast<double>(next() % 300000) / 100;
+        point.TmY = 158000 + static_cast<double>(next() % 300000) / 100;
+    }
+    return points;
+}
+
+struct Drawing {
+    Silence silence;
+    PointTable points = somePoints();
+    PlotCfg cfg;
+    PlotTexts texts{.dataFile = "data/test.dat", .date = "2004-06-07", .time = "09:30:00"};
+    PictureSurface surface{{}};
+    clsplot1 object{silence, silence, surface};
+
+    Drawing() {
+        cfg.PlotKind = 3;
+        cfg.PlotManual = 1;
+        cfg.PlotFontSize = 8;
+        cfg.XY = {.Xb = 453000, .Yb = 158000, .Span = 3000, .Inter = 500};
+    }
+
+    void draw() {
+        PlotSource source{
+            .points = points, .cfg = cfg, .panel = silence, .texts = texts, .messages = silence};
+        plot(object, 2, surface, source);
+    }
+
+    void paint(QImage& image) const {
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        painter.scale(kSide / 9450.0, kSide / 9450.0);
+        paintPicture(painter, surface.picture(), desktop::Medium::Pixels);
+    }
+};
+
+void drawTenThousandPoints(benchmark::State& state) {
+    Drawing drawing;
+    for (auto _ : state) drawing.draw();
+}
+
+void paintTenThousandPoints(benchmark::State& state) {
+    Drawing drawing;
+    drawing.draw();
+    QImage image(kSide, kSide, QImage::Format_RGB32);
+    for (auto _ : state) drawing.paint(image);
+}
+
+void drawAndPaintTenThousandPoints(benchmark::State& state) {
+    Drawing drawing;
+    QImage image(kSide, kSide, QImage::Format_RGB32);
+    for (auto _ : state) {
+        drawing.draw();
+        drawing.paint(image);
+    }
+}
+
+BENCHMARK(drawTenThousandPoints)->Unit(benchmark::kMillisecond);
+BENCHMARK(paintTenThousandPoints)->Unit(benchmark::kMillisecond);
+BENCHMARK(drawAndPaintTenThousandPoints)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    desktop::installFaceSubstitutes();
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}

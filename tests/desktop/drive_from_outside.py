@@ -1,0 +1,232 @@
+#!/usr/bin/env python3
+"""Drives the real window from outside, as assistive technology does.
+
+    drive_from_outside.py KELVO
+
+Starts the program on a display of its own and finds every control by its description, does a
+batch run, walks one point there and back, and prints to a PDF file. Exit code 77 (skipped) with a
+clear word where a package is missing.
+"""
+import os
+import pathlib
+import re
+import shutil
+import subprocess
+import sys
+import tempfile
+import time
+
+SKIPPED = 77
+INSIDE = "KELVO_DRIVEN_INSIDE"
+
+
+def skip(word):
+    print("skipped: " + word)
+    sys.exit(SKIPPED)
+
+
+def python_with_bindings():
+    """The platform's own python3 has the bindings; the one on PATH may be another."""
+    for python in (sys.executable, "/usr/bin/python3"):
+        probe = "import gi; gi.require_version('Atspi','2.0'); from gi.repository import Atspi"
+        if subprocess.run([python, "-c", probe], capture_output=True, check=False).returncode == 0:
+            return python
+    return None
+
+
+def start_on_own_display(kelvo):
+    for program, package in (("xvfb-run", "xvfb xauth"), ("dbus-run-session", "dbus")):
+        if not shutil.which(program):
+            skip("%s is missing (apt-get install %s)" % (program, package))
+    python = python_with_bindings()
+    if python is None:
+        skip("AT-SPI for Python is missing "
+             "(apt-get install at-spi2-core gir1.2-atspi-2.0 python3-gi)")
+    environment = dict(os.environ)
+    environment[INSIDE] = "1"
+    environment.pop("QT_QPA_PLATFORM", None)
+    # A number of its own to start the search at: two searches at one time would collide.
+    display = str(200 + os.getpid() % 700)
+    command = ["xvfb-run", "-a", "-n", display, "-s", "-screen 0 1366x900x24", "dbus-run-session", "--",
+               python, os.path.abspath(__file__), kelvo]
+    sys.exit(subprocess.run(command, env=environment, check=False, timeout=240).returncode)
+
+
+if INSIDE not in os.environ:
+    start_on_own_display(os.path.abspath(sys.argv[1]))
+
+import gi  # noqa: E402
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi  # noqa: E402
+
+Atspi.set_timeout(800, 800)
+
+
+def walk(node):
+    yield node
+    try:
+        children = [node.get_child_at_index(index) for index in range(node.get_child_count())]
+    except Exception:  # it went away while it was looked at
+        return
+    for child in children:
+        if child:
+            yield from walk(child)
+
+
+def everything():
+    desktop = Atspi.get_desktop(0)
+    for index in range(desktop.get_child_count()):
+        yield from walk(desktop.get_child_at_index(index))
+
+
+def find(test, what, patience=20.0):
+    end = time.time() + patience
+    while time.time() < end:
+        for node in everything():
+            try:
+                if test(node):
+                    return node
+            except Exception:  # it went away while it was looked at
+                pass
+        time.sleep(0.1)
+    raise SystemExit("not found: " + what)
+
+
+def control(name):
+    return find(lambda node: node.get_description() == name, name)
+
+
+def named(name):
+    return find(lambda node: node.get_name() == name, name)
+
+
+def act(node, name):
+    for index in range(Atspi.Action.get_n_actions(node)):
+        if Atspi.Action.get_action_name(node, index) == name:
+            try:
+                Atspi.Action.do_action(node, index)
+            except Exception:  # a modal box holds the answer back
+                pass
+            time.sleep(0.5)  # Qt clicks a moment later
+            return
+    raise SystemExit("no action " + name)
+
+
+def press(name):
+    act(control(name), "Press")
+
+
+def choose(caption):
+    act(find(lambda node: node.get_role_name() == "menu item" and node.get_name() == caption,
+             caption), "Press")
+
+
+def text_of(name):
+    node = control(name)
+    return Atspi.Text.get_text(node, 0, Atspi.Text.get_character_count(node))
+
+
+def type_into(name, text):
+    Atspi.EditableText.set_text_contents(control(name), text)
+    time.sleep(0.1)
+
+
+def wait_for(test, what, patience=20.0):
+    end = time.time() + patience
+    while time.time() < end:
+        try:
+            if test():
+                return
+        except Exception:  # the widget is being made anew
+            pass
+        time.sleep(0.1)
+    raise SystemExit("in vain: " + what)
+
+
+def showing(name):
+    return control(name).get_state_set().contains(Atspi.StateType.SHOWING)
+
+
+def control_names():
+    """Every control that a widget stands for, from where the form declares them."""
+    root = pathlib.Path(__file__).resolve().parents[2] / "src"
+    names = []
+    kinds = "frame|textBox|multiLineBox|option|check|combo|button|label|picture"
+    for path in sorted(root.glob("panels/*_controls.h")) + [root / "shell/window_controls.h"]:
+        names += re.findall(r"form\.(?:%s)\(\s*\"(\w+)\"" % kinds, path.read_text("utf-8"))
+    return names
+
+
+def drive(folder):
+    control("frmKelvo")
+    wanted = set(control_names())
+    assert len(wanted) > 100, wanted
+    found = {node.get_description() for node in everything()}
+    missing = sorted(wanted - found)
+    assert not missing, "no widget: %s" % missing
+    print("%d controls found by their descriptions" % len(wanted))
+
+    choose("변환하기")
+    result = folder / "data" / "test.out"
+    wait_for(lambda: result.exists() and "인천No-3" in text_of("Richtxt"), "the result")
+    print("batch run: %d bytes" % result.stat().st_size)
+
+    choose("입력창 열기")
+    act(control("optWdms"), "Toggle")
+    for box, value in (("txtWdmsPhi", "37.35332567"), ("txtWdmsLam", "126.32293454"),
+                       ("txtWdmsTH", "30.1756")):
+        type_into(box, value)
+    # Each arrow with a box that it fills; a mark in the box shows when that has happened.
+    for arrow, box in (("cmdW2B", "txtBdmsPhi"), ("cmdGP2TM", "txtX"), ("cmdTM2UTM", "txtUX"),
+                       ("cmdUTM2TM", "txtX"), ("cmdTM2GP", "txtBdmsPhi"),
+                       ("cmdB2W", "txtWdmsPhi")):
+        type_into(box, "1")
+        wait_for(lambda name=box: text_of(name) == "1", "the mark in " + box)
+        press(arrow)
+        wait_for(lambda name=box: text_of(name) != "1", arrow)
+    back = float(text_of("txtWdmsPhi")), float(text_of("txtWdmsLam"))
+    assert abs(back[0] - 37.35332567) < 1e-6 and abs(back[1] - 126.32293454) < 1e-6, back
+    print("one point there and back: %.8f %.8f" % back)
+    press("cmdOneClose")
+    wait_for(lambda: not showing("cmdOneClose"), "the closed panel")
+
+    choose("변환하기")
+    wait_for(lambda: control("cmdShow").get_name() == "그림보기" and showing("cmdShow"),
+             "the result again")
+    press("cmdShow")
+    wait_for(lambda: showing("pctPlot"), "the plot")
+    press("cmdPrint")
+    act(find(lambda node: node.get_role_name() in ("push button", "button")
+             and node.get_name() in ("인쇄", "Print"), "the preview's print button"), "Press")
+    pdf = folder / "plot.pdf"
+    box = find(lambda node: node.get_role_name() == "text"
+               and node.get_name().startswith(("출력 파일", "Output file")), "the file's box")
+    Atspi.EditableText.set_text_contents(box, str(pdf))
+    time.sleep(0.3)
+    act(find(lambda node: node.get_name() in ("인쇄(P)", "Print", "Print(P)")
+             and node.get_role_name() in ("push button", "button")
+             and node.get_description() != "cmdPrint", "the dialog's print button"), "Press")
+    wait_for(lambda: pdf.exists() and pdf.stat().st_size > 1000, "the PDF file")
+    print("printed: %d bytes of PDF" % pdf.stat().st_size)
+
+
+def main():
+    with tempfile.TemporaryDirectory(prefix="kelvo") as place:
+        folder = pathlib.Path(place) / "app"
+        environment = dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
+        for _ in range(4):  # on a busy machine the display takes its time to come up
+            program = subprocess.Popen([sys.argv[1], "--app-folder", str(folder)],
+                                       env=environment)
+            time.sleep(3)
+            if program.poll() is None:
+                break
+        try:
+            drive(folder)
+        finally:
+            program.terminate()
+            program.wait(20)
+    print("done")
+
+
+main()

@@ -1,0 +1,210 @@
+// The drawing surfaces: pixels, paper, faces and files.
+#include <QApplication>
+#include <QFile>
+#include <QImage>
+#include <QPainter>
+#include <QTest>
+#include <array>
+#include <cmath>
+
+#include "desktop/korean_faces.h"
+#include "desktop/paper_surface.h"
+#include "desktop/picture_files.h"
+#include "desktop/picture_painter.h"
+#include "desktop/picture_surface.h"
+#include "desktop/raster_modes.h"
+#include "support/temporary_folder.h"
+
+using namespace kelvo;
+using namespace kelvo::desktop;
+
+namespace {
+
+QImage painted(const PictureSurface& surface, Medium medium, const QColor& ground) {
+    QImage image(40, 40, QImage::Format_RGB32);
+    image.fill(ground);
+    QPainter painter(&image);
+    painter.scale(1 / 15.0, 1 / 15.0);
+    paintPicture(painter, surface.picture(), medium);
+    return image;
+}
+
+QRgb filledUnder(int mode, QRgb pen, QRgb ground, Medium medium) {
+    PictureSurface surface({});
+    surface.setDrawMode(mode);
+    const auto colour =
+        static_cast<std::int32_t>(qRed(pen) | (qGreen(pen) << 8) | (qBlue(pen) << 16));
+    surface.Line(0, 0, 600, 600, colour, kFormFilledBox);
+    return painted(surface, medium, QColor(ground)).pixel(20, 20) & 0xFFFFFF;
+}
+
+}  // namespace
+
+class SurfaceTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    // The sixteen operations as their bit tables: the mode less one, read as four bits, gives the
+    // result for pen and ground both set, pen alone, ground alone and neither.
+    void pixelsFollowTheRasterOperation() {
+        const QRgb pen = 0x00C3A55A;
+        const QRgb ground = 0x000FF03C;
+        for (int mode = 1; mode <= 16; ++mode) {
+            const unsigned bits = static_cast<unsigned>(mode - 1);
+            QRgb expected = 0;
+            if (bits & 8) expected |= pen & ground;
+            if (bits & 4) expected |= pen & ~ground;
+            if (bits & 2) expected |= ~pen & ground;
+            if (bits & 1) expected |= ~pen & ~ground;
+            QCOMPARE(filledUnder(mode, pen, ground, Medium::Pixels), expected & 0xFFFFFF);
+        }
+    }
+
+    void paperTakesWhiteAsItsGround() {
+        const QRgb pen = 0x00C3A55A;
+        for (int mode = 1; mode <= 16; ++mode) {
+            if (mode == 11) continue;
+            QVERIFY2(filledUnder(mode, pen, 0xFFFFFF, Medium::Paper) ==
+                         filledUnder(mode, pen, 0xFFFFFF, Medium::Pixels),
+                     qPrintable(QString::number(mode)));
+        }
+        QVERIFY(!inkOnPaper(11, Qt::red));
+    }
+
+    void colourHasRedInItsLowestByte() {
+        PictureSurface surface({});
+        surface.Line(0, 0, 600, 600, 0x0000FF, kFormFilledBox);
+        QCOMPARE(painted(surface, Medium::Pixels, Qt::white).pixelColor(20, 20), QColor(Qt::red));
+    }
+
+    void aWholeCircleIsFilledOnlyWhenItsStyleIsSolid() {
+        PictureSurface surface({});
+        surface.setFillColor(0x00FF00);
+        surface.Circle(300, 300, 200, 0, 0, 0, 0, kFormCircle);
+        QCOMPARE(painted(surface, Medium::Pixels, Qt::white).pixelColor(20, 20), QColor(Qt::white));
+        surface.setFillStyle(0);
+        surface.Circle(300, 300, 200, 0, 0, 0, 0, kFormCircle);
+        QCOMPARE(painted(surface, Medium::Pixels, Qt::white).pixelColor(20, 20), QColor(Qt::green));
+    }
+
+    void anArcRunsCounterClockwise() {
+        PictureSurface surface({});
+        surface.setDrawWidth(4);
+        surface.Circle(300, 300, 225, 0, 0, 1.5707963, 0, kFormArc);
+        const QImage image = painted(surface, Medium::Pixels, Qt::white);
+        QVERIFY(image.pixelColor(31, 9).lightness() < 128);   // upper right: drawn
+        QVERIFY(image.pixelColor(31, 31).lightness() > 200);  // lower right: not
+    }
+
+    void fixedFacesKeepAHangulLetterAtTwoLatinOnes() {
+        for (const char* name : {"굴림체", "궁서체", "돋움체", "바탕체"}) {
+            const TextFace face({QString::fromUtf8(name), 160});
+            const double latin = face.width(QStringLiteral("Wi.8"));
+            const double hangul = face.width(QStringLiteral("지오"));
+            QVERIFY2(std::abs(latin - hangul) < 1, name);
+            QVERIFY2(std::abs(face.width(QStringLiteral("가─±※")) - 4 * 160.0) < 2, name);
+        }
+    }
+
+    // The numbers stand on the cell's height in pixels, not on that of the em.
+    void turnedTextHasTheCellHeightOfItsRecord() {
+        PictureSurface surface({});
+        LogicalFont font;
+        font.lfHeight = 20;
+        font.lfEscapement = 900;
+        font.lfFaceName = "바탕";
+        surface.CreateFontIndirectA(font);
+        surface.SelectCreatedFont();
+        surface.TextOutA(10, 30, "37-30", 5);
+        const auto& text = std::get<DrawnText>(surface.picture().items.at(0));
+        QCOMPARE(text.angle, 90.0);
+        QCOMPARE(text.corner, QPointF(150, 450));
+        const TextFace face(surface.picture().looks.at(text.look));
+        QVERIFY(std::abs(face.height() - 20 * 15.0) < 1);
+    }
+
+    void namingAFontKeepsSizeAndBoldness() {
+        PictureSurface surface({});
+        surface.setFontsize(12);
+        surface.setFontBold(true);
+        surface.setFont("궁서");
+        QCOMPARE(surface.fontsize(), 12.0);
+        QCOMPARE(surface.FontWeight(), 700);
+        QCOMPARE(surface.FontName(), std::string("궁서"));
+    }
+
+    void clearingLeavesAnEmptyPicture() {
+        PictureSurface surface({});
+        surface.Line(0, 0, 600, 600, 0, kFormLine);
+        const unsigned before = surface.revision();
+        surface.Cls();
+        QVERIFY(surface.picture().items.empty());
+        QVERIFY(surface.revision() != before);
+    }
+
+    void eachEndedDocumentIsASheetAndAnEmptyOneIsNone() {
+        PaperSurface paper;
+        paper.EndDoc();
+        paper.setCurrentX(100);
+        paper.print("첫 장");
+        paper.EndDoc();
+        paper.setOrientation(2);
+        paper.print("둘째 장");
+        paper.print("");
+        const std::vector<Sheet> sheets = paper.takeSheets();
+        QCOMPARE(sheets.size(), std::size_t{2});
+        QVERIFY(!sheets[0].landscape);
+        QVERIFY(sheets[1].landscape);
+        QVERIFY(!paper.sheetsAreWaiting());
+    }
+
+    void sheetsBecomePagesOfOnePdf() {
+        const kelvo::testing::TemporaryFolder folder;
+        const QString path = QString::fromStdString(folder.file("sheets.pdf"));
+        PaperSurface paper;
+        for (int sheet = 0; sheet < 3; ++sheet) {
+            paper.print("장");
+            paper.EndDoc();
+        }
+        QPrinter printer(QPrinter::HighResolution);
+        setUpPrinter(printer);
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(path);
+        QVERIFY(paintSheets(printer, paper.takeSheets()));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray pdf = file.readAll();
+        QCOMPARE(pdf.count("/Type /Page\n"), 3);
+        // A printer that can't be opened is no silence.
+        paper.print("장");
+        printer.setOutputFileName(QStringLiteral("/nowhere/at/all.pdf"));
+        QVERIFY(!paintSheets(printer, paper.takeSheets()));
+    }
+
+    void picturesAreSavedByTheEndingOfTheirName() {
+        const kelvo::testing::TemporaryFolder folder;
+        PictureSurface surface({});
+        surface.Line(0, 0, 3000, 3000, 0, kFormLine);
+        surface.setFont("굴림체");
+        surface.print("점 <1> & 2");
+        for (const char* name : {"a.png", "a.SVG", "a.pdf"}) {
+            const QString path = QString::fromStdString(folder.file(name));
+            QVERIFY2(savePicture(surface.picture(), path), name);
+            QVERIFY(QFile(path).size() > 300);
+        }
+        QVERIFY(!savePicture(surface.picture(), QString::fromStdString(folder.file("a.bmp"))));
+        QVERIFY(!savePicture(surface.picture(), QStringLiteral("/nowhere/at/all.png")));
+        const QString svg = svgOf(surface.picture());
+        QVERIFY(svg.contains(QStringLiteral("점 &lt;1&gt; &amp; 2</text>")));
+        QCOMPARE(svg.count(QStringLiteral("<line ")), 1);
+    }
+};
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    installFaceSubstitutes();
+    SurfaceTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "surface_test.moc"
