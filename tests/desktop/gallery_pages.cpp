@@ -30,7 +30,7 @@ void drawLines(clsplot1& object, Surface&) {
         object.pline(75, y, 95, y, width, true);
     }
     object.ptext("pline 1-5, alt", 5, 157, 8);
-    object.pmoveto(105, 140);
+    object.pmoveto(105, 132);
     for (const double turn : {0.0, 72.0, 144.0, 216.0, 288.0}) {
         const double t = turn * 3.141592654 / 180;
         object.plinerelto(15 * std::cos(t), 15 * std::sin(t), 2);
@@ -70,7 +70,7 @@ void drawCircles(clsplot1& object, Surface& surface) {
         const int to = static_cast<int>(end);
         object.pcircle(x, y, 14, start, end, 1 + static_cast<double>(place % 3));
         object.ptextC(std::to_string(from) + ".." + std::to_string(to), x - 10, x + 10, y, 8);
-        if (place == 2 || place == 4) continue;
+        if (place == 2) continue;
         object.pcircledot(x, y - 80, 14, start, end, 1 + static_cast<double>(place % 3), 3, 1.5);
     }
     surface.setForeColor(kRed);
@@ -92,9 +92,14 @@ void drawFills(clsplot1& object, Surface& surface) {
     const std::vector<double> triangleX{5, 35, 15};
     const std::vector<double> triangleY{65, 70, 92};
     object.pFillPoly(triangleX, triangleY, 3, kRed);
-    const std::vector<double> squareX{42, 68, 68, 42};
-    const std::vector<double> squareY{66, 66, 92, 92};
+    // A stroke beside an upright side has no height left, so two of these quarters stay empty;
+    // slightly turned the square is full.
+    const std::vector<double> squareX{42, 56, 56, 42};
+    const std::vector<double> squareY{78, 78, 92, 92};
     object.pFillPoly(squareX, squareY, 4, 0);
+    const std::vector<double> turnedX{58, 71.9, 71, 57.1};
+    const std::vector<double> turnedY{62, 62.9, 76.8, 75.9};
+    object.pFillPoly(turnedX, turnedY, 4, 0);
     std::vector<double> hexagonX;
     std::vector<double> hexagonY;
     for (int corner = 0; corner < 6; ++corner) {
