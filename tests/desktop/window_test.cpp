@@ -11,6 +11,7 @@
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QTest>
+#include <QTimer>
 #include <fstream>
 #include <iterator>
 #include <memory>
@@ -263,6 +264,21 @@ private slots:
         hands_->click("mnuCorrShow");
         QVERIFY(report_.contains("53"));
         QVERIFY(QDir(qtText(folder_->path())).entryList({"rescue-*"}, QDir::Files).isEmpty());
+    }
+
+    // The window closes all the same, which by itself would end the program with 0.
+    void closingOverABoxThatHoldsNoNumberEndsWithExitCode1() {
+        hands_->type("txtFontSize", "여덟");
+        QTimer::singleShot(0, window_.get(), [this] { window_->close(); });
+        QCOMPARE(QApplication::exec(), 1);
+        QVERIFY(report_.contains("13"));
+        QVERIFY(!window_->isVisible());
+    }
+
+    void closingWithoutAFaultEndsWithExitCode0() {
+        QTimer::singleShot(0, window_.get(), [this] { window_->close(); });
+        QCOMPARE(QApplication::exec(), 0);
+        QVERIFY(report_.isEmpty());
     }
 
     void aDroppedDataFileIsOpened() {
