@@ -181,18 +181,18 @@ void printedDigits(double magnitude, Decimal15& decimal) {
 // "digits" with its trailing zeros gone, written as a plain decimal or with an exponent.
 std::string plainText(std::string_view digits, int exponent, bool negative, bool leadingZero) {
     std::string text = negative ? "-" : "";
-    const int count = static_cast<int>(digits.size());
     if (exponent < 0) {
         text += leadingZero ? "0." : ".";
-        text.append(static_cast<std::size_t>(-exponent - 1), '0');
-        text += digits;
-    } else if (exponent + 1 >= count) {
-        text += digits;
-        text.append(static_cast<std::size_t>(exponent + 1 - count), '0');
+        text.append(static_cast<std::size_t>(-exponent) - 1, '0');
+        return text.append(digits);
+    }
+    const std::size_t integerDigits = static_cast<std::size_t>(exponent) + 1;
+    text += digits.substr(0, integerDigits);
+    if (integerDigits >= digits.size()) {
+        text.append(integerDigits - digits.size(), '0');
     } else {
-        text += digits.substr(0, static_cast<std::size_t>(exponent + 1));
         text += '.';
-        text += digits.substr(static_cast<std::size_t>(exponent + 1));
+        text += digits.substr(integerDigits);
     }
     return text;
 }

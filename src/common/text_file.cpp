@@ -156,7 +156,11 @@ std::string readWholeText(Disk& disk, const std::string& path) {
     const auto file = disk.openForReading(path);
     std::string bytes;
     std::array<char, 65536> buffer{};
-    while (const std::size_t count = file->read(buffer)) bytes.append(buffer.data(), count);
+    while (const std::size_t count = file->read(buffer)) {
+        bytes.append(buffer.data(), count);
+        if (bytes.size() > kLargestText)
+            raise(Fault::Overflow, "파일이 너무 큽니다 (" + path + ")");
+    }
 
     std::string text;
     text.reserve(bytes.size() + bytes.size() / 2);

@@ -76,6 +76,9 @@ private:
     std::string buffer_;
 };
 
+// The largest file that is held as a whole, in bytes; a larger one is fault 6.
+inline constexpr std::size_t kLargestText = 64U << 20U;
+
 // The whole text of a file with every line end made CR LF, and a text put in place of a file.
 [[nodiscard]] std::string readWholeText(Disk& disk, const std::string& path);
 void replaceWholeText(Disk& disk, const std::string& path, std::string_view text);

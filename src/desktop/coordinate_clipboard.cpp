@@ -52,6 +52,7 @@ QWidget* clipboardButtons(WidgetBook& book, const std::vector<std::string>& boxe
     Form& form = book.form();
     QObject::connect(copy, &QToolButton::clicked, buttons, [&form, boxes] {
         std::vector<std::string> texts;
+        texts.reserve(boxes.size());
         for (const std::string& name : boxes) texts.push_back(form.find(name)->text());
         QGuiApplication::clipboard()->setText(coordinatesOf(texts));
     });

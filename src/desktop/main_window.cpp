@@ -25,7 +25,7 @@ constexpr int kEntryOpen = 2;  // mnuFileItem(2): 기존파일 열기
 
 QString droppedDataFile(const QMimeData* data) {
     for (const QUrl& url : data->urls()) {
-        const QString path = url.toLocalFile();
+        QString path = url.toLocalFile();
         if (path.endsWith(QLatin1String(".dat"), Qt::CaseInsensitive)) return path;
     }
     return {};

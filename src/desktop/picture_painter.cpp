@@ -34,9 +34,13 @@ public:
         // operation needs whole pixels.
         const bool upright = std::abs(line.from.x() - line.to.x()) < 0.5;
         const bool level = upright || std::abs(line.from.y() - line.to.y()) < 0.5;
-        if (level && onWholePixels_ && line.pen.drawMode == 13) return drawLevelLine(line, upright);
+        // Only thin ones: the round ends of a wide one show.
+        const bool thin = line.pen.width * toDevice_.m11() < 2.5;
+        if (level && thin && onWholePixels_ && line.pen.drawMode == 13) {
+            return drawLevelLine(line, upright);
+        }
         if (!usePen(line.pen)) return;
-        smooth(!level && line.pen.drawMode == 13);
+        smooth((!level || !thin) && line.pen.drawMode == 13);
         painter_.drawLine(line.from, line.to);
     }
 

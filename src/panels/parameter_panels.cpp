@@ -79,6 +79,7 @@ void ParameterPanels::markChanged() {
 
 void ParameterPanels::fillPresetList() {
     std::vector<std::string> names;
+    names.reserve(kPresets.size());
     for (const Preset& preset : kPresets) names.emplace_back(preset.name);
     on_.cmb7Para.setItems(std::move(names));
 }

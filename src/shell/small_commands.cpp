@@ -9,13 +9,16 @@ namespace kelvo {
 
 namespace {
 
-// One sentence a paragraph: what it is and for whom, that it is free, that it comes without
-// warranty, what else there is, and where suggestions go.
+// A paragraph each: what it is, by whom and for whom; that it is free and open; that it comes
+// without warranty; what else there is; where suggestions go.
 constexpr std::array<std::string_view, 5> kAbout{
-    "Kelvo - 측량인을 위하여 측량인과 함께 만든 좌표변환프로그램입니다.",
-    "이 프로그램은 무료로 제공되며 소스는 누구나 이용하고 발전시킬 수 있습니다.",
-    "사용에 따른 책임은 사용자에게 있으며 제공자는 계산 결과를 보증하지 않습니다.",
-    "만든이의 다른 프로그램도 함께 이용해 주십시오.", "개선할 점이 있으면 알려 주시기 바랍니다."};
+    "Kelvo - 측량 기술자를 위하여 Kelvo 개발자들이 만든 좌표변환 프로그램입니다.",
+    "이 프로그램은 무료이며, 소스가 MIT 라이선스로 공개되어 있어 누구나 자유롭게 이용하고 고쳐 쓸 "
+    "수 있습니다.",
+    "사용에 따른 책임은 사용자에게 있으며, 제공자는 계산 결과에 대하여 아무런 보증도 하지 "
+    "않습니다.",
+    "함께 만든 프로그램으로, 창 없이 명령줄에서 데이터 파일을 변환하는 kelvo-batch가 있습니다.",
+    "고칠 점이나 바라는 점이 있으면 Kelvo 개발자들에게 알려 주시기 바랍니다."};
 
 }  // namespace
 

@@ -399,5 +399,17 @@ TEST_F(Commands, LineEndsOfAnyKindAreRead) {
     EXPECT_EQ(bench.points(), 2);
 }
 
+TEST(UtmLine, OneCoordinateThatIsNotZeroMakesAPointOfIt) {
+    for (const char* line : {"UTM 129 0 500000 1", "UTM 129 4100000 0 1"}) {
+        BatchBench bench;
+        bench.run(std::string(line) + "\nend\n\n");
+        EXPECT_EQ(bench.points(), 1) << line;
+        EXPECT_EQ(bench.row(1).name, "129");
+    }
+    BatchBench bench;
+    bench.run("UTM 129 0 0 1\nend\n\n");
+    EXPECT_EQ(bench.points(), 0) << "a height alone doesn't";
+}
+
 }  // namespace
 }  // namespace kelvo

@@ -125,5 +125,11 @@ TEST(MinOf, GivesTheSmallerOne) {
     EXPECT_FALSE(std::signbit(genSub::MinOf(0.0, -0.0))) << "the first one when they are equal";
 }
 
+TEST(Log10Guard, BetweenZeroAndOneIsBelowZero) {
+    EXPECT_EQ(genSub::Log10Guard(0.5), std::log(0.5) / 2.302585093);
+    EXPECT_EQ(genSub::Log10Guard(1e-300), std::log(1e-300) / 2.302585093);
+    EXPECT_EQ(genSub::Log10Guard(1), 0);
+}
+
 }  // namespace
 }  // namespace kelvo

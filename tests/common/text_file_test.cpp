@@ -176,6 +176,14 @@ TEST(WholeText, GivesEveryLineEndAsCrLf) {
     EXPECT_EQ(readWholeText(disk, "/a"), "a\r\nb\r\nc\r\n가");
 }
 
+TEST(WholeText, OfAFileThatIsTooLargeIsFault6) {
+    MemoryDisk disk;
+    disk.putBytes("/a", std::string(kLargestText, '\n'));
+    EXPECT_EQ(readWholeText(disk, "/a").size(), 2 * kLargestText);
+    disk.putBytes("/a", std::string(kLargestText + 1, '\n'));
+    EXPECT_EQ(faultOf([&] { return readWholeText(disk, "/a"); }), 6);
+}
+
 TEST(WholeText, ReplacesAFileInTheCodePage) {
     MemoryDisk disk;
     replaceWholeText(disk, "/a", "가\r\nb");

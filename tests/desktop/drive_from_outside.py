@@ -1,11 +1,12 @@
 #!/usr/bin/env python3
 """Drives the real window from outside, as assistive technology does.
 
-    drive_from_outside.py KELVO
+    drive_from_outside.py KELVO [work|fault]
 
-Starts the program on a display of its own and finds every control by its description, does a
-batch run, walks one point there and back, and prints to a PDF file. Exit code 77 (skipped) with a
-clear word where a package is missing.
+Starts the program on a display of its own. "work" finds every control by its description, does a
+batch run, walks one point there and back, and prints to a PDF file. "fault" asks for
+the plot with a box that holds no number while the viewer holds unsaved text, and looks at the
+report, the rescue file and the exit code. Exit code 77 (skipped) with a clear word where a package is missing.
 """
 import os
 import pathlib
@@ -48,7 +49,7 @@ def start_on_own_display(kelvo):
     # A number of its own to start the search at: two searches at one time would collide.
     display = str(200 + os.getpid() % 700)
     command = ["xvfb-run", "-a", "-n", display, "-s", "-screen 0 1366x900x24", "dbus-run-session", "--",
-               python, os.path.abspath(__file__), kelvo]
+               python, os.path.abspath(__file__), kelvo] + sys.argv[2:]
     sys.exit(subprocess.run(command, env=environment, check=False, timeout=240).returncode)
 
 
@@ -110,7 +111,7 @@ def act(node, name):
                 pass
             time.sleep(0.5)  # Qt clicks a moment later
             return
-    raise SystemExit("no action " + name)
+    raise SystemExit("no action %s: %s %s" % (name, node.get_description(), node.get_name()))
 
 
 def press(name):
@@ -211,7 +212,34 @@ def drive(folder):
     print("printed: %d bytes of PDF" % pdf.stat().st_size)
 
 
+def end_with_a_fault(folder, program):
+    """Returns when the program has ended."""
+    choose("변환하기")
+    wait_for(lambda: "인천No-3" in text_of("Richtxt") and showing("Richtxt"), "the result")
+    typed = "저녁 내내 친 글"
+    type_into("Richtxt", typed)
+    press("cmdShow")
+    wait_for(lambda: showing("txtFontSize"), "the plot's boxes")
+    type_into("txtFontSize", "여덟")
+    press("cmdPlot")
+    report = find(lambda node: "오류 13" in (node.get_name() or ""), "the report")
+    words = report.get_name()
+    rescued = list(folder.glob("rescue-*.txt"))
+    assert len(rescued) == 1, rescued
+    assert str(rescued[0]) in words, words
+    assert rescued[0].read_bytes() == typed.encode("cp949"), rescued[0].read_bytes()
+    assert program.poll() is None, "the report doesn't wait"
+    print("the report names %s" % rescued[0].name)
+    act(find(lambda node: node.get_name().startswith("확인")
+             and node.get_role_name() in ("push button", "button")
+             and not node.get_description().startswith("cmd"), "the report's button"), "Press")
+    code = program.wait(20)
+    assert code == 1, "exit code %d" % code
+    print("exit code 1")
+
+
 def main():
+    session = sys.argv[2] if len(sys.argv) > 2 else "work"
     with tempfile.TemporaryDirectory(prefix="kelvo") as place:
         folder = pathlib.Path(place) / "app"
         environment = dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
@@ -222,7 +250,10 @@ def main():
             if program.poll() is None:
                 break
         try:
-            drive(folder)
+            if session == "fault":
+                end_with_a_fault(folder, program)
+            else:
+                drive(folder)
         finally:
             program.terminate()
             program.wait(20)

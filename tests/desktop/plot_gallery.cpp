@@ -1,5 +1,6 @@
-// plot_gallery FOLDER: draws all that a surface offers into PNG files and one PDF, to be looked
-// at by a person. Run it with QT_QPA_PLATFORM=offscreen where there is no display.
+// plot_gallery FOLDER: draws all that a surface and the plot object offer into PNG files and
+// prints it, with a text in each style, into PDF files: to be looked at by a person. Run it with
+// QT_QPA_PLATFORM=offscreen where there is no display.
 #include <QApplication>
 #include <QImage>
 #include <QPainter>
@@ -9,13 +10,16 @@
 #include <string>
 
 #include "desktop/korean_faces.h"
+#include "desktop/paper_surface.h"
 #include "desktop/picture_painter.h"
 #include "desktop/picture_surface.h"
+#include "gallery_pages.h"
 
 using kelvo::LogicalFont;
 using kelvo::desktop::Medium;
+using kelvo::desktop::PaperSurface;
 using kelvo::desktop::PictureSurface;
-using kelvo::desktop::PlotPicture;
+using namespace kelvo::testing;
 
 namespace {
 
@@ -116,14 +120,37 @@ void drawModes(PictureSurface& surface) {
     }
 }
 
-bool save(const PlotPicture& picture, const QString& path, double zoom) {
-    QImage image(static_cast<int>(620 * zoom), static_cast<int>(620 * zoom), QImage::Format_RGB32);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    painter.scale(zoom / 15, zoom / 15);
-    paintPicture(painter, picture, Medium::Pixels);
-    painter.end();
-    return image.save(path);
+bool save(const PictureSurface& surface, const QString& folder, const std::string& name) {
+    bool good = true;
+    for (const double zoom : {1.0, 1.6}) {
+        const int side = static_cast<int>(620 * zoom);
+        QImage image(side, side, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        painter.scale(zoom / 15, zoom / 15);
+        paintPicture(painter, surface.picture(), Medium::Pixels);
+        painter.end();
+        good = image.save(QString("%1/%2-%3.png").arg(folder, name.c_str()).arg(zoom)) && good;
+    }
+    return good;
+}
+
+bool print(PaperSurface& paper, const QString& path) {
+    QPrinter printer(QPrinter::HighResolution);
+    kelvo::desktop::setUpPrinter(printer);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(path);
+    return paintSheets(printer, paper.takeSheets());
+}
+
+// Seventy lines in columns: one full sheet and a second one begun.
+std::string sampleText() {
+    std::string text;
+    for (int line = 1; line <= 70; ++line) {
+        text += std::to_string(100 + line).substr(1) +
+                " | 인천No-3   |  37-35-33.2567 | 126-32-29.3454 |    30.1756 | 지오이드고\r\n";
+    }
+    return text;
 }
 
 }  // namespace
@@ -137,34 +164,44 @@ int main(int argc, char** argv) {
     kelvo::desktop::installFaceSubstitutes();
     const QString folder = QString::fromLocal8Bit(argv[1]);
 
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(folder + "/gallery.pdf");
-    printer.setPageSize(QPageSize(QPageSize::A4));
-    printer.setFullPage(true);
-    printer.setPageMargins(QMarginsF(0, 0, 0, 0));
-    QPainter paper(&printer);
-
     using Draw = void (*)(PictureSurface&);
     constexpr std::array<std::pair<const char*, Draw>, 4> pages{{{"faces", drawFaces},
                                                                  {"turned", drawTurned},
                                                                  {"shapes", drawShapes},
                                                                  {"modes", drawModes}}};
     bool good = true;
-    bool first = true;
     for (const auto& [name, draw] : pages) {
         PictureSurface surface({});
         draw(surface);
-        for (const double zoom : {1.0, 1.6}) {
-            const QString path = QString("%1/%2-%3.png").arg(folder, name).arg(zoom);
-            good = save(surface.picture(), path, zoom) && good;
-        }
-        if (!first) printer.newPage();
-        first = false;
-        paper.save();
-        paper.scale(printer.resolution() / 1440.0, printer.resolution() / 1440.0);
-        paintPicture(paper, surface.picture(), Medium::Paper);
-        paper.restore();
+        good = save(surface, folder, name) && good;
     }
-    return paper.end() && good ? 0 : 1;
+    PaperSurface paper;
+    for (const GalleryPage& page : kelvo::testing::galleryPages()) {
+        PictureSurface surface({});
+        drawGalleryPage(page, 2, surface);
+        good = save(surface, folder, page.name) && good;
+        drawGalleryPage(page, 1, paper);
+        paper.EndDoc();
+    }
+    for (const std::int16_t kind : {std::int16_t{1}, std::int16_t{2}, std::int16_t{3}}) {
+        for (const bool manual : {false, true}) {
+            if (manual && kind != 3) continue;
+            PictureSurface surface({});
+            drawSamplePlot(2, surface, kind, manual);
+            const std::string name = "plot-" + std::to_string(kind) + (manual ? "-manual" : "");
+            good = save(surface, folder, name) && good;
+            drawSamplePlot(1, paper, kind, manual);
+        }
+    }
+    good = print(paper, folder + "/gallery.pdf") && good;
+
+    const std::string text = sampleText();
+    int style = 0;
+    for (const char* font : {"굴림체", "바탕체", "돋움", "궁서"}) {
+        printSampleText(paper, "kelvo.tmp", text, {.font = font, .style = style++});
+    }
+    printSampleText(paper, "kelvo.tmp", text, {.size = "12", .strikethru = true});
+    printSampleText(paper, "kelvo.tmp", text, {.size = "7", .underline = true});
+    good = print(paper, folder + "/text.pdf") && good;
+    return good ? 0 : 1;
 }

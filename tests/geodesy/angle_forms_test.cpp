@@ -209,5 +209,16 @@ TEST_F(Angles, ArcSecLenAcrossAZoneBorderIsTheDistanceBetweenTheZones) {
     EXPECT_LT(inside.MLam, 25);
 }
 
+// The product with 60 may round up to the whole minute, and the seconds then come out below zero.
+TEST_F(Angles, AHairBelowAWholeMinuteIsThatMinute) {
+    for (int minute = 1; minute <= 59; ++minute) {
+        double x = minute / 60.0;
+        for (int hairs = 1; hairs <= 4; ++hairs) {
+            x = std::nextafter(x, 0.0);
+            expectSplit(x, 0, minute, 0);
+        }
+    }
+}
+
 }  // namespace
 }  // namespace kelvo

@@ -26,6 +26,39 @@ TEST(Geoid, OnAGridPointOfTheFirstFifteenItIsAlmostTheStoredHeight) {
     EXPECT_NEAR(GeoidHeight(tables, 36, 127), 24.999999999873, 5e-13);
 }
 
+TEST(Geoid, HoldsTwentyFiveRowsOfWhichTheLastTenAreOnlyStored) {
+    struct Stored {
+        double latitude;
+        double longitude;
+        double besselHeight;
+        double wgsHeight;
+        double weight;
+    };
+    constexpr Stored kStored[] = {
+        {34, 126, -50, 24.5, 3}, {35, 126, -55, 23.8, 2}, {36, 126, -60, 23.3, 2},
+        {37, 126, -64, 22.7, 2}, {38, 126, -65, 22.9, 3}, {34, 127, -46, 26.2, 2},
+        {35, 127, -49, 26.0, 1}, {36, 127, -56, 25.0, 1}, {37, 127, -63, 24.0, 1},
+        {38, 127, -65, 23.8, 2}, {34, 128, -43, 27.8, 2}, {35, 128, -45, 28.5, 1},
+        {36, 128, -52, 28.0, 1}, {37, 128, -58, 27.0, 1}, {38, 128, -62, 25.8, 2},
+        {34, 129, -42, 28.8, 2}, {35, 129, -42, 29.3, 1}, {36, 129, -47, 29.7, 1},
+        {37, 129, -52, 28.8, 1}, {38, 129, -60, 27.0, 2}, {34, 130, -42, 29.3, 3},
+        {35, 130, -42, 29.4, 2}, {36, 130, -44, 29.4, 2}, {37, 130, -48, 28.9, 2},
+        {38, 130, -53, 27.8, 3},
+    };
+    const GeoidTables tables = filled();
+    for (std::size_t i = 0; i < std::size(kStored); ++i) {
+        const Stored& stored = kStored[i];
+        for (const GeoidTable* table : {&tables.bessel, &tables.wgs}) {
+            const GeoidTable::Row& row = table->rows[i + 1];
+            EXPECT_EQ(row.latitude, stored.latitude) << i + 1;
+            EXPECT_EQ(row.longitude, stored.longitude) << i + 1;
+            EXPECT_EQ(row.weight, stored.weight) << i + 1;
+        }
+        EXPECT_EQ(tables.bessel.rows[i + 1].height, stored.besselHeight) << i + 1;
+        EXPECT_EQ(tables.wgs.rows[i + 1].height, stored.wgsHeight) << i + 1;
+    }
+}
+
 TEST(Geoid, TheEasternRowsHaveNoInfluence) {
     GeoidTables tables = filled();
     EXPECT_NEAR(GeoidHeightBessel(tables, 38, 129), -59.7861, 0.00005);

@@ -1,0 +1,305 @@
+// What stands where on a printed sheet, measured in the rasterised page.
+#include <QApplication>
+#include <QDir>
+#include <QImage>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTest>
+#include <cmath>
+#include <map>
+#include <optional>
+#include <vector>
+
+#include "desktop/korean_faces.h"
+#include "desktop/paper_surface.h"
+#include "gallery_pages.h"
+#include "support/recording_messages.h"
+#include "support/temporary_folder.h"
+
+using namespace kelvo;
+using namespace kelvo::desktop;
+using namespace kelvo::testing;
+
+namespace {
+
+constexpr int kDotsPerInch = 300;
+constexpr double kDotsPerMm = kDotsPerInch / 25.4;
+constexpr double kMmPerPoint = 25.4 / 72;
+
+class NoPrograms final : public ProgramStarter {
+public:
+    void start(const std::string&) override {}
+};
+
+// A rasterised page; places are millimetres from the sheet's top left corner.
+class Page {
+public:
+    explicit Page(const QString& path)
+        : image_(QImage(path).convertToFormat(QImage::Format_RGB32)) {}
+
+    [[nodiscard]] bool inked(int x, int y) const { return qGray(image_.pixel(x, y)) < 160; }
+
+    // The first and the last dot of the longest unbroken run in any row (or column) at least
+    // `atLeast` long, and the rows (or columns) in which such runs stand.
+    struct Lines {
+        double from = 1e9;
+        double to = -1;
+        double first = -1;
+        double last = -1;
+        [[nodiscard]] double length() const { return to - from; }
+    };
+    [[nodiscard]] Lines levelLines(double atLeast) const {
+        return lines(image_.height(), image_.width(), atLeast,
+                     [this](int row, int place) { return inked(place, row); });
+    }
+    [[nodiscard]] Lines uprightLines(double atLeast) const {
+        return lines(image_.width(), image_.height(), atLeast,
+                     [this](int column, int place) { return inked(column, place); });
+    }
+
+    struct Band {
+        double top = 0;
+        double bottom = 0;
+    };
+    // The rows with ink in them, neighbours put together.
+    [[nodiscard]] std::vector<Band> bands() const {
+        std::vector<Band> found;
+        bool inside = false;
+        for (int y = 0; y < image_.height(); ++y) {
+            const bool ink = leftmost(y).has_value();
+            if (ink && !inside) found.push_back({y / kDotsPerMm, 0});
+            if (ink) found.back().bottom = (y + 1) / kDotsPerMm;
+            inside = ink;
+        }
+        return found;
+    }
+
+    [[nodiscard]] double left(const Band& band) const {
+        double edge = 1e9;
+        for (int y = dots(band.top); y < dots(band.bottom); ++y) {
+            if (const auto x = leftmost(y)) edge = std::min(edge, *x / kDotsPerMm);
+        }
+        return edge;
+    }
+    // How far the band's left edge leans over, from its lowest row to its highest.
+    [[nodiscard]] double lean(const Band& band) const {
+        const int inset = 4;  // the corners of a stem may be rounded
+        const auto top = leftmost(dots(band.top) + inset);
+        const auto bottom = leftmost(dots(band.bottom) - 1 - inset);
+        return top && bottom ? (*top - *bottom) / kDotsPerMm : 0;
+    }
+    [[nodiscard]] int inkBetween(double from, double to) const {
+        int count = 0;
+        for (int y = 0; y < image_.height(); ++y) {
+            for (int x = dots(from); x < dots(to); ++x) count += inked(x, y) ? 1 : 0;
+        }
+        return count;
+    }
+    [[nodiscard]] int ink() const { return inkBetween(0, (image_.width() - 1) / kDotsPerMm); }
+
+private:
+    [[nodiscard]] static int dots(double mm) {
+        return static_cast<int>(std::lround(mm * kDotsPerMm));
+    }
+
+    [[nodiscard]] std::optional<int> leftmost(int y) const {
+        for (int x = 0; x < image_.width(); ++x) {
+            if (inked(x, y)) return x;
+        }
+        return std::nullopt;
+    }
+
+    template <class Inked>
+    [[nodiscard]] static Lines lines(int rows, int places, double atLeast, const Inked& inked) {
+        Lines found;
+        for (int row = 0; row < rows; ++row) {
+            int start = -1;
+            for (int place = 0; place <= places; ++place) {
+                const bool ink = place < places && inked(row, place);
+                if (ink && start < 0) start = place;
+                if (ink || start < 0) continue;
+                if (place - start >= atLeast * kDotsPerMm) {
+                    found.from = std::min(found.from, start / kDotsPerMm);
+                    found.to = std::max(found.to, place / kDotsPerMm);
+                    if (found.first < 0) found.first = row / kDotsPerMm;
+                    found.last = (row + 1) / kDotsPerMm;
+                }
+                start = -1;
+            }
+        }
+        return found;
+    }
+
+    QImage image_;
+};
+
+std::string linesOf(const std::string& line, int count) {
+    std::string text;
+    for (int i = 0; i < count; ++i) text += line + "\r\n";
+    return text;
+}
+
+bool near(double one, double other, double tolerance) {
+    return std::abs(one - other) <= tolerance;
+}
+
+}  // namespace
+
+class PrintedSheetTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() {
+        if (QStandardPaths::findExecutable(QStringLiteral("pdftoppm")).isEmpty()) {
+            QSKIP("pdftoppm is missing (apt-get install poppler-utils)");
+        }
+    }
+
+    void aPageOf137MillimetresIs178Wide15FromTheLeftAnd40FromTheTop() {
+        PaperSurface paper;
+        RecordingMessages messages;
+        NoPrograms programs;
+        clsplot1 object(messages, programs, paper);
+        object.pinitialize(15, 40, 1.3, 1.3, 1, paper);
+        object.pbox(0, 0, 137, 137, 3);
+        const std::vector<Page> pages = printed(paper);
+        QCOMPARE(pages.size(), std::size_t{1});
+        const Page::Lines level = pages[0].levelLines(100);
+        QVERIFY2(near(level.from, 15, 0.25), qPrintable(QString::number(level.from)));
+        QVERIFY2(near(level.to, 15 + 178.1, 0.25), qPrintable(QString::number(level.to)));
+        QVERIFY2(near(level.first, 40, 0.25), qPrintable(QString::number(level.first)));
+        QVERIFY2(near(level.last, 40 + 178.1, 0.25), qPrintable(QString::number(level.last)));
+        const Page::Lines upright = pages[0].uprightLines(100);
+        QVERIFY(near(upright.length(), 178.1, 0.4));
+        QVERIFY(near(upright.last - upright.first, 178.1, 0.4));
+    }
+
+    // Grid lines end 2 hundredths of the span inside the square of 1.1 spans.
+    void theGridOfAPlotLiesInThatSquare() {
+        for (const std::int16_t kind : {std::int16_t{1}, std::int16_t{2}, std::int16_t{3}}) {
+            PaperSurface paper;
+            drawSamplePlot(1, paper, kind, false);
+            const std::vector<Page> pages = printed(paper);
+            QCOMPARE(pages.size(), std::size_t{1});
+            const double margin = 178.1 * 0.02 / 1.1;
+            const Page::Lines level = pages[0].levelLines(100);
+            QVERIFY2(near(level.from, 15 + margin, 0.3), qPrintable(QString::number(level.from)));
+            QVERIFY(near(level.to, 15 + 178.1 - margin, 0.3));
+            const Page::Lines upright = pages[0].uprightLines(100);
+            QVERIFY2(near(upright.from, 40 + margin, 0.3),
+                     qPrintable(QString::number(upright.from)));
+            QVERIFY(near(upright.to, 40 + 178.1 - margin, 0.3));
+            // The first and the last line of an automatic scale stand one span apart at most.
+            QVERIFY(level.last - level.first <= 178.1 / 1.1 + 0.3);
+        }
+    }
+
+    void aSheetHolds62LinesFourMillimetresApart() {
+        PaperSurface paper;
+        printSampleText(paper, "kelvo.tmp", linesOf("HHHH", 70), {});
+        const std::vector<Page> pages = printed(paper);
+        QCOMPARE(pages.size(), std::size_t{2});
+        const std::vector<Page::Band> first = pages[0].bands();
+        QCOMPARE(first.size(), std::size_t{62});
+        QCOMPARE(pages[1].bands().size(), std::size_t{8});
+        // 0.8 of the cell lies above the line's Y.
+        const double cell = TextFace({QStringLiteral("굴림체"), 10}).height() * kMmPerPoint;
+        for (std::size_t line = 0; line < first.size(); ++line) {
+            const double Y = 30 + 4 * static_cast<double>(line);
+            QVERIFY(first[line].top > Y - 0.8 * cell);
+            QVERIFY(first[line].bottom < Y + 0.2 * cell);
+            QVERIFY(near(first[line].bottom - first[0].bottom, Y - 30, 0.15));
+        }
+        QVERIFY(near(pages[1].bands()[0].bottom, first[0].bottom, 0.1));
+    }
+
+    void theLeftEdgeGoesByTheSize() {
+        const std::map<std::string, double> edges{{"7", 36},  {"8", 34},  {"9", 32},
+                                                  {"10", 30}, {"11", 28}, {"12", 25}};
+        PaperSurface paper;
+        for (const auto& [size, edge] : edges) {
+            printSampleText(paper, "kelvo.tmp", linesOf("HHHH", 1), {.size = size});
+        }
+        const std::vector<Page> pages = printed(paper);
+        QCOMPARE(pages.size(), edges.size());
+        std::size_t page = 0;
+        for (const auto& [size, edge] : edges) {
+            const double left = pages[page].left(pages[page].bands().at(0));
+            // A letter H has some room on its left.
+            QVERIFY2(left >= edge && left < edge + 0.5, size.c_str());
+            ++page;
+        }
+    }
+
+    void eachStyleShowsInEachFace() {
+        for (const char* font : {"굴림", "굴림체", "돋움체", "바탕", "바탕체", "궁서체"}) {
+            PaperSurface paper;
+            for (int style = 0; style < 4; ++style) {
+                printSampleText(paper, "kelvo.tmp", linesOf("HHHHHHHH", 1),
+                                {.font = font, .style = style, .size = "12"});
+            }
+            const std::vector<Page> pages = printed(paper);
+            QCOMPARE(pages.size(), std::size_t{4});
+            std::vector<double> leans;
+            for (const Page& page : pages) leans.push_back(page.lean(page.bands().at(0)));
+            const auto ink = [&](std::size_t page) { return pages[page].ink(); };
+            QVERIFY2(near(leans[0], 0, 0.1) && near(leans[2], 0, 0.1), font);
+            QVERIFY2(leans[1] > 0.2 && leans[3] > 0.2, font);
+            QVERIFY2(ink(2) > 1.1 * ink(0) && ink(3) > 1.1 * ink(1), font);
+        }
+    }
+
+    void linesUnderAndThroughRunOnOverBlanks() {
+        PaperSurface paper;
+        for (const bool through : {false, true}) {
+            for (const bool under : {false, true}) {
+                printSampleText(paper, "kelvo.tmp", linesOf("H        H", 1),
+                                {.strikethru = through, .underline = under});
+            }
+        }
+        const std::vector<Page> pages = printed(paper);
+        QCOMPARE(pages.size(), std::size_t{4});
+        // Ten columns of half an em of 10 points: the middle of the blanks.
+        const double from = 30 + 3 * 5 * kMmPerPoint;
+        const double to = 30 + 7 * 5 * kMmPerPoint;
+        QCOMPARE(pages[0].inkBetween(from, to), 0);
+        QVERIFY(pages[1].inkBetween(from, to) > 0);
+        QVERIFY(pages[2].inkBetween(from, to) > 0);
+        const int both = pages[3].inkBetween(from, to);
+        QVERIFY(both > pages[1].inkBetween(from, to) && both > pages[2].inkBetween(from, to));
+        // The one lies under the letters, the other inside them.
+        QVERIFY(pages[1].bands().back().bottom > pages[0].bands().back().bottom);
+        QVERIFY(near(pages[2].bands().back().bottom, pages[0].bands().back().bottom, 0.1));
+    }
+
+private:
+    static std::vector<Page> printed(PaperSurface& paper) {
+        const TemporaryFolder folder;
+        const QString pdf = QString::fromStdString(folder.file("sheets.pdf"));
+        QPrinter printer(QPrinter::HighResolution);
+        setUpPrinter(printer);
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(pdf);
+        if (!paintSheets(printer, paper.takeSheets())) return {};
+        QProcess::execute(
+            QStringLiteral("pdftoppm"),
+            {QStringLiteral("-gray"), QStringLiteral("-r"), QString::number(kDotsPerInch), pdf,
+             QString::fromStdString(folder.file("page"))});
+        const QDir made(QString::fromStdString(folder.path()));
+        std::vector<Page> pages;
+        for (const QString& name :
+             made.entryList({QStringLiteral("page-*.pgm")}, QDir::Files, QDir::Name)) {
+            pages.emplace_back(made.filePath(name));
+        }
+        return pages;
+    }
+};
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    installFaceSubstitutes();
+    PrintedSheetTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "printed_sheet_test.moc"
