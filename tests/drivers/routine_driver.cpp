@@ -5,36 +5,11 @@
 #include "common/run_time_fault.h"
 #include "drivers/routine_bench.h"
 #include "support/escape.h"
+#include "support/message_line.h"
 
 namespace kelvo::testing {
 
 namespace {
-
-const char* nameOf(Icon icon) {
-    switch (icon) {
-        case Icon::None:
-            return "none";
-        case Icon::Information:
-            return "information";
-        case Icon::Question:
-            return "question";
-        case Icon::Warning:
-            return "warning";
-    }
-    return "none";
-}
-
-const char* nameOf(Buttons buttons) {
-    switch (buttons) {
-        case Buttons::Ok:
-            return "ok";
-        case Buttons::OkCancel:
-            return "okcancel";
-        case Buttons::YesNoCancel:
-            return "yesnocancel";
-    }
-    return "ok";
-}
 
 std::string answerTo(RoutineBench& bench, const std::string& line) {
     Call call = readCall(line);
@@ -69,8 +44,7 @@ void obey(std::unique_ptr<RoutineBench>& bench, const std::string& line) {
 }  // namespace
 
 Answer PrintedMessages::show(const Message& message) {
-    std::cout << "message|" << escaped(message.title) << '|' << nameOf(message.icon) << '|'
-              << nameOf(message.buttons) << '|' << escaped(message.text) << '\n';
+    std::cout << messageLine(message) << '\n';
     return message.buttons == Buttons::Ok ? Answer::Ok : Answer::Cancel;
 }
 

@@ -1,36 +1,11 @@
 #include "support/recording_services.h"
 
 #include "support/escape.h"
+#include "support/message_line.h"
 
 namespace kelvo::testing {
 
 namespace {
-
-std::string iconName(Icon icon) {
-    switch (icon) {
-        case Icon::Information:
-            return "information";
-        case Icon::Question:
-            return "question";
-        case Icon::Warning:
-            return "warning";
-        case Icon::None:
-            break;
-    }
-    return "none";
-}
-
-std::string buttonsName(Buttons buttons) {
-    switch (buttons) {
-        case Buttons::OkCancel:
-            return "okcancel";
-        case Buttons::YesNoCancel:
-            return "yesnocancel";
-        case Buttons::Ok:
-            break;
-    }
-    return "ok";
-}
 
 std::string kindName(DialogKind kind) {
     switch (kind) {
@@ -50,8 +25,7 @@ class RecordingServices::Messages final : public MessageBoxes {
 public:
     explicit Messages(RecordingServices& owner) : owner_(owner) {}
     Answer show(const Message& message) override {
-        owner_.tell("message|" + escaped(message.title) + "|" + iconName(message.icon) + "|" +
-                    buttonsName(message.buttons) + "|" + escaped(message.text));
+        owner_.tell(messageLine(message));
         if (message.buttons == Buttons::Ok) return Answer::Ok;
         if (owner_.answers.empty()) return Answer::Cancel;
         const Answer answer = owner_.answers.front();
