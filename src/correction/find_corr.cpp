@@ -74,7 +74,9 @@ Correction findCorr(ConversionState& state, TextWriter& det, double Phi, double 
     const double north = second.MPhi * mean.DPhi * 3600;
     const double L = squareRoot(east * east + north * north);
 
-    std::string line = genSub::FormatText(name, 10, 0);
+    std::string line;
+    line.reserve(128);
+    genSub::appendFormatText(line, name, 10, 0);
     line += "             ";
     KelvoSub::appendAngleText(line, mean.DPhi, AngleOut, messages);
     KelvoSub::appendAngleText(line, mean.DLam, AngleOut, messages);

@@ -7,6 +7,7 @@
 #include "common/checked_arithmetic.h"
 #include "common/fixed_width.h"
 #include "common/number_text.h"
+#include "common/run_time_fault.h"
 #include "common/text_constants.h"
 #include "geodesy/transverse_mercator.h"
 
@@ -144,22 +145,45 @@ std::string AngleText(double x, int form, MessageBoxes& messages) {
     return text;
 }
 
-ArcSecLengths ArcSecLen(double Phi, double Lam, MessageBoxes& messages) {
-    // Each point picks its own zone.
+namespace {
+
+constexpr double kSecond = 1.0 / 3600;
+
+// Two points share a parallel. Each picks its own zone.
+ArcSecLengths arcSecLengths(double Phi, double Lam) {
+    const auto at = [](const TmParallel& parallel, double lam) {
+        return parallel.at(lam, nationalMeridian(nationalZone(lam), kOriginShiftSeconds));
+    };
+    const TmParallel parallel(nationalGrid(), Phi);
+    const GridPoint here = at(parallel, Lam);
+    const GridPoint north = at(TmParallel(nationalGrid(), kSecond + Phi), Lam);
+    const GridPoint east = at(parallel, kSecond + Lam);
+    return {.MPhi = distance(here.X, here.Y, north.X, north.Y),
+            .MLam = distance(here.X, here.Y, east.X, east.Y)};
+}
+
+// The same point by point, each that can't be computed told by itself.
+ArcSecLengths arcSecLengthsTold(double Phi, double Lam, MessageBoxes& messages) {
     const auto gridAt = [&messages](double phi, double lam) {
         int zone = 0;
         return BesselToTM(phi, lam, zone, kOriginShiftSeconds, messages);
     };
-    const double second = 1.0 / 3600;
     const GridPoint here = gridAt(Phi, Lam);
-    const GridPoint north = gridAt(second + Phi, Lam);
-    // The same place once more has the same grid. Only one that can't be computed, which gives the
-    // origin, is told again.
-    const bool isOrigin = here.X == kNationalX0 && here.Y == kNationalY0;
-    const GridPoint hereAgain = isOrigin ? gridAt(Phi, Lam) : here;
-    const GridPoint east = gridAt(Phi, second + Lam);
+    const GridPoint north = gridAt(kSecond + Phi, Lam);
+    const GridPoint hereAgain = gridAt(Phi, Lam);
+    const GridPoint east = gridAt(Phi, kSecond + Lam);
     return {.MPhi = distance(here.X, here.Y, north.X, north.Y),
             .MLam = distance(hereAgain.X, hereAgain.Y, east.X, east.Y)};
+}
+
+}  // namespace
+
+ArcSecLengths ArcSecLen(double Phi, double Lam, MessageBoxes& messages) {
+    try {
+        return arcSecLengths(Phi, Lam);
+    } catch (const RuntimeFault&) {
+        return arcSecLengthsTold(Phi, Lam, messages);
+    }
 }
 
 }  // namespace kelvo::KelvoSub

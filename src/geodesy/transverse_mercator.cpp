@@ -8,6 +8,14 @@
 
 namespace kelvo {
 
+namespace {
+
+void requireComputable(const TmGrid& grid) {
+    if (!grid.computable()) raise(Fault::Overflow);
+}
+
+}  // namespace
+
 TmGrid::TmGrid(const Ellipsoid& ellipsoid, const Projection& projection) : projection_(projection) {
     try {
         derive(ellipsoid);
@@ -43,29 +51,17 @@ double TmGrid::meridianArc(double phi) const {
     return KelvoSub::MeridianArc(A_, B_, C_, D_, E_, phi);
 }
 
-}  // namespace kelvo
-
-namespace kelvo::KelvoSub {
-
-namespace {
-
-void requireComputable(const TmGrid& grid) {
-    if (!grid.computable()) raise(Fault::Overflow);
-}
-
-GridPoint gridOf(double Phi, double Lam, const TmGrid& grid) {
+TmParallel::TmParallel(const TmGrid& grid, double Phi)
+    : X0_(grid.projection().X0), Y0_(grid.projection().Y0), M0_(grid.M0()) {
     requireComputable(grid);
-    const Projection& p = grid.projection();
-    const double radian = degreeToRadian();
-    const double phi = Phi * radian;
-    const double S0 = p.S0;
-    const Powers<8> dl(Lam * radian - p.Lam0 * radian);
+    const double phi = Phi * KelvoSub::degreeToRadian();
+    const double S0 = grid.projection().S0;
 
     const double s = std::sin(finite(phi));
     const Powers<7> c(std::cos(phi));
     const Powers<6> t(quotient(s, c(1)));
     const Powers<4> h(c(2) * grid.ep2());  // the square of the usual eta
-    const double N = RadiusN(grid.a(), grid.e2(), phi);
+    const double N = KelvoSub::RadiusN(grid.a(), grid.e2(), phi);
     const double sN = s * N;
 
     const double P3 = 5 - t(2) + 9 * h(1) + 4 * h(2);
@@ -74,27 +70,35 @@ GridPoint gridOf(double Phi, double Lam, const TmGrid& grid) {
                       192 * t(2) * h(4);
     const double P5 = 1385 - 3111 * t(2) + 543 * t(4) - t(6);
 
-    const double T1 = grid.meridianArc(phi) * S0;
-    const double T2 = (sN * c(1) * S0) / 2;
-    const double T3 = (c(3) * sN * S0 * P3) / 24;
-    const double T4 = (c(5) * sN * S0 * P4) / 720;
-    const double T5 = (c(7) * sN * S0 * P5) / 40320;
-
-    const double X = (dl(2) * T2 + T1) + dl(4) * T3 + dl(6) * T4 + dl(8) * T5 - grid.M0() + p.X0;
+    T1_ = grid.meridianArc(phi) * S0;
+    T2_ = (sN * c(1) * S0) / 2;
+    T3_ = (c(3) * sN * S0 * P3) / 24;
+    T4_ = (c(5) * sN * S0 * P4) / 720;
+    T5_ = (c(7) * sN * S0 * P5) / 40320;
 
     const double P8 = 5 - 18 * t(2) + t(4) + 14 * h(1) - 58 * t(2) * h(1) + 13 * h(2) + 4 * h(3) -
                       64 * t(2) * h(2) - 24 * t(2) * h(3);
     const double P9 = 61 - 479 * t(2) + 179 * t(4) - t(6);
 
-    const double T6 = c(1) * N * S0;
-    const double T7 = (c(3) * N * S0 * (1 - t(2) + h(1))) / 6;
-    const double T8 = (c(5) * N * S0 * P8) / 120;
-    const double T9 = (c(7) * N * S0 * P9) / 5040;
+    T6_ = c(1) * N * S0;
+    T7_ = (c(3) * N * S0 * (1 - t(2) + h(1))) / 6;
+    T8_ = (c(5) * N * S0 * P8) / 120;
+    T9_ = (c(7) * N * S0 * P9) / 5040;
+}
 
-    const double Y = (T6 * dl(1) + p.Y0) + dl(3) * T7 + dl(5) * T8 + dl(7) * T9;
-
+GridPoint TmParallel::at(double Lam, double Lam0) const {
+    const double radian = KelvoSub::degreeToRadian();
+    const Powers<8> dl(Lam * radian - Lam0 * radian);
+    const double X = (dl(2) * T2_ + T1_) + dl(4) * T3_ + dl(6) * T4_ + dl(8) * T5_ - M0_ + X0_;
+    const double Y = (T6_ * dl(1) + Y0_) + dl(3) * T7_ + dl(5) * T8_ + dl(7) * T9_;
     return {.X = finite(X), .Y = finite(Y)};
 }
+
+}  // namespace kelvo
+
+namespace kelvo::KelvoSub {
+
+namespace {
 
 // The latitude whose meridian arc is S: exactly five passes, whatever the data.
 double footPointLatitude(const TmGrid& grid, double S) {
@@ -146,23 +150,30 @@ Position positionOf(double X, double Y, const Ellipsoid& ellipsoid, const Projec
     return {.Phi = finite(phi1 / radian), .Lam = finite(lam1 / radian)};
 }
 
-// The national grid, its central meridian by zone: 125, 127, 129 and so on, plus the shift.
-Projection nationalProjection(int zone, double shiftSeconds) {
-    return {.X0 = kNationalX0,
-            .Y0 = kNationalY0,
-            .Phi0 = 38.0,
-            .Lam0 = (2.0 * zone + 123) + shiftSeconds / 3600,
-            .S0 = 1.0};
-}
-
-TmGrid nationalGrid(int zone, double shiftSeconds) {
-    static const TmGrid grid(kBessel, nationalProjection(1, 0));
-    TmGrid ofZone = grid;
-    ofZone.setCentralMeridian(nationalProjection(zone, shiftSeconds).Lam0);
-    return ofZone;
+TmGrid nationalGridOf(int zone, double shiftSeconds) {
+    TmGrid grid = nationalGrid();
+    grid.setCentralMeridian(nationalMeridian(zone, shiftSeconds));
+    return grid;
 }
 
 }  // namespace
+
+const TmGrid& nationalGrid() {
+    static const TmGrid grid(
+        kBessel, {.X0 = 500000.0, .Y0 = 200000.0, .Phi0 = 38.0, .Lam0 = 127.0, .S0 = 1.0});
+    return grid;
+}
+
+int nationalZone(double Lam) {
+    int zone = 2;
+    if (Lam < 126.0) zone = 1;
+    if (Lam > 128.0) zone = 3;
+    return zone;
+}
+
+double nationalMeridian(int zone, double shiftSeconds) {
+    return (2.0 * zone + 123) + shiftSeconds / 3600;
+}
 
 double MeridianArc(double A, double B, double C, double D, double E, double phi) {
     return finite(A * phi - std::sin(phi + phi) * B + std::sin(4 * phi) * C -
@@ -176,7 +187,7 @@ GridPoint GeoToTM(double Phi, double Lam, const Ellipsoid& ellipsoid, const Proj
 
 GridPoint GeoToTM(double Phi, double Lam, const TmGrid& grid, MessageBoxes& messages) {
     try {
-        return gridOf(Phi, Lam, grid);
+        return TmParallel(grid, Phi).at(Lam, grid.projection().Lam0);
     } catch (const RuntimeFault&) {
         messages.tell(
             "직교좌표로 변환할 수 없는 데이터 입니다. 타원체 제원과 경위도를 확인후 다시 하십시오");
@@ -197,18 +208,14 @@ Position TMToGeo(double X, double Y, const Ellipsoid& ellipsoid, const Projectio
 
 GridPoint BesselToTM(double Phi, double Lam, int& zone, double shiftSeconds,
                      MessageBoxes& messages) {
-    if (zone < 1) {
-        zone = 2;
-        if (Lam < 126.0) zone = 1;
-        if (Lam > 128.0) zone = 3;
-    }
-    return GeoToTM(Phi, Lam, nationalGrid(zone, shiftSeconds), messages);
+    if (zone < 1) zone = nationalZone(Lam);
+    return GeoToTM(Phi, Lam, nationalGridOf(zone, shiftSeconds), messages);
 }
 
 Position TMToBessel(double X, double Y, int& zone, double shiftSeconds, MessageBoxes& messages) {
     if (zone < 1) zone = 1;
     if (zone > 3) zone = 3;
-    return TMToGeo(X, Y, kBessel, nationalProjection(zone, shiftSeconds), messages);
+    return TMToGeo(X, Y, kBessel, nationalGridOf(zone, shiftSeconds).projection(), messages);
 }
 
 void chkZone(double lam, std::int16_t& Zone, double& Lam0) {

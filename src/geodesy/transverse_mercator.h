@@ -71,15 +71,42 @@ private:
     bool computable_ = true;
 };
 
+// One parallel of latitude on a grid: the terms of the forward series that rest on the latitude
+// alone, computed once for all its points. Raises faults instead of showing messages.
+class TmParallel {
+public:
+    // Latitude in degrees.
+    TmParallel(const TmGrid& grid, double Phi);
+
+    // The point at a longitude, for a central meridian, both in degrees.
+    [[nodiscard]] GridPoint at(double Lam, double Lam0) const;
+
+private:
+    double X0_ = 0;
+    double Y0_ = 0;
+    double M0_ = 0;
+    double T1_ = 0;
+    double T2_ = 0;
+    double T3_ = 0;
+    double T4_ = 0;
+    double T5_ = 0;
+    double T6_ = 0;
+    double T7_ = 0;
+    double T8_ = 0;
+    double T9_ = 0;
+};
+
 // The seconds of arc by which the longitude of the Korean TM origins is raised: the difference
 // between the longitude of the old origin point and its later determination.
 inline constexpr double kOriginShiftSeconds = 10.405;
 
-// The origin of the national grid, metres.
-inline constexpr double kNationalX0 = 500000.0;
-inline constexpr double kNationalY0 = 200000.0;
-
 namespace KelvoSub {
+
+// The national grid on Bessel; its zone by longitude (126 and 128 belong to zone 2) and the
+// central meridian of a zone, 125, 127, 129 and so on, plus a shift in seconds of arc.
+[[nodiscard]] const TmGrid& nationalGrid();
+[[nodiscard]] int nationalZone(double Lam);
+[[nodiscard]] double nationalMeridian(int zone, double shiftSeconds);
 
 // Meridian arc from the equator, A phi - B sin 2phi + C sin 4phi - D sin 6phi + E sin 8phi;
 // phi in radians, coefficients and result in metres. Fault 6 where that overflows.
