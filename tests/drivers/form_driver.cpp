@@ -6,7 +6,9 @@
 #include <iostream>
 #include <new>
 #include <string>
+#include <vector>
 
+#include "cli/command_line.h"
 #include "common/run_time_fault.h"
 #include "drivers/form_script.h"
 #include "support/escape.h"
@@ -46,13 +48,14 @@ void drive(const std::string& name) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 2) {
+    const std::vector<std::string> arguments = argumentsOfProcess(argc, argv);
+    if (arguments.size() != 1) {
         std::fputs("usage: form_driver APP_FOLDER < script > transcript\n", stderr);
         return 2;
     }
     std::ios::sync_with_stdio(false);
     try {
-        drive(argv[1]);
+        drive(arguments.front());
     } catch (const RuntimeFault& fault) {
         print("fault|" + std::to_string(fault.number()) + "|" + testing::escaped(fault.text()));
         return 1;
