@@ -160,6 +160,7 @@ TEST_F(HostileContent, ARunStartsNoProgramAndOpensTwoFilesForWriting) {
     std::string written;
     int programs = 0;
     for (std::string line; std::getline(lines, line);) {
+        if (line.find(".profraw") != std::string::npos) continue;  // the compiler's own measuring
         if (line.find("O_WRONLY") != std::string::npos ||
             line.find("O_RDWR") != std::string::npos) {
             written += line.substr(line.find('"') + 1, line.rfind('"') - line.find('"') - 1) + "\n";
