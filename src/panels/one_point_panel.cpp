@@ -302,13 +302,18 @@ void OnePointPanel::cmdGP2TM_Click() {
     write(on_.txtBTH, TH, kWideHeight);
 }
 
-void OnePointPanel::cmdTM2GP_Click() {
-    BoxReader read(messages_);
+// The grid is read with the origin that stands in the boxes.
+Position OnePointPanel::positionOfTmBoxes(BoxReader& read) {
     const double Lam0 = shiftedLam0(read);
     const double X = read(on_.txtX);
     const double Y = read(on_.txtY);
     const Ellipsoid user = ellipsoidOf(read, para_.txta, para_.txtf);
-    const Position at = KelvoSub::TMToGeo(X, Y, user, tmOrigin(read, Lam0), messages_);
+    return KelvoSub::TMToGeo(X, Y, user, tmOrigin(read, Lam0), messages_);
+}
+
+void OnePointPanel::cmdTM2GP_Click() {
+    BoxReader read(messages_);
+    const Position at = positionOfTmBoxes(read);
 
     const std::string H = on_.txtH.text();
     const double NB = KelvoSub::GeoidHeightBessel(state_.conversion.datum.geoid, at.Phi, at.Lam);
@@ -328,11 +333,7 @@ void OnePointPanel::cmdTM2GP_Click() {
 
 void OnePointPanel::cmdTM2UTM_Click() {
     BoxReader read(messages_);
-    const double Lam0 = shiftedLam0(read);
-    const double X = read(on_.txtX);
-    const double Y = read(on_.txtY);
-    const Ellipsoid user = ellipsoidOf(read, para_.txta, para_.txtf);
-    const Position at = KelvoSub::TMToGeo(X, Y, user, tmOrigin(read, Lam0), messages_);
+    const Position at = positionOfTmBoxes(read);
 
     parameters_.followUtmZone(at.Lam);
     const Ellipsoid utm = ellipsoidOf(read, para_.txtUa, para_.txtUf);

@@ -59,6 +59,7 @@ private:
     [[nodiscard]] double shiftedLam0(BoxReader& read) const;
     [[nodiscard]] Projection tmOrigin(BoxReader& read, double Lam0) const;
     [[nodiscard]] Projection utmOrigin(BoxReader& read) const;
+    [[nodiscard]] Position positionOfTmBoxes(BoxReader& read);
 
     CoordinateControls on_;
     Control& frmeOne_;
