@@ -32,8 +32,10 @@ public:
 void RunBatch(ConversionState& state, const RunPlaces& places, RunView& view, Disk& disk,
               MessageBoxes& messages);
 
-// Writes the sample data file, which is the manual of the data-file language, replacing any
-// file of that name.
+// The sample data file, which is the manual of the data-file language.
+[[nodiscard]] std::string sampleDataText();
+
+// Writes it, replacing any file of that name as a whole.
 void WriteSampleData(Disk& disk, const std::string& path);
 
 }  // namespace kelvo

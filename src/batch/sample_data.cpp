@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "batch/run_batch.h"
+#include "common/text_constants.h"
 #include "common/text_file.h"
 
 namespace kelvo {
@@ -235,10 +236,14 @@ static_assert(kLines.size() == 213);
 
 }  // namespace
 
+std::string sampleDataText() {
+    std::string text;
+    for (const std::string_view line : kLines) text.append(line).append(kLineEnd);
+    return text;
+}
+
 void WriteSampleData(Disk& disk, const std::string& path) {
-    TextWriter file(disk, path);
-    for (const std::string_view line : kLines) file.line(line);
-    file.close();
+    replaceWholeText(disk, path, sampleDataText());
 }
 
 }  // namespace kelvo

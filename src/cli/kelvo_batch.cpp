@@ -98,7 +98,7 @@ int runAll(const CommandLine& line, const std::string& folder, StandardError& er
            ProgressBar& bar) {
     const bool several = line.dataFiles.size() > 1;
     const std::string detail = folder + kPathSeparator + "kelvo.det";
-    PlatformDisk disk;
+    PlatformDisk disk(Pipes::Wait);
     RunView noScreen;
     StandardErrorMessages messages(error, line.quiet);
 

@@ -14,6 +14,14 @@ namespace {
 constexpr std::size_t kWriteBuffer = 32768;
 constexpr int kEndOfFile = -1;
 
+void closeQuietly(ByteWriter& file) {
+    try {
+        file.close();
+    } catch (const RuntimeFault&) {
+        // Another fault is on its way; a late failure of this file adds nothing to it.
+    }
+}
+
 }  // namespace
 
 TextReader::TextReader(Disk& disk, const std::string& path) : file_(disk.openForReading(path)) {}
@@ -126,7 +134,7 @@ TextWriter::TextWriter(Disk& disk, const std::string& path, WriteMode mode)
 TextWriter::~TextWriter() {
     try {
         if (file_) close();
-    } catch (const RuntimeFault&) {
+    } catch (const std::exception&) {
         // Another fault is on its way; a late failure of this file adds nothing to it.
         file_.reset();
     }
@@ -148,7 +156,13 @@ void TextWriter::flush() {
 void TextWriter::close() {
     if (!file_) return;
     const std::unique_ptr<ByteWriter> file = std::exchange(file_, nullptr);
-    if (!buffer_.empty()) file->write(std::exchange(buffer_, {}));
+    try {
+        if (!buffer_.empty()) file->write(std::exchange(buffer_, {}));
+    } catch (const RuntimeFault&) {
+        // What did arrive stands.
+        closeQuietly(*file);
+        throw;
+    }
     file->close();
 }
 
