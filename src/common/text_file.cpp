@@ -166,16 +166,19 @@ void TextWriter::close() {
     file->close();
 }
 
-std::string readWholeText(Disk& disk, const std::string& path) {
+std::string readWholeFile(Disk& disk, const std::string& path, std::size_t largest) {
     const auto file = disk.openForReading(path);
     std::string bytes;
     std::array<char, 65536> buffer{};
     while (const std::size_t count = file->read(buffer)) {
         bytes.append(buffer.data(), count);
-        if (bytes.size() > kLargestText)
-            raise(Fault::Overflow, "파일이 너무 큽니다 (" + path + ")");
+        if (bytes.size() > largest) raise(Fault::Overflow, "파일이 너무 큽니다 (" + path + ")");
     }
+    return bytes;
+}
 
+std::string readWholeText(Disk& disk, const std::string& path) {
+    const std::string bytes = readWholeFile(disk, path);
     std::string text;
     text.reserve(bytes.size() + bytes.size() / 2);
     std::string_view rest = bytes;

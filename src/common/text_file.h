@@ -79,6 +79,10 @@ private:
 // The largest file that is held as a whole, in bytes; a larger one is fault 6.
 inline constexpr std::size_t kLargestText = 64U << 20U;
 
+// The bytes of a file as they stand; more than `largest` are fault 6.
+[[nodiscard]] std::string readWholeFile(Disk& disk, const std::string& path,
+                                        std::size_t largest = kLargestText);
+
 // The whole text of a file with every line end made CR LF, and a text put in place of a file.
 [[nodiscard]] std::string readWholeText(Disk& disk, const std::string& path);
 void replaceWholeText(Disk& disk, const std::string& path, std::string_view text);

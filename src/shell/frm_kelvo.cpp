@@ -73,8 +73,7 @@ struct frmKelvo::Members final : RunView {
     RecentFileList recent{state, window, menus, services.disk, services.messages};
     PointPictures pictures{settings, state, services};
     ResultViewer viewer{
-        viewerControls, settings.controls(), state, printMode, pictures, recent, cmd,
-        services.disk};
+        viewerControls, settings.controls(), state, printMode, pictures, recent, cmd, services};
     Printing printing{viewerControls, menus, printMode, viewer, pictures, cmd, state, services};
     FileMenu fileMenu{menus,  frmeOne, state,    viewer,
                       recent, cmd,     services, [this] { Form_Close(); }};
@@ -116,6 +115,7 @@ void frmKelvo::Members::Form_Close() {
     parameters.SaveCfg();
     writeCfgFile();
     settings.SavePcfgFile();
+    viewer.journal().keepNow();
     services.programEnd.end();
 }
 
@@ -153,6 +153,36 @@ void frmKelvo::Form_Close() {
 
 void frmKelvo::UpdateRecentFiles(const std::string& name) {
     members_->recent.UpdateRecentFiles(name);
+}
+
+bool frmKelvo::keepUnsavedText() {
+    return members_->viewer.journal().keepNow();
+}
+
+bool frmKelvo::textIsUnsaved() const {
+    return members_->viewer.journal().textIsUnsaved();
+}
+
+bool frmKelvo::canBringBackText() {
+    return members_->viewer.journal().canBringBack();
+}
+
+void frmKelvo::bringBackText() {
+    ResultViewer& viewer = members_->viewer;
+    viewer.journal().bringBack([&](const UnsavedText& text) { viewer.showUnsaved(text); });
+}
+
+std::optional<UnsavedText> frmKelvo::waitingText() {
+    return members_->viewer.journal().waiting();
+}
+
+void frmKelvo::bringBackWaitingText() {
+    ResultViewer& viewer = members_->viewer;
+    viewer.journal().bringBackWaiting([&](const UnsavedText& text) { viewer.showUnsaved(text); });
+}
+
+void frmKelvo::putWaitingTextAside() {
+    members_->viewer.journal().putWaitingAside();
 }
 
 void frmKelvo::PrintFile(const std::string& name) {

@@ -17,7 +17,7 @@ constexpr std::string_view kShowPicture = "그림보기";
 
 ResultViewer::ResultViewer(const ViewerControls& controls, const ScaleControls& scale,
                            ProgramState& state, PrintModePanel& printMode, PointPictures& pictures,
-                           RecentFileList& recent, CommonDialog& cmd, Disk& disk)
+                           RecentFileList& recent, CommonDialog& cmd, const Services& services)
     : on_(controls),
       scale_(scale),
       state_(state),
@@ -25,7 +25,13 @@ ResultViewer::ResultViewer(const ViewerControls& controls, const ScaleControls& 
       pictures_(pictures),
       recent_(recent),
       cmd_(cmd),
-      disk_(disk) {
+      disk_(services.disk),
+      journal_(services.journal, services.alarm, services.clock, [this] {
+          return UnsavedText{.path = fileName_, .text = on_.Richtxt.text(), .since = {}};
+      }) {
+    on_.Richtxt.onChange = [this] {
+        if (!loading_) journal_.changed();
+    };
     on_.cmdShow.onClick = [this] { cmdShow_Click(); };
     on_.cmdSave.onClick = [this] { cmdSave_Click(); };
     on_.cmdSaveAs.onClick = [this] { cmdSaveAs_Click(); };
@@ -41,8 +47,24 @@ void ResultViewer::showTextPanel() {
 
 void ResultViewer::load(const std::string& path) {
     const std::string text = readWholeText(disk_, path);
+    journal_.aboutToGo();
     fileName_ = path;
+    showText(text);
+    journal_.isInItsFile();
+}
+
+void ResultViewer::showText(const std::string& text) {
+    loading_ = true;
     on_.Richtxt.setText(text);
+    loading_ = false;
+}
+
+void ResultViewer::showUnsaved(const UnsavedText& text) {
+    showTextPanel();
+    on_.cmdShow.setEnabled(false);
+    on_.frmeFile.setCaption(text.path);
+    fileName_ = text.path;
+    showText(text.text);
 }
 
 void ResultViewer::OpenRichText(const std::string& Path) {
@@ -79,7 +101,7 @@ void ResultViewer::showRunResult() {
 }
 
 void ResultViewer::cmdSave_Click() {
-    replaceWholeText(disk_, fileName_, on_.Richtxt.text());
+    saveUnder(fileName_);
     on_.frmeFile.setVisible(false);
     printMode_.showWhatWasShown();
 }
@@ -97,19 +119,25 @@ void ResultViewer::cmdSaveAs_Click() {
         if (fault.fault() != Fault::DialogCancelled) throw;
         return;
     }
-    replaceWholeText(disk_, name, on_.Richtxt.text());
+    saveUnder(name);
     OpenRichText(name);
     if (upperCased(genSub::FileExtensionOf(name)) == "DAT") recent_.UpdateRecentFiles(name);
 }
 
+void ResultViewer::saveUnder(const std::string& path) {
+    saveCopy(path);
+    journal_.isInItsFile();
+}
+
 void ResultViewer::cmdClose_Click() {
+    journal_.aboutToGo();
     on_.frmeFile.setVisible(false);
 }
 
 void ResultViewer::saveAndHide(const std::string& name) {
     on_.Richtxt.setVisible(false);
     fileName_ = name;
-    saveCopy(name);
+    saveUnder(name);
 }
 
 void ResultViewer::saveCopy(const std::string& name) {
