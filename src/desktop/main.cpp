@@ -11,6 +11,7 @@
 #include <cstdio>
 
 #include "common/application_folder.h"
+#include "desktop/end_signals.h"
 #include "desktop/fault_report.h"
 #include "desktop/look_of_window.h"
 #include "desktop/main_window.h"
@@ -32,7 +33,7 @@ void provideHelpFile(const QString& folder) {
 
 int reportStart(const RuntimeFault& fault) {
     QMessageBox::critical(nullptr, QStringLiteral("Kelvo"),
-                          faultReport(fault.number(), fault.text(), {}, false));
+                          faultReport(fault.number(), fault.text(), {}));
     return 1;
 }
 
@@ -89,6 +90,11 @@ int main(int argc, char** argv) {
 
         MainWindow window(folder);
         if (!window.start()) return 1;
+        const EndSignals endSignals;
+        QObject::connect(&endSignals, &EndSignals::endWanted, &window,
+                         &MainWindow::endWithoutAsking);
+        QObject::connect(&application, &QGuiApplication::commitDataRequest, &window,
+                         &MainWindow::prepareForTheEnd);
         if (!dataFile.isEmpty()) window.openDataFile(dataFile);
         if (window.gate().isClosed()) return 1;
         return QApplication::exec();

@@ -4,7 +4,6 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
-#include <QFile>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QSettings>
@@ -12,8 +11,6 @@
 #include <QToolButton>
 #include <cmath>
 
-#include "common/code_page.h"
-#include "desktop/fault_report.h"
 #include "desktop/text_viewer.h"
 
 namespace kelvo::desktop {
@@ -35,13 +32,15 @@ QString droppedDataFile(const QMimeData* data) {
 
 MainWindow::MainWindow(const std::string& applicationFolder)
     : applicationFolder_(applicationFolder),
-      lock_(qt(applicationFolder)),
       messages_(dialogParent_),
-      dialogs_(dialogParent_, [this]() -> QPrinter& { return systemPrinter(); }) {
+      dialogs_(dialogParent_, [this]() -> QPrinter& { return systemPrinter(); }),
+      alarm_(gate_),
+      journal_(applicationFolder),
+      unsavedTextBar_(new UnsavedTextBar(this)) {
     setObjectName(QStringLiteral("frmKelvo"));
     setAccessibleDescription(QStringLiteral("frmKelvo"));
     setAcceptDrops(true);
-    dialogParent_ = {this, &lock_};
+    dialogParent_.window = this;
     gate_.before = [this](EventGate::Event event) { beforeEvent(event); };
     gate_.after = [this](EventGate::Event event) { afterEvent(event); };
     gate_.onFault = [this](int number, const std::string& text) { reportFault(number, text); };
@@ -56,7 +55,9 @@ MainWindow::MainWindow(const std::string& applicationFolder)
                                                                       .screen = primaryScreen_,
                                                                       .pointer = pointer_,
                                                                       .surfaces = *this,
-                                                                      .programEnd = end_});
+                                                                      .programEnd = end_,
+                                                                      .alarm = alarm_,
+                                                                      .journal = journal_});
     stage_ = new PanelStage;
     setCentralWidget(stage_);
     book_ = std::make_unique<WidgetBook>(program_->form(), gate_, *menuBar(), stage_);
@@ -64,6 +65,7 @@ MainWindow::MainWindow(const std::string& applicationFolder)
     bindWindow();
     addShortcuts();
     addThemeButton();
+    watchUnsavedText();
 }
 
 MainWindow::~MainWindow() {
@@ -85,7 +87,8 @@ void MainWindow::buildPanels() {
 
     filePanel_.panel->installEventFilter(this);
     filePanel_.path->setText(filePanel_.panel->property("caption").toString());
-    connect(book_->viewer(), &TextViewer::modifiedChanged, this, [this] { showUnsavedMark(); });
+    connect(book_->viewer(), &TextViewer::modifiedChanged, filePanel_.unsavedMark,
+            &QWidget::setVisible);
     connect(book_->plotView(), &PlotView::saveFailed, this, [this](const QString& path) {
         messages_.show(
             {.text = (path + QStringLiteral(" 파일을 저장할 수 없습니다.")).toStdString(),
@@ -143,6 +146,7 @@ void MainWindow::addThemeButton() {
 bool MainWindow::start() {
     gate_.run([this] { Main(*program_); });
     if (gate_.isClosed()) return false;
+    offerUnsavedText();
     show();
     return true;
 }
@@ -158,11 +162,13 @@ void MainWindow::openDataFile(const QString& path) {
 void MainWindow::beforeEvent(EventGate::Event event) {
     if (event == EventGate::Event::Typing) return;
     book_->takeViewerText();
-    lock_.take();
 }
 
-void MainWindow::afterEvent(EventGate::Event event) {
-    if (event == EventGate::Event::Command) lock_.release();
+void MainWindow::afterEvent(EventGate::Event /*event*/) {
+    if (dialogParent_.nobodyAnswers && !end_.hasEnded()) {
+        // The end was wanted while this event was on its way.
+        QMetaObject::invokeMethod(this, &MainWindow::endWithoutAsking, Qt::QueuedConnection);
+    }
     if (end_.hasEnded()) {
         gate_.close();
         QApplication::exit(0);
@@ -173,20 +179,12 @@ void MainWindow::afterEvent(EventGate::Event event) {
     if (paper_.sheetsAreWaiting()) printWaitingSheets();
 }
 
-bool MainWindow::textIsSaved() const {
-    QFile file(filePanel_.path->text());
-    if (!file.open(QIODevice::ReadOnly)) return false;
-    const std::string bytes = encodeCodePage(book_->viewer()->text());
-    if (file.size() != static_cast<qint64>(bytes.size())) return false;
-    return file.readAll() ==
-           QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
-}
-
 // The mark says that the text differs from the file it came from; nothing is ever asked.
 void MainWindow::showUnsavedMark() {
     TextViewer* viewer = book_->viewer();
-    if (viewer->isModified() && !viewer->hasUntakenText() && textIsSaved()) {
-        viewer->setModified(false);
+    if (!viewer->hasUntakenText()) {
+        const bool unsaved = program_->textIsUnsaved();
+        if (viewer->isModified() != unsaved) viewer->setModified(unsaved);
     }
     filePanel_.unsavedMark->setVisible(viewer->isModified());
 }

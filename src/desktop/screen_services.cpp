@@ -14,7 +14,6 @@
 #include <QScreen>
 #include <algorithm>
 #include <array>
-#include <chrono>
 
 #include "desktop/paper_surface.h"
 #include "desktop/widget_book.h"
@@ -25,22 +24,13 @@ namespace {
 
 constexpr double kTwipsPerPixel = 15;
 
-// While a box waits for its answer the pointer is free and so is the application folder.
+// While a box waits for its answer the pointer is free.
 class Waiting {
 public:
-    explicit Waiting(const DialogParent& parent) : parent_(parent) {
-        QGuiApplication::setOverrideCursor(Qt::ArrowCursor);
-        if (parent_.lock != nullptr) parent_.lock->release();
-    }
-    ~Waiting() {
-        if (parent_.lock != nullptr) parent_.lock->take();
-        QGuiApplication::restoreOverrideCursor();
-    }
+    Waiting() { QGuiApplication::setOverrideCursor(Qt::ArrowCursor); }
+    ~Waiting() { QGuiApplication::restoreOverrideCursor(); }
     Waiting(const Waiting&) = delete;
     Waiting& operator=(const Waiting&) = delete;
-
-private:
-    const DialogParent& parent_;
 };
 
 QMessageBox::Icon iconOf(Icon icon) {
@@ -71,20 +61,9 @@ QMessageBox::StandardButtons buttonsOf(Buttons buttons) {
 
 }  // namespace
 
-FolderLock::FolderLock(const QString& folder) : file_(QDir(folder).filePath("kelvo.lock")) {
-    file_.setStaleLockTime(std::chrono::seconds(30));
-}
-
-// After a while the work goes on without it: a lock that nobody gives back must not stop anyone.
-void FolderLock::take() {
-    file_.tryLock(std::chrono::seconds(3));
-}
-void FolderLock::release() {
-    file_.unlock();
-}
-
 Answer ScreenMessages::show(const Message& message) {
-    const Waiting waiting(parent_);
+    if (parent_.nobodyAnswers) return message.buttons == Buttons::Ok ? Answer::Ok : Answer::Cancel;
+    const Waiting waiting;
     QString text = qt(message.text);
     text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     QMessageBox box(iconOf(message.icon), qt(message.title), text, buttonsOf(message.buttons),
@@ -137,7 +116,8 @@ std::optional<std::string> ScreenDialogs::show(DialogKind kind,
         chosen_.pop_front();
         return path;
     }
-    const Waiting waiting(parent_);
+    if (parent_.nobodyAnswers) return std::nullopt;
+    const Waiting waiting;
     QFileDialog dialog(parent_.window, qt(properties.title));
     const bool saving = kind == DialogKind::Save;
     dialog.setAcceptMode(saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
@@ -177,7 +157,8 @@ std::optional<std::string> ScreenDialogs::show(DialogKind kind,
 }
 
 std::optional<std::string> ScreenDialogs::showPrinterDialog() {
-    const Waiting waiting(parent_);
+    if (parent_.nobodyAnswers) return std::nullopt;
+    const Waiting waiting;
     QPrintDialog dialog(&printer_(), parent_.window);
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     return printer_().printerName().toStdString();

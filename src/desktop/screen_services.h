@@ -1,7 +1,6 @@
 // The services of the form on a real desktop: boxes, dialogs, programs, clock, screen.
 #pragma once
 
-#include <QLockFile>
 #include <QPrinter>
 #include <QWidget>
 #include <deque>
@@ -12,23 +11,10 @@
 
 namespace kelvo::desktop {
 
-// Two programs on one application folder take turns: one that is at work holds this lock, and
-// lets it go while it waits for an answer of its user.
-class FolderLock {
-public:
-    explicit FolderLock(const QString& folder);
-
-    void take();
-    void release();
-
-private:
-    QLockFile file_;
-};
-
 // The window that boxes belong to; it exists only after its services.
 struct DialogParent {
     QWidget* window = nullptr;
-    FolderLock* lock = nullptr;
+    bool nobodyAnswers = false;  // the session ends: questions are cancelled, nothing is shown
 };
 
 class ScreenMessages final : public MessageBoxes {

@@ -42,6 +42,7 @@ struct frmKelvo::Members final : RunView {
     }
 
     void Form_Load();
+    void saveSettings();
     void Form_Close();
     void mnuBatchGo_Click();
 
@@ -111,10 +112,14 @@ void frmKelvo::Members::Form_Load() {
     state.conversion.ParaDirty = true;
 }
 
-void frmKelvo::Members::Form_Close() {
+void frmKelvo::Members::saveSettings() {
     parameters.SaveCfg();
     writeCfgFile();
     settings.SavePcfgFile();
+}
+
+void frmKelvo::Members::Form_Close() {
+    saveSettings();
     viewer.journal().keepNow();
     services.programEnd.end();
 }
@@ -153,6 +158,14 @@ void frmKelvo::Form_Close() {
 
 void frmKelvo::UpdateRecentFiles(const std::string& name) {
     members_->recent.UpdateRecentFiles(name);
+}
+
+void frmKelvo::saveSettings() {
+    members_->saveSettings();
+}
+
+UnsavedText frmKelvo::textOnView() const {
+    return members_->viewer.journal().onView();
 }
 
 bool frmKelvo::keepUnsavedText() {

@@ -35,6 +35,9 @@ public:
     // holds no number is fault 13, and the program isn't ended.
     void Form_Close();
 
+    // The parameters and plot settings to their files, as at the end. Faults as Form_Close.
+    void saveSettings();
+
     // Prints a text file in the mode of the print mode panel.
     void PrintFile(const std::string& name);
 
@@ -42,6 +45,9 @@ public:
     void UpdateRecentFiles(const std::string& name);
 
     // The text in the viewer, and what became of those that had to leave it without being saved.
+
+    // The text on view and the file it belongs to.
+    [[nodiscard]] UnsavedText textOnView() const;
 
     // True if the text on view differs from that of its file.
     [[nodiscard]] bool textIsUnsaved() const;

@@ -34,6 +34,9 @@ public:
     // Keeps at once what is unsaved on view. False if that failed.
     bool keepNow();
 
+    // The text on view, now.
+    [[nodiscard]] UnsavedText onView() const;
+
     // True if the text on view differs from that of its file.
     [[nodiscard]] bool textIsUnsaved() const;
 
@@ -50,7 +53,6 @@ public:
     void putWaitingAside();  // it can still be brought back, unless another one can already
 
 private:
-    [[nodiscard]] UnsavedText onView() const;
     [[nodiscard]] bool showUnsaved(const UnsavedText& text, const Show& show);
     void discard(UnsavedText text);
     void lookForOlder();
