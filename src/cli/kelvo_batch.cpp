@@ -11,6 +11,8 @@
 #include "common/disk.h"
 #include "common/paths.h"
 #include "common/run_time_fault.h"
+#include "common/shown_line.h"
+#include "common/standard_streams.h"
 
 #ifdef _WIN32
 #include <windows.h>
@@ -30,16 +32,19 @@ void print(std::FILE* stream, const std::string& text) {
     std::fwrite(text.data(), 1, text.size(), stream);
 }
 
+// Of a line that begins with the name of its data file.
+constexpr std::size_t kLongestPrefix = 500;
+
 // Lines of standard error, each behind the name of its data file if there are several.
 class StandardError {
 public:
     explicit StandardError(ProgressBar& bar) : bar_(bar) {}
 
-    void setPrefix(std::string prefix) { prefix_ = std::move(prefix); }
+    void setName(const std::string& name) { prefix_ = shownLine(name, kLongestPrefix) + ": "; }
 
     void line(const std::string& text) {
         bar_.clear();
-        print(stderr, prefix_ + text + "\n");
+        print(stderr, prefix_ + shownLine(text, kLongestShownLine - prefix_.size()) + "\n");
     }
 
 private:
@@ -107,7 +112,7 @@ int runAll(const CommandLine& line, const std::string& folder, StandardError& er
     std::size_t done = 0;
     for (const std::string& data : line.dataFiles) {
         bar.show(done++, data);
-        if (several) error.setPrefix(data + ": ");
+        if (several) error.setName(data);
         const RunPlaces places{.dataFile = data,
                                .detPath = several ? detailBeside(data) : detail,
                                .CorPath = folder + kPathSeparator + "kelvo.cor"};
@@ -125,12 +130,13 @@ int runAll(const CommandLine& line, const std::string& folder, StandardError& er
 }  // namespace
 
 int main(int argc, char** argv) {
+    secureStandardStreams();
 #ifdef _WIN32
     SetConsoleOutputCP(CP_UTF8);
 #endif
     const CommandLineReading reading = readCommandLine(argumentsOfProcess(argc, argv));
     if (!reading.line) {
-        print(stderr, "kelvo-batch: " + reading.complaint + "\n" + usageText());
+        print(stderr, shownLine("kelvo-batch: " + reading.complaint) + "\n" + usageText());
         return kWrongUsage;
     }
     const CommandLine& line = *reading.line;

@@ -3,13 +3,14 @@
 #include <QDir>
 #include <QStringList>
 
+#include "common/shown_line.h"
 #include "desktop/widget_book.h"
 
 namespace kelvo::desktop {
 
 QString faultReport(int number, const std::string& text, const Rescued& rescued) {
     QStringList lines;
-    lines << QStringLiteral("오류 %1").arg(number) << qt(text) << QString()
+    lines << QStringLiteral("오류 %1").arg(number) << qt(shownLine(text)) << QString()
           << QStringLiteral("프로그램을 끝냅니다.") << QString()
           << QStringLiteral(
                  "· 결과 파일(*.out, kelvo.det)은 오류가 나기 전까지 쓴 데까지 남아 있습니다.")

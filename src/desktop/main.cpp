@@ -11,6 +11,7 @@
 #include <cstdio>
 
 #include "common/application_folder.h"
+#include "common/standard_streams.h"
 #include "desktop/end_signals.h"
 #include "desktop/fault_report.h"
 #include "desktop/look_of_window.h"
@@ -40,6 +41,7 @@ int reportStart(const RuntimeFault& fault) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    secureStandardStreams();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("kelvo"));
     QApplication::setApplicationDisplayName(QStringLiteral("Kelvo"));

@@ -15,6 +15,7 @@
 #include <algorithm>
 #include <array>
 
+#include "common/shown_line.h"
 #include "desktop/paper_surface.h"
 #include "desktop/widget_book.h"
 
@@ -64,8 +65,7 @@ QMessageBox::StandardButtons buttonsOf(Buttons buttons) {
 Answer ScreenMessages::show(const Message& message) {
     if (parent_.nobodyAnswers) return message.buttons == Buttons::Ok ? Answer::Ok : Answer::Cancel;
     const Waiting waiting;
-    QString text = qt(message.text);
-    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    const QString text = boxText(message.text);
     QMessageBox box(iconOf(message.icon), qt(message.title), text, buttonsOf(message.buttons),
                     parent_.window);
     box.setTextFormat(Qt::PlainText);
@@ -89,6 +89,13 @@ Answer ScreenMessages::show(const Message& message) {
         default:
             return message.buttons == Buttons::Ok ? Answer::Ok : Answer::Cancel;
     }
+}
+
+QString boxText(const std::string& text) {
+    QStringList lines;
+    for (const QString& line : qt(text).split(QStringLiteral("\r\n")))
+        lines << qt(shownLine(line.toStdString()));
+    return lines.join(QLatin1Char('\n'));
 }
 
 QStringList qtFilters(const std::string& filter) {

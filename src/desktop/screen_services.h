@@ -86,6 +86,10 @@ private:
     bool ended_ = false;
 };
 
+// A text with CR LF line ends as a box shows it: no line longer than can be read, nothing in it
+// that isn't seen.
+[[nodiscard]] QString boxText(const std::string& text);
+
 // "Data Files (*.dat)|*.dat|All Files (*.*)|*.*" as a list of Qt's filters.
 [[nodiscard]] QStringList qtFilters(const std::string& filter);
 

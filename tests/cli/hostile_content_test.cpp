@@ -139,6 +139,24 @@ TEST_F(HostileContent, NothingInAFileReachesAnotherFile) {
     EXPECT_EQ(folder.bytes("a.dat"), data + kEnd);
 }
 
+TEST_F(HostileContent, LinesOfTheProgramAreShortAndSteerNoTerminal) {
+    const auto check = [](const ProgramRun& ended, int exitCode) {
+        EXPECT_EQ(ended.exitCode, exitCode);
+        EXPECT_EQ(ended.err.find('\x1b'), std::string::npos);
+        std::istringstream lines(ended.err);
+        for (std::string line; std::getline(lines, line);) EXPECT_LT(line.size(), 2000U);
+    };
+    const std::string name = "a\x1b[2J" + std::string(200, 'x') + ".dat";
+    check(run(folder.file(name)), 1);
+    check(run("--\x1b[2J"), 2);
+    check(run(folder.path() + std::string(20'000, '/') + "\x1b[2J"), 1);
+
+    // A name of 15 MB in a fault.
+    const std::string point = "p\x1b[2J" + std::string(15'000'000, 'n');
+    folder.put("a.dat", "INPUT deg\r\nWGS " + point + " 1e308 1e308 1e308\r\nend\r\n\r\n");
+    check(run(folder.file("a.dat")), 1);
+}
+
 TEST_F(HostileContent, ARunStartsNoProgramAndPutsTwoFilesInPlace) {
     const std::string tracer = "/usr/bin/strace";
     const std::string calls = folder.file("calls");

@@ -10,6 +10,8 @@
 
 #include "cli/command_line.h"
 #include "common/run_time_fault.h"
+#include "common/shown_line.h"
+#include "common/standard_streams.h"
 #include "drivers/form_script.h"
 #include "support/escape.h"
 
@@ -48,6 +50,7 @@ void drive(const std::string& name) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    secureStandardStreams();
     const std::vector<std::string> arguments = argumentsOfProcess(argc, argv);
     if (arguments.size() != 1) {
         std::fputs("usage: form_driver APP_FOLDER < script > transcript\n", stderr);
@@ -57,7 +60,8 @@ int main(int argc, char** argv) {
     try {
         drive(arguments.front());
     } catch (const RuntimeFault& fault) {
-        print("fault|" + std::to_string(fault.number()) + "|" + testing::escaped(fault.text()));
+        print("fault|" + std::to_string(fault.number()) + "|" +
+              testing::escaped(shownLine(fault.text())));
         return 1;
     } catch (const std::bad_alloc&) {
         print("fault|7|메모리가 모자랍니다");
