@@ -3,18 +3,13 @@
 #include "batch/batch_run.h"
 #include "batch/run_commands.h"
 #include "batch/run_notes.h"
+#include "common/file_sharing.h"
 #include "common/paths.h"
 #include "common/run_time_fault.h"
 
 namespace kelvo {
 
 namespace {
-
-// A name that would make a run empty a file it is about to read is refused as one already open.
-void refuseIfSame(Disk& disk, const std::string& written, const std::string& read) {
-    if (disk.sameFile(written, read))
-        raise(Fault::FileAlreadyOpen, "파일이 이미 열려 있습니다 (" + written + ")");
-}
 
 void runCommands(BatchRun& run) {
     run.readLine();
@@ -40,13 +35,10 @@ void RunBatch(ConversionState& state, const RunPlaces& places, RunView& view, Di
 
     const std::string outPath = resultFileOf(places.dataFile);
     TextReader data(disk, places.dataFile);
-    refuseIfSame(disk, outPath, places.dataFile);
-    refuseIfSame(disk, outPath, places.CorPath);
+    refuseSharedFiles(disk, {outPath, places.detPath}, {places.dataFile, places.CorPath});
     TextWriter out(disk, outPath);
-    refuseIfSame(disk, places.detPath, places.dataFile);
-    refuseIfSame(disk, places.detPath, places.CorPath);
-    refuseIfSame(disk, places.detPath, outPath);
     TextWriter det(disk, places.detPath);
+    view.detailIsOpen();
 
     state.ParaDirty = true;
     BatchRun run{.state = state,

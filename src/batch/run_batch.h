@@ -20,8 +20,9 @@ struct RunPlaces {
 class RunView {
 public:
     virtual ~RunView() = default;
-    virtual void runBegins() {}   // the one-point panel goes out of the way
-    virtual void showResult() {}  // the result file comes into the viewer
+    virtual void runBegins() {}     // the one-point panel goes out of the way
+    virtual void detailIsOpen() {}  // from here on a fault, too, leaves a detail file of this run
+    virtual void showResult() {}    // the result file comes into the viewer
 };
 
 // The name of the result file of a data file.

@@ -2,11 +2,13 @@
 #include <cstdio>
 #include <memory>
 #include <new>
+#include <set>
 #include <string>
 
 #include "batch/run_batch.h"
 #include "cli/command_line.h"
 #include "cli/progress_bar.h"
+#include "cli/shared_files.h"
 #include "common/application_folder.h"
 #include "common/disk.h"
 #include "common/paths.h"
@@ -30,6 +32,10 @@ constexpr std::size_t kManyFiles = 5;  // from so many on a progress bar is wort
 
 void print(std::FILE* stream, const std::string& text) {
     std::fwrite(text.data(), 1, text.size(), stream);
+}
+
+void printUsage(const std::string& complaint) {
+    print(stderr, shownLine("kelvo-batch: " + complaint) + "\n" + usageText());
 }
 
 // Of a line that begins with the name of its data file.
@@ -94,8 +100,22 @@ void copyFile(Disk& disk, const std::string& from, const std::string& to) {
     target->close();
 }
 
-std::string detailBeside(const std::string& data) {
-    return genSub::StripExtension(data) + ".det";
+// Sees whether a run came so far that its detail file is of this run.
+class DetailWatch final : public RunView {
+public:
+    void detailIsOpen() override { isOpen = true; }
+
+    bool isOpen = false;
+};
+
+// What killed programs left beside the files of this call.
+void tidyUp(Disk& disk, const CommandLine& line, const std::string& folder) {
+    std::set<std::string> folders{folder};
+    for (const std::string& data : line.dataFiles) {
+        const std::size_t separator = data.rfind(kPathSeparator);
+        folders.insert(separator == std::string::npos ? "." : data.substr(0, separator + 1));
+    }
+    for (const std::string& name : folders) disk.tidy(name);
 }
 
 // Every file is a run of its own: nothing of one shows in another.
@@ -103,27 +123,31 @@ int runAll(const CommandLine& line, const std::string& folder, StandardError& er
            ProgressBar& bar) {
     const bool several = line.dataFiles.size() > 1;
     const std::string detail = folder + kPathSeparator + "kelvo.det";
+    const std::string known = folder + kPathSeparator + "kelvo.cor";
     PlatformDisk disk(Pipes::Wait);
-    RunView noScreen;
     StandardErrorMessages messages(error, line.quiet);
+    if (const auto complaint = complaintAboutSharedFiles(disk, line.dataFiles, detail, known)) {
+        printUsage(*complaint);
+        return kWrongUsage;
+    }
+    tidyUp(disk, line, folder);
 
     bool good = true;
-    bool lastEnded = false;
+    DetailWatch last;
     std::size_t done = 0;
     for (const std::string& data : line.dataFiles) {
         bar.show(done++, data);
         if (several) error.setName(data);
-        const RunPlaces places{.dataFile = data,
-                               .detPath = several ? detailBeside(data) : detail,
-                               .CorPath = folder + kPathSeparator + "kelvo.cor"};
+        const RunPlaces places{
+            .dataFile = data, .detPath = several ? detailBeside(data) : detail, .CorPath = known};
         const auto state = std::make_unique<ConversionState>();
-        lastEnded = ends([&] { RunBatch(*state, places, noScreen, disk, messages); }, error);
-        good &= lastEnded;
+        last = {};
+        good &= ends([&] { RunBatch(*state, places, last, disk, messages); }, error);
     }
-    // As ever, kelvo.det tells of the last run.
-    const std::string last = detailBeside(line.dataFiles.back());
-    if (several && lastEnded && !disk.sameFile(last, detail))
-        good &= ends([&] { copyFile(disk, last, detail); }, error);
+    // As ever, kelvo.det tells of the last run, also where a fault ended it.
+    const std::string lastDetail = detailBeside(line.dataFiles.back());
+    if (several && last.isOpen && !disk.sameFile(lastDetail, detail))
+        good &= ends([&] { copyFile(disk, lastDetail, detail); }, error);
     return good ? kRunEnded : kRunTimeFault;
 }
 
@@ -136,7 +160,7 @@ int main(int argc, char** argv) {
 #endif
     const CommandLineReading reading = readCommandLine(argumentsOfProcess(argc, argv));
     if (!reading.line) {
-        print(stderr, shownLine("kelvo-batch: " + reading.complaint) + "\n" + usageText());
+        printUsage(reading.complaint);
         return kWrongUsage;
     }
     const CommandLine& line = *reading.line;

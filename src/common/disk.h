@@ -64,9 +64,10 @@ public:
     // True if both names lead to the same existing file, or to the same folder.
     virtual bool sameFile(const std::string& one, const std::string& other) = 0;
 
-    // True if what is written under one name would be read under the other: the same file, or the
-    // same place where no file is yet.
-    virtual bool samePlace(const std::string& one, const std::string& other) = 0;
+    // What tells files apart: one and the same for all names that lead to one file (spellings,
+    // links), also where no file is yet. What is written under one name is read under another if
+    // both are at one place.
+    virtual std::string placeOf(const std::string& path) = 0;
 
     // Ends in a folder what programs that were killed while they wrote have left there. Nothing
     // that belongs to a program still running is touched; what fails is left for another time.
@@ -98,7 +99,7 @@ public:
     void replace(const std::string& path, std::string_view bytes) override;
     void rename(const std::string& from, const std::string& to) override;
     bool sameFile(const std::string& one, const std::string& other) override;
-    bool samePlace(const std::string& one, const std::string& other) override;
+    std::string placeOf(const std::string& path) override;
     void tidy(const std::string& folder) override;
     std::unique_ptr<Turn> takeTurn(const std::string& folder) override;
     std::string currentFolder() override;

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -84,6 +85,9 @@ public:
     FileHandle openForAppending(const std::filesystem::path& path);
     // At most so many bytes into the buffer; how many, 0 at the end.
     std::int64_t read(FileHandle file, char* buffer, std::size_t size);
+
+    // What a file or folder has to itself, whatever its name; nothing if it isn't there.
+    [[nodiscard]] std::optional<std::string> identityOf(const std::filesystem::path& path) const;
 
     // Removes a file that createNew made and that no program has open any more.
     void removeLeftover(const std::filesystem::path& path);

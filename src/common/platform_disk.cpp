@@ -96,10 +96,6 @@ bool areOneFile(const fs::path& one, const fs::path& other) {
     return fs::equivalent(one, other, error) && !error;
 }
 
-fs::path folderOf(const fs::path& path) {
-    return path.has_parent_path() ? path.parent_path() : fs::path(".");
-}
-
 // Found out from any file in it whose name has letters.
 bool ignoresCase(const fs::path& folder) {
     if (kFileNamesIgnoreCase) return true;
@@ -162,17 +158,15 @@ bool PlatformDisk::sameFile(const std::string& one, const std::string& other) {
     return areOneFile(pathOf(one), pathOf(other));
 }
 
-bool PlatformDisk::samePlace(const std::string& one, const std::string& other) {
-    const fs::path first = behindLinks(pathOf(one));
-    const fs::path second = behindLinks(pathOf(other));
-    std::error_code ignored;
-    const bool firstIsThere = fs::exists(first, ignored);
-    if (firstIsThere != fs::exists(second, ignored)) return false;
-    if (firstIsThere) return areOneFile(first, second);
-    if (!areOneFile(folderOf(first), folderOf(second))) return false;
-    const std::string name = textOf(first.filename());
-    const std::string otherName = textOf(second.filename());
-    return name == otherName || (sameIgnoringCase(name, otherName) && ignoresCase(folderOf(first)));
+std::string PlatformDisk::placeOf(const std::string& path) {
+    const SystemFileCalls calls;
+    const fs::path file = behindLinks(pathOf(path));
+    if (auto identity = calls.identityOf(file)) return *identity;
+    const fs::path folder = file.has_parent_path() ? file.parent_path() : fs::path(".");
+    const std::string name = textOf(file.filename());
+    const auto identity = calls.identityOf(folder);
+    if (!identity) return textOf(file);
+    return *identity + "/" + (ignoresCase(folder) ? upperCased(name) : name);
 }
 
 void PlatformDisk::tidy(const std::string& folder) {

@@ -248,6 +248,12 @@ int SystemFileCalls::remove(const fs::path& path) {
     return unlink(path.c_str()) == 0 ? 0 : -errno;
 }
 
+std::optional<std::string> SystemFileCalls::identityOf(const fs::path& path) const {
+    struct stat status {};
+    if (stat(path.c_str(), &status) != 0) return std::nullopt;
+    return std::to_string(status.st_dev) + ":" + std::to_string(status.st_ino);
+}
+
 bool SystemFileCalls::isLeftover(const fs::path& path) {
     struct stat status {};
     if (lstat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode) || status.st_uid != geteuid())

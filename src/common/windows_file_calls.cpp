@@ -155,6 +155,20 @@ int SystemFileCalls::remove(const fs::path& path) {
     return DeleteFileW(path.c_str()) != 0 ? 0 : lastError();
 }
 
+std::optional<std::string> SystemFileCalls::identityOf(const fs::path& path) const {
+    constexpr DWORD kAllMayUseIt = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    const HANDLE file = CreateFileW(path.c_str(), 0, kAllMayUseIt, nullptr, OPEN_EXISTING,
+                                    FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    if (file == INVALID_HANDLE_VALUE) return std::nullopt;
+    BY_HANDLE_FILE_INFORMATION information{};
+    const bool known = GetFileInformationByHandle(file, &information) != 0;
+    CloseHandle(file);
+    if (!known) return std::nullopt;
+    return std::to_string(information.dwVolumeSerialNumber) + ":" +
+           std::to_string(information.nFileIndexHigh) + ":" +
+           std::to_string(information.nFileIndexLow);
+}
+
 bool SystemFileCalls::isLeftover(const fs::path& path) {
     // A program that still writes it doesn't share it with one that wants it alone.
     const HANDLE file = CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING,

@@ -89,12 +89,12 @@ TEST(PlatformDisk, KnowsOnePlaceAlsoWhereNothingIsYet) {
     folder.put("a", "x");
     fs::create_symlink("b", folder.file("to b"));
     fs::create_directory_symlink(folder.path(), folder.file("here"));
-    EXPECT_TRUE(disk.samePlace(folder.file("a"), folder.file("here/./a")));
-    EXPECT_TRUE(disk.samePlace(folder.file("b"), folder.file("here/b")));
-    EXPECT_TRUE(disk.samePlace(folder.file("b"), folder.file("to b")));
-    EXPECT_FALSE(disk.samePlace(folder.file("a"), folder.file("b")));
-    EXPECT_FALSE(disk.samePlace(folder.file("b"), folder.file("B")));
-    EXPECT_FALSE(disk.samePlace(folder.file("b"), folder.file("none/b")));
+    EXPECT_EQ(disk.placeOf(folder.file("a")), disk.placeOf(folder.file("here/./a")));
+    EXPECT_EQ(disk.placeOf(folder.file("b")), disk.placeOf(folder.file("here/b")));
+    EXPECT_EQ(disk.placeOf(folder.file("b")), disk.placeOf(folder.file("to b")));
+    EXPECT_NE(disk.placeOf(folder.file("a")), disk.placeOf(folder.file("b")));
+    EXPECT_NE(disk.placeOf(folder.file("b")), disk.placeOf(folder.file("B")));
+    EXPECT_NE(disk.placeOf(folder.file("b")), disk.placeOf(folder.file("none/b")));
 }
 
 TEST(PlatformDisk, RenamesOverWhatHadTheName) {

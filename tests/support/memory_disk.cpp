@@ -105,10 +105,6 @@ bool MemoryDisk::sameFile(const std::string& one, const std::string& other) {
     return full(one) == full(other) && (has(full(one)) || folders.count(full(one)) != 0);
 }
 
-bool MemoryDisk::samePlace(const std::string& one, const std::string& other) {
-    return full(one) == full(other);
-}
-
 void MemoryDisk::setCurrentFolder(const std::string& path) {
     check("setCurrentFolder", path);
     if (folders.count(full(path)) == 0) raise(Fault::PathNotFound);

@@ -40,9 +40,7 @@ public:
     bool sameFile(const std::string& one, const std::string& other) override {
         return under_.sameFile(one, other);
     }
-    bool samePlace(const std::string& one, const std::string& other) override {
-        return under_.samePlace(one, other);
-    }
+    std::string placeOf(const std::string& path) override { return under_.placeOf(path); }
     void tidy(const std::string& folder) override { under_.tidy(folder); }
     std::unique_ptr<Turn> takeTurn(const std::string& folder) override {
         return under_.takeTurn(folder);
