@@ -75,6 +75,27 @@ void TextReader::readLine(std::string& line) {
     decodeCodePage(raw_, line);
 }
 
+bool TextReader::isAtEndOfItem() {
+    const int next = peek();
+    return next == ',' || next == '\r' || next == '\n' || next == kEndOfFile;
+}
+
+// Behind the opening quote; up to the closing one, which goes with it.
+void TextReader::readQuoted() {
+    bool ownQuotes = false;
+    for (int next = peek(); next != kEndOfFile; next = peek()) {
+        if (ownQuotes && (next == '\r' || next == '\n')) return;
+        ++next_;
+        if (next == '"') {
+            // `""x"`: a quote that the text itself begins with.
+            if (raw_.empty() && !isAtEndOfItem() && peek() != ' ') ownQuotes = true;
+            if (!ownQuotes || isAtEndOfItem()) return;
+        }
+        raw_.push_back(static_cast<char>(next));
+        checkLength(raw_.size());
+    }
+}
+
 void TextReader::readTextItem(std::string& item) {
     if (atEnd()) raise(Fault::InputPastEnd);
     while (peek() == ' ') ++next_;
@@ -82,17 +103,12 @@ void TextReader::readTextItem(std::string& item) {
     const bool quoted = peek() == '"';
     if (quoted) {
         ++next_;
-        while (peek() != '"' && peek() != kEndOfFile) {
-            raw_.push_back(buffer_[next_++]);
-            checkLength(raw_.size());
-        }
-        if (peek() == '"') ++next_;
+        readQuoted();
     }
-    while (peek() != ',' && peek() != '\r' && peek() != '\n' && peek() != kEndOfFile) {
+    for (std::size_t length = raw_.size(); !isAtEndOfItem(); checkLength(++length)) {
         // Behind the closing quote only the end of the item is looked for.
         if (!quoted) raw_.push_back(buffer_[next_]);
         ++next_;
-        checkLength(raw_.size());
     }
     if (peek() == ',')
         ++next_;

@@ -27,7 +27,9 @@ public:
     void readLine(std::string& line);
 
     // Reads one text item: leading blanks go; it ends at a comma or a line end, which goes with
-    // it. An item in double quotes is read without them. Fault 62 at the end of the file.
+    // it. An item in double quotes is read without them; if it begins with a quote of its own,
+    // behind the opening one, it ends at a quote with which the item ends. Fault 62 at the end of
+    // the file.
     void readTextItem(std::string& item);
 
     // Reads one number: any run of blanks, commas and line ends parts it from the one before. A
@@ -42,6 +44,8 @@ private:
     bool fill();
     [[nodiscard]] int peek();
     void skipLineEnd();
+    [[nodiscard]] bool isAtEndOfItem();
+    void readQuoted();
     void checkLength(std::size_t length) const;
 
     std::unique_ptr<ByteReader> file_;

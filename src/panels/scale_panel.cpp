@@ -1,5 +1,6 @@
 #include "panels/scale_panel.h"
 
+#include <algorithm>
 #include <string>
 
 #include "common/checked_arithmetic.h"
@@ -22,6 +23,71 @@ constexpr std::array kFields{&PlotScale::Xb, &PlotScale::Yb, &PlotScale::Span, &
 // Sign place, number, blank.
 std::string numberInFile(float value) {
     return (value < 0 ? "" : " ") + singleText(value, false) + " ";
+}
+
+std::string textOf(const PlotCfg& cfg) {
+    std::string text;
+    for (const std::int16_t number : {cfg.PlotKind, cfg.PlotManual})
+        text.append(numberInFile(number)).append(kLineEnd);
+    text.append(numberInFile(cfg.PlotFontSize)).append(kLineEnd);
+    for (const PlotScale* scale : {&cfg.WGS, &cfg.UGS, &cfg.XY}) {
+        for (const auto field : kFields) text += numberInFile(scale->*field);
+        text += kLineEnd;
+    }
+    return text;
+}
+
+class NoMessages final : public MessageBoxes {
+public:
+    Answer show(const Message& /*message*/) override { return Answer::Ok; }
+};
+
+std::string angleText(float degrees, MessageBoxes& messages) {
+    return genSub::FormatNum(KelvoSub::DegToDms(double{degrees}, messages), 3, 4);
+}
+
+std::string lengthText(float metres) {
+    return genSub::FormatNum(double{metres}, 7, 0);
+}
+
+// As the boxes show them: what they round away is nobody's change.
+bool isSameShown(const PlotScale& one, const PlotScale& other, bool angles) {
+    NoMessages silence;
+    return std::ranges::all_of(kFields, [&](auto field) {
+        return angles ? angleText(one.*field, silence) == angleText(other.*field, silence)
+                      : lengthText(one.*field) == lengthText(other.*field);
+    });
+}
+
+struct MergedPlotSettings {
+    PlotCfg cfg;
+    bool conflict = false;  // both changed the same
+};
+
+// What this program changed, and for all else what another one saved; the four values of a scale
+// stay together.
+MergedPlotSettings mergedPlotSettings(const PlotCfg& mine, const PlotCfg& untouched,
+                                      const PlotCfg& theirs, const PlotCfg& before) {
+    MergedPlotSettings merged{.cfg = theirs};
+    const auto settle = [&](auto part, const auto& isSame) {
+        if (isSame(mine.*part, untouched.*part)) return;
+        merged.cfg.*part = mine.*part;
+        if (!isSame(theirs.*part, before.*part) && !isSame(theirs.*part, mine.*part))
+            merged.conflict = true;
+    };
+    const auto isEqual = [](auto one, auto other) { return one == other; };
+    settle(&PlotCfg::PlotKind, isEqual);
+    settle(&PlotCfg::PlotManual, isEqual);
+    settle(&PlotCfg::PlotFontSize, isEqual);
+    const auto areSameAngles = [](const PlotScale& one, const PlotScale& other) {
+        return isSameShown(one, other, true);
+    };
+    settle(&PlotCfg::WGS, areSameAngles);
+    settle(&PlotCfg::UGS, areSameAngles);
+    settle(&PlotCfg::XY, [](const PlotScale& one, const PlotScale& other) {
+        return isSameShown(one, other, false);
+    });
+    return merged;
 }
 
 void readScale(TextReader& file, PlotScale& scale) {
@@ -52,8 +118,7 @@ void PlotSettingsPanel::showAngles(const PlotScale& scale) {
     on_.lblY.setCaption("경도(ddd.mmss)");
     const auto boxes = on_.scaleBoxes();
     for (std::size_t i = 0; i < boxes.size(); ++i) {
-        const double dms = KelvoSub::DegToDms(double{scale.*kFields[i]}, messages_);
-        boxes[i]->setText(genSub::FormatNum(dms, 3, 4));
+        boxes[i]->setText(angleText(scale.*kFields[i], messages_));
     }
 }
 
@@ -72,7 +137,7 @@ void PlotSettingsPanel::optXY_Click() {
     on_.lblY.setCaption("Y(m)");
     const auto boxes = on_.scaleBoxes();
     for (std::size_t i = 0; i < boxes.size(); ++i)
-        boxes[i]->setText(genSub::FormatNum(double{state_.plotCfg.XY.*kFields[i]}, 7, 0));
+        boxes[i]->setText(lengthText(state_.plotCfg.XY.*kFields[i]));
     on_.optXY.switchOn();
 }
 
@@ -85,7 +150,11 @@ void PlotSettingsPanel::optManual_Click() {
 }
 
 void PlotSettingsPanel::SavePcfgFile() {
-    PlotCfg& cfg = state_.plotCfg;
+    takePanel(state_.plotCfg, messages_);
+    writePcfgFile();
+}
+
+void PlotSettingsPanel::takePanel(PlotCfg& cfg, MessageBoxes& messages) const {
     if (on_.optXY.value()) cfg.PlotKind = 3;
     if (on_.optUGS.value()) cfg.PlotKind = 2;
     if (on_.optWGS.value()) cfg.PlotKind = 1;
@@ -97,30 +166,49 @@ void PlotSettingsPanel::SavePcfgFile() {
             cfg.XY.*kFields[i] = toSingle(number);
         } else if (cfg.PlotKind == 1 || cfg.PlotKind == 2) {
             PlotScale& scale = cfg.PlotKind == 1 ? cfg.WGS : cfg.UGS;
-            scale.*kFields[i] = toSingle(KelvoSub::DmsToDeg(number, messages_));
+            scale.*kFields[i] = toSingle(KelvoSub::DmsToDeg(number, messages));
         }
     }
     cfg.PlotManual = on_.optAuto.value() ? 0 : 1;
     cfg.PlotFontSize = toSingle(strictNumberOf(on_.txtFontSize));
-    writePcfgFile();
 }
 
 void PlotSettingsPanel::writePcfgFile() {
-    const PlotCfg& cfg = state_.plotCfg;
-    std::string text;
-    for (const std::int16_t number : {cfg.PlotKind, cfg.PlotManual})
-        text.append(numberInFile(number)).append(kLineEnd);
-    text.append(numberInFile(cfg.PlotFontSize)).append(kLineEnd);
-    for (const PlotScale* scale : {&cfg.WGS, &cfg.UGS, &cfg.XY}) {
-        for (const auto field : kFields) text += numberInFile(scale->*field);
-        text += kLineEnd;
+    const PlotCfg& mine = state_.plotCfg;
+    SavedSettings& saved = state_.saved;
+    PlotCfg written = mine;
+    bool theirsIsKept = false;
+    SettingsFile file(disk_, path(), saved.plotFile);
+    file.write(textOf(mine), [&] {
+        theirsIsKept = true;
+        try {
+            PlotCfg theirs;
+            readInto(theirs);
+            const auto merged =
+                mergedPlotSettings(mine, saved.plotInPanel, theirs, saved.plotInFile);
+            written = merged.cfg;
+            theirsIsKept = merged.conflict;
+        } catch (const RuntimeFault&) {
+            // It can't be read, so it can't have been meant for this program.
+        }
+        if (theirsIsKept) keepAside(disk_, path());
+        return textOf(written);
+    });
+    saved.plotInFile = written;
+    saved.plotInPanel = mine;
+    if (theirsIsKept) {
+        messages_.tell(
+            "다른 Kelvo 창에서 저장한 그림 설정과 이 창의 설정이 서로 다릅니다.\r\n"
+            "이 창의 값을 저장하였고, 다른 창에서 저장한 설정은 plot.cfg.old에 남겼습니다.");
     }
-    disk_.replace(state_.inApplicationFolder(std::string(kFileName)), text);
 }
 
-void PlotSettingsPanel::readPcfgFile() {
-    PlotCfg& cfg = state_.plotCfg;
-    TextReader file(disk_, state_.inApplicationFolder(std::string(kFileName)));
+std::string PlotSettingsPanel::path() const {
+    return state_.inApplicationFolder(std::string(kFileName));
+}
+
+void PlotSettingsPanel::readInto(PlotCfg& cfg) const {
+    TextReader file(disk_, path());
     cfg.PlotKind = roundedInteger16(file.readNumber());
     cfg.PlotManual = roundedInteger16(file.readNumber());
     cfg.PlotFontSize = toSingle(file.readNumber());
@@ -129,29 +217,46 @@ void PlotSettingsPanel::readPcfgFile() {
     readScale(file, cfg.XY);
 }
 
+void PlotSettingsPanel::showSettings() {
+    const PlotCfg& cfg = state_.plotCfg;
+    optWGS_Click();
+    optUGS_Click();
+    optXY_Click();
+    if (cfg.PlotKind == 1) optWGS_Click();
+    if (cfg.PlotKind == 2) optUGS_Click();
+    if (cfg.PlotKind == 3) optXY_Click();
+    (cfg.PlotManual != 0 ? on_.optManual : on_.optAuto).switchOn();
+    on_.txtFontSize.setText(singleText(cfg.PlotFontSize, true));
+}
+
 void PlotSettingsPanel::RestorePcfgFile() {
     PlotCfg& cfg = state_.plotCfg;
-    for (int recoveries = 0;; ++recoveries) {
-        try {
-            readPcfgFile();
-            optWGS_Click();
-            optUGS_Click();
-            optXY_Click();
-            if (cfg.PlotKind == 1) optWGS_Click();
-            if (cfg.PlotKind == 2) optUGS_Click();
-            if (cfg.PlotKind == 3) optXY_Click();
-            (cfg.PlotManual != 0 ? on_.optManual : on_.optAuto).switchOn();
-            on_.txtFontSize.setText(singleText(cfg.PlotFontSize, true));
-            return;
-        } catch (const RuntimeFault&) {
+    SettingsFile file(disk_, path(), state_.saved.plotFile);
+    file.readOrReplace(
+        [&] {
+            readInto(cfg);
+            showSettings();
+        },
+        [&](int recovery) {
             // Scales that can't be shown would come back from the new file again and again.
-            if (recoveries == 2) throw;
-            if (recoveries == 1) cfg.WGS = cfg.UGS = cfg.XY = PlotScale{};
-        }
-        cfg.PlotKind = 3;
-        cfg.PlotManual = 0;
-        cfg.PlotFontSize = 8;
-        writePcfgFile();
+            if (recovery == 2) cfg.WGS = cfg.UGS = cfg.XY = PlotScale{};
+            cfg.PlotKind = 3;
+            cfg.PlotManual = 0;
+            cfg.PlotFontSize = 8;
+            disk_.replace(path(), textOf(cfg));
+        });
+    state_.saved.plotInFile = cfg;
+    noteUntouchedPanel();
+}
+
+// The boxes give rounded values back, with nobody touching them.
+void PlotSettingsPanel::noteUntouchedPanel() {
+    state_.saved.plotInPanel = state_.plotCfg;
+    NoMessages silence;
+    try {
+        takePanel(state_.saved.plotInPanel, silence);
+    } catch (const RuntimeFault&) {
+        // What can't be taken is no change of this program.
     }
 }
 

@@ -42,6 +42,7 @@ struct frmKelvo::Members final : RunView {
     }
 
     void Form_Load();
+    void noteUntouchedPanels();
     void saveSettings();
     void Form_Close();
     void mnuBatchGo_Click();
@@ -110,6 +111,18 @@ void frmKelvo::Members::Form_Load() {
     parameters.FillDefault();
     settings.RestorePcfgFile();
     state.conversion.ParaDirty = true;
+    noteUntouchedPanels();
+}
+
+// The panels give some values back otherwise than they were read, with nobody touching them.
+void frmKelvo::Members::noteUntouchedPanels() {
+    const TransPara asRead = state.Cfg;
+    try {
+        parameters.SaveCfg();
+    } catch (const RuntimeFault&) {
+        // A box that is empty from the start: the values in front of it are noted.
+    }
+    state.saved.cfgInPanels = std::exchange(state.Cfg, asRead);
 }
 
 void frmKelvo::Members::saveSettings() {
