@@ -193,8 +193,8 @@ std::string readWholeFile(Disk& disk, const std::string& path, std::size_t large
     return bytes;
 }
 
-std::string readWholeText(Disk& disk, const std::string& path) {
-    const std::string bytes = readWholeFile(disk, path);
+std::string readWholeText(Disk& disk, const std::string& path, std::size_t largest) {
+    const std::string bytes = readWholeFile(disk, path, largest);
     std::string text;
     text.reserve(bytes.size() + bytes.size() / 2);
     std::string_view rest = bytes;

@@ -88,7 +88,8 @@ inline constexpr std::size_t kLargestText = 64U << 20U;
                                         std::size_t largest = kLargestText);
 
 // The whole text of a file with every line end made CR LF, and a text put in place of a file.
-[[nodiscard]] std::string readWholeText(Disk& disk, const std::string& path);
+[[nodiscard]] std::string readWholeText(Disk& disk, const std::string& path,
+                                        std::size_t largest = kLargestText);
 void replaceWholeText(Disk& disk, const std::string& path, std::string_view text);
 
 }  // namespace kelvo

@@ -1,5 +1,7 @@
 #include "shell/viewer.h"
 
+#include <algorithm>
+
 #include "batch/run_batch.h"
 #include "common/letter_case.h"
 #include "common/paths.h"
@@ -12,6 +14,18 @@ namespace {
 
 constexpr std::string_view kShowNumbers = "수치보기";
 constexpr std::string_view kShowPicture = "그림보기";
+
+void requireUsable(std::string_view text, const std::string& path) {
+    std::size_t lines = 0;
+    std::size_t longest = 0;
+    for (std::size_t at = 0; at < text.size(); ++lines) {
+        const std::size_t end = std::min(text.find("\r\n", at), text.size());
+        longest = std::max(longest, end - at);
+        at = end + 2;
+    }
+    if (lines > kMostLinesOnView || longest > kLongestLineOnView)
+        raise(Fault::Overflow, "줄이 너무 많거나 너무 길어서 볼 수 없습니다 (" + path + ")");
+}
 
 }  // namespace
 
@@ -46,7 +60,8 @@ void ResultViewer::showTextPanel() {
 }
 
 void ResultViewer::load(const std::string& path) {
-    const std::string text = readWholeText(disk_, path);
+    const std::string text = readWholeText(disk_, path, kLargestOnView);
+    requireUsable(text, path);
     journal_.aboutToGo();
     fileName_ = path;
     showText(text);

@@ -16,6 +16,11 @@ namespace kelvo {
 
 class PointPictures;
 
+// What one screen can use: more of it takes minutes and gigabytes to show.
+inline constexpr std::size_t kLargestOnView = 16U << 20U;  // bytes
+inline constexpr std::size_t kMostLinesOnView = 500'000;
+inline constexpr std::size_t kLongestLineOnView = 1U << 20U;  // bytes
+
 class ResultViewer {
 public:
     ResultViewer(const ViewerControls& controls, const ScaleControls& scale, ProgramState& state,
@@ -24,7 +29,8 @@ public:
     ResultViewer(const ResultViewer&) = delete;
     ResultViewer& operator=(const ResultViewer&) = delete;
 
-    // The one way to show a text file. The panels have changed when a fault of loading comes out.
+    // The one way to show a text file. The panels have changed when a fault of loading comes out;
+    // a text too large to be shown is fault 6.
     void OpenRichText(const std::string& Path);
 
     // Takes the numbers of a run and its plot in turn, by the caption of cmdShow. Fault 53 where
