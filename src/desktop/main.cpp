@@ -16,6 +16,7 @@
 #include "desktop/fault_report.h"
 #include "desktop/look_of_window.h"
 #include "desktop/main_window.h"
+#include "desktop/native_paths.h"
 
 using namespace kelvo;
 using namespace kelvo::desktop;
@@ -30,6 +31,12 @@ void provideHelpFile(const QString& folder) {
         QFile::setPermissions(
             target, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
     }
+}
+
+// The toolkit would wait for the other end of a pipe.
+void setAsideIfNoFile(const QString& path) {
+    const QFileInfo found(path);
+    if (found.exists() && !found.isFile()) QFile::rename(path, path + QStringLiteral(".old"));
 }
 
 int reportStart(const RuntimeFault& fault) {
@@ -79,16 +86,18 @@ int main(int argc, char** argv) {
         makeApplicationFolder(folder);
         const QString shownFolder = QString::fromStdString(folder);
         provideHelpFile(shownFolder);
-        const QSettings settings(QDir(shownFolder).filePath(QStringLiteral("window.ini")),
-                                 QSettings::IniFormat);
+        const QString settingsFile = QDir(shownFolder).filePath(QStringLiteral("window.ini"));
+        setAsideIfNoFile(settingsFile);
+        const QSettings settings(settingsFile, QSettings::IniFormat);
         setTheme(application, themeNamed(parser.isSet(themeOption)
                                              ? parser.value(themeOption)
                                              : settings.value(QStringLiteral("theme")).toString()));
 
         // A name on the command line counts from where the program was started, not from the
         // folder of the data file that it will have moved to.
-        QString dataFile = parser.positionalArguments().value(0);
-        if (!dataFile.isEmpty()) dataFile = QFileInfo(dataFile).absoluteFilePath();
+        const QString shownFile = parser.positionalArguments().value(0);
+        std::string dataFile;
+        if (!shownFile.isEmpty()) dataFile = absoluteName(argumentShownAs(shownFile, argc, argv));
 
         MainWindow window(folder);
         if (!window.start()) return 1;
@@ -97,7 +106,7 @@ int main(int argc, char** argv) {
                          &MainWindow::endWithoutAsking);
         QObject::connect(&application, &QGuiApplication::commitDataRequest, &window,
                          &MainWindow::prepareForTheEnd);
-        if (!dataFile.isEmpty()) window.openDataFile(dataFile);
+        if (!dataFile.empty()) window.openDataFile(dataFile);
         if (window.gate().isClosed()) return 1;
         return QApplication::exec();
     } catch (const RuntimeFault& fault) {

@@ -11,6 +11,7 @@
 #include <QToolButton>
 #include <cmath>
 
+#include "desktop/native_paths.h"
 #include "desktop/text_viewer.h"
 
 namespace kelvo::desktop {
@@ -20,10 +21,10 @@ namespace {
 constexpr double kTwipsPerPixel = 15;
 constexpr int kEntryOpen = 2;  // mnuFileItem(2): 기존파일 열기
 
-QString droppedDataFile(const QMimeData* data) {
+std::string droppedDataFile(const QMimeData* data) {
     for (const QUrl& url : data->urls()) {
-        QString path = url.toLocalFile();
-        if (path.endsWith(QLatin1String(".dat"), Qt::CaseInsensitive)) return path;
+        std::string path = fileOfUrl(url);
+        if (qt(path).endsWith(QLatin1String(".dat"), Qt::CaseInsensitive)) return path;
     }
     return {};
 }
@@ -151,9 +152,9 @@ bool MainWindow::start() {
     return true;
 }
 
-void MainWindow::openDataFile(const QString& path) {
+void MainWindow::openDataFile(const std::string& path) {
     gate_.run([this, &path] {
-        dialogs_.chooseNext(QDir::toNativeSeparators(path).toStdString());
+        dialogs_.chooseNext(path);
         program_->form().find("mnuFileItem")->clickEntry(kEntryOpen);
     });
     dialogs_.forgetChosen();
@@ -204,12 +205,12 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
-    if (!droppedDataFile(event->mimeData()).isEmpty()) event->acceptProposedAction();
+    if (!droppedDataFile(event->mimeData()).empty()) event->acceptProposedAction();
 }
 
 void MainWindow::dropEvent(QDropEvent* event) {
-    const QString path = droppedDataFile(event->mimeData());
-    if (path.isEmpty()) return;
+    const std::string path = droppedDataFile(event->mimeData());
+    if (path.empty()) return;
     event->acceptProposedAction();
     openDataFile(path);
 }

@@ -33,8 +33,9 @@ public:
     // Runs Main and shows the window. False if a fault ended the start.
     bool start();
 
-    // Does what choosing this data file in the open dialog does.
-    void openDataFile(const QString& path);
+    // Does what choosing this data file in the open dialog does. The name is the system's, of any
+    // bytes.
+    void openDataFile(const std::string& path);
 
     // Ends as closing does, but asks and shows nothing: what is unsaved waits for the next start,
     // and what a box asks is cancelled. For a session that ends and a terminal that goes.
