@@ -8,7 +8,9 @@
 #include <QMimeData>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QStatusBar>
 #include <QToolButton>
+#include <chrono>
 #include <cmath>
 
 #include "desktop/native_paths.h"
@@ -35,6 +37,7 @@ MainWindow::MainWindow(const std::string& applicationFolder)
     : applicationFolder_(applicationFolder),
       messages_(dialogParent_),
       dialogs_(dialogParent_, [this]() -> QPrinter& { return systemPrinter(); }),
+      rawPrinter_([this](const QString& text) { tellInStatusLine(text); }),
       alarm_(gate_),
       journal_(applicationFolder),
       unsavedTextBar_(new UnsavedTextBar(this)) {
@@ -178,6 +181,11 @@ void MainWindow::afterEvent(EventGate::Event /*event*/) {
     book_->plotView()->refresh();
     showUnsavedMark();
     if (paper_.sheetsAreWaiting()) printWaitingSheets();
+}
+
+void MainWindow::tellInStatusLine(const QString& text) {
+    constexpr std::chrono::milliseconds kLongEnoughToRead{20'000};
+    statusBar()->showMessage(text, static_cast<int>(kLongEnoughToRead.count()));
 }
 
 // The mark says that the text differs from the file it came from; nothing is ever asked.

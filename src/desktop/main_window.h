@@ -71,6 +71,7 @@ private:
     void beforeEvent(EventGate::Event event);
     void afterEvent(EventGate::Event event);
     void showUnsavedMark();
+    void tellInStatusLine(const QString& text);
     void watchUnsavedText();
     void keepUnsavedText();
     void offerUnsavedText();

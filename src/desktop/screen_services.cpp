@@ -12,6 +12,7 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QScreen>
+#include <QStandardPaths>
 #include <algorithm>
 #include <array>
 
@@ -179,8 +180,14 @@ void DetachedPrograms::start(const std::string& command) {
 }
 
 void RawPrintService::print(const std::string& path) {
-    QProcess::startDetached(QStringLiteral("lp"), {QStringLiteral("-o"), QStringLiteral("raw"),
-                                                   QStringLiteral("--"), qt(path)});
+    const QString program = QStandardPaths::findExecutable(QStringLiteral("lp"));
+    const QStringList arguments{QStringLiteral("-o"), QStringLiteral("raw"), QStringLiteral("--"),
+                                qt(path)};
+    if (program.isEmpty() || !QProcess::startDetached(program, arguments)) {
+        tell_(
+            QStringLiteral("인쇄하지 못했습니다: 인쇄 프로그램 lp가 없습니다 "
+                           "(꾸러미 cups-client를 설치하십시오)."));
+    }
 }
 
 void ScreenBeeper::beep() {

@@ -50,10 +50,16 @@ public:
     void start(const std::string& command) override;
 };
 
-// Hands the text to the platform's raw print service.
+// Hands the text to the platform's raw print service, the program lp.
 class RawPrintService final : public RawPrinter {
 public:
+    // `tell` is given a word for people where that program is missing.
+    explicit RawPrintService(std::function<void(const QString&)> tell) : tell_(std::move(tell)) {}
+
     void print(const std::string& path) override;
+
+private:
+    std::function<void(const QString&)> tell_;
 };
 
 class ScreenBeeper final : public Beeper {

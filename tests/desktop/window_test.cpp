@@ -10,6 +10,7 @@
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QRadioButton>
+#include <QStatusBar>
 #include <QTest>
 #include <QTimer>
 #include <fstream>
@@ -348,6 +349,20 @@ private slots:
         window_->openDataFile(folder_->file("data/big.dat"));
         QApplication::processEvents();
         QCOMPARE(window_->book().viewer()->editor().document()->blockCount(), 50001);
+    }
+
+    void aMissingPrintProgramIsToldInTheStatusLine() {
+        const QByteArray path = qgetenv("PATH");
+        qputenv("PATH", "/nowhere");
+        hands_->click("mnuBatchGo");
+        hands_->click("mnuPrintMode");
+        hands_->click("optFast");
+        hands_->click("cmdModeSave");
+        hands_->click("cmdPrint");
+        qputenv("PATH", path);
+        auto* line = window_->findChild<QStatusBar*>();
+        QVERIFY(line != nullptr);
+        QVERIFY(line->currentMessage().contains("lp"));
     }
 
     void escapeLeavesThePrintModeAndEnterAcceptsIt() {
