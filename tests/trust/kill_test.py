@@ -46,7 +46,7 @@ class Place:
         self.app = root / "app"
         self.morning = root / "morning"
         (self.app / "data").mkdir(parents=True)
-        (self.app / "data/work.dat").write_bytes(b"* old\r\n" * 3000 + b"end\r\n")
+        (self.app / "data/work.dat").write_bytes(b"* old\r\n" * 6000 + b"end\r\n")
         self.session(f"dialog {self.app}/data/work.dat\nclick mnuFileItem(2)\n"
                      "type txtdLam 0.25\ntype txtXb 1000\nclose\n")
         shutil.copytree(self.app, self.morning)
