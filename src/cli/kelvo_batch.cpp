@@ -151,10 +151,7 @@ int runAll(const CommandLine& line, const std::string& folder, StandardError& er
     return good ? kRunEnded : kRunTimeFault;
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-    secureStandardStreams();
+int runCommand(int argc, char** argv) {
 #ifdef _WIN32
     SetConsoleOutputCP(CP_UTF8);
 #endif
@@ -183,4 +180,17 @@ int main(int argc, char** argv) {
         },
         error);
     return folderStands ? runAll(line, folder, error, bar) : kRunTimeFault;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    secureStandardStreams();
+    try {
+        return runCommand(argc, argv);
+    } catch (const std::bad_alloc&) {
+        // Memory may have ended before there was a line to say so in.
+        std::fputs("run-time error 7: 메모리가 모자랍니다\n", stderr);
+        return kRunTimeFault;
+    }
 }

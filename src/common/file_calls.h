@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "common/disk.h"
 
@@ -85,6 +86,10 @@ public:
     FileHandle openForAppending(const std::filesystem::path& path);
     // At most so many bytes into the buffer; how many, 0 at the end.
     std::int64_t read(FileHandle file, char* buffer, std::size_t size);
+
+    // The names in a folder; none where it can't be read. (The library's own walk through a folder
+    // ends the program where memory ends.)
+    [[nodiscard]] std::vector<std::string> namesIn(const std::filesystem::path& folder) const;
 
     // What a file or folder has to itself, whatever its name; nothing if it isn't there.
     [[nodiscard]] std::optional<std::string> identityOf(const std::filesystem::path& path) const;

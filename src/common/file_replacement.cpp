@@ -202,7 +202,11 @@ int standBy(FileCalls& calls, const fs::path& target, const std::string& bytes, 
 }
 
 void writeInPlace(FileCalls& calls, const fs::path& target, OpenFile& old, std::string_view bytes) {
-    Copy copy{.target = fs::absolute(target).string(), .before = {}, .after = std::string(bytes)};
+    std::error_code nowhere;
+    const fs::path absolute = fs::absolute(target, nowhere);
+    Copy copy{.target = (nowhere ? target : absolute).string(),
+              .before = {},
+              .after = std::string(bytes)};
     int error = calls.readAll(old.handle(), copy.before);
     // A file that may only be written: without a look at it nothing could be put back.
     if (error < 0) raiseError(-error, target);

@@ -97,20 +97,17 @@ bool areOneFile(const fs::path& one, const fs::path& other) {
 }
 
 // Found out from any file in it whose name has letters.
-bool ignoresCase(const fs::path& folder) {
+bool ignoresCase(const SystemFileCalls& calls, const fs::path& folder) {
     if (kFileNamesIgnoreCase) return true;
-    std::error_code error;
-    for (fs::directory_iterator at(folder, error), end; !error && at != end; at.increment(error)) {
-        const std::string name = textOf(at->path().filename());
+    for (const std::string& name : calls.namesIn(folder)) {
         std::string changed = upperCased(name);
         if (changed == name) changed = lowerCased(name);
-        if (changed != name) return areOneFile(at->path(), folder / pathOf(changed));
+        if (changed != name) return areOneFile(folder / pathOf(name), folder / pathOf(changed));
     }
     return false;
 }
 
-void endWhatWasLeftAt(SystemFileCalls& calls, const fs::path& path) {
-    const std::string name = textOf(path.filename());
+void endWhatWasLeftAt(SystemFileCalls& calls, const fs::path& path, const std::string& name) {
     if (isNameOfNewFile(name)) calls.removeLeftover(path);
     if (!isNameOfCopy(name) || !calls.isLeftover(path)) return;
     const FileHandle file = calls.openForReading(path);
@@ -123,9 +120,8 @@ void endWhatWasLeftAt(SystemFileCalls& calls, const fs::path& path) {
 
 void endWhatWasLeft(const fs::path& folder) {
     SystemFileCalls calls;
-    std::error_code error;
-    for (fs::directory_iterator at(folder, error), end; !error && at != end; at.increment(error))
-        endWhatWasLeftAt(calls, at->path());
+    for (const std::string& name : calls.namesIn(folder))
+        endWhatWasLeftAt(calls, folder / pathOf(name), name);
 }
 
 }  // namespace
@@ -166,7 +162,7 @@ std::string PlatformDisk::placeOf(const std::string& path) {
     const std::string name = textOf(file.filename());
     const auto identity = calls.identityOf(folder);
     if (!identity) return textOf(file);
-    return *identity + "/" + (ignoresCase(folder) ? upperCased(name) : name);
+    return *identity + "/" + (ignoresCase(calls, folder) ? upperCased(name) : name);
 }
 
 void PlatformDisk::tidy(const std::string& folder) {

@@ -1,10 +1,11 @@
 #include <cerrno>
-#include <climits>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "common/file_calls.h"
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -246,6 +247,16 @@ int SystemFileCalls::rename(const fs::path& from, const fs::path& to) {
 
 int SystemFileCalls::remove(const fs::path& path) {
     return unlink(path.c_str()) == 0 ? 0 : -errno;
+}
+
+std::vector<std::string> SystemFileCalls::namesIn(const fs::path& folder) const {
+    const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(folder.c_str()), &closedir);
+    std::vector<std::string> names;
+    while (const dirent* entry = stream ? readdir(stream.get()) : nullptr) {
+        const std::string_view name = entry->d_name;
+        if (name != "." && name != "..") names.emplace_back(name);
+    }
+    return names;
 }
 
 std::optional<std::string> SystemFileCalls::identityOf(const fs::path& path) const {

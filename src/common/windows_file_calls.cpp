@@ -3,6 +3,7 @@
 #include <string>
 
 #include "common/file_calls.h"
+#include "common/file_faults.h"
 
 // After what it needs.
 #include <windows.h>
@@ -153,6 +154,14 @@ int SystemFileCalls::rename(const fs::path& from, const fs::path& to) {
 
 int SystemFileCalls::remove(const fs::path& path) {
     return DeleteFileW(path.c_str()) != 0 ? 0 : lastError();
+}
+
+std::vector<std::string> SystemFileCalls::namesIn(const fs::path& folder) const {
+    std::vector<std::string> names;
+    std::error_code error;
+    for (fs::directory_iterator at(folder, error), end; !error && at != end; at.increment(error))
+        names.push_back(textOf(at->path().filename()));
+    return names;
 }
 
 std::optional<std::string> SystemFileCalls::identityOf(const fs::path& path) const {

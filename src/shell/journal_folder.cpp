@@ -7,6 +7,7 @@
 #include <random>
 #include <utility>
 
+#include "common/file_calls.h"
 #include "common/file_faults.h"
 #include "common/folder_turn.h"
 #include "common/path_text.h"
@@ -126,10 +127,10 @@ void JournalFolder::removeIfEmpty(const fs::path& folder) {
 void JournalFolder::takeWhatWasLeft() {
     if (std::exchange(looked_, true)) return;
     std::error_code error;
-    for (fs::directory_iterator at(root_, error), end; !error && at != end; at.increment(error)) {
-        const std::string name = textOf(at->path().filename());
-        if (!isName(name) || at->path() == own_) continue;
-        if (auto turn = takeTurnAt(at->path(), kNoPatience)) left_.emplace(name, std::move(turn));
+    for (const std::string& name : SystemFileCalls().namesIn(root_)) {
+        const fs::path folder = root_ / pathOf(name);
+        if (!isName(name) || folder == own_) continue;
+        if (auto turn = takeTurnAt(folder, kNoPatience)) left_.emplace(name, std::move(turn));
     }
     for (auto at = left_.begin(); at != left_.end();) {
         const fs::path folder = root_ / at->first;

@@ -51,20 +51,22 @@ void drive(const std::string& name) {
 
 int main(int argc, char** argv) {
     secureStandardStreams();
-    const std::vector<std::string> arguments = argumentsOfProcess(argc, argv);
-    if (arguments.size() != 1) {
-        std::fputs("usage: form_driver APP_FOLDER < script > transcript\n", stderr);
-        return 2;
-    }
-    std::ios::sync_with_stdio(false);
     try {
+        const std::vector<std::string> arguments = argumentsOfProcess(argc, argv);
+        if (arguments.size() != 1) {
+            std::fputs("usage: form_driver APP_FOLDER < script > transcript\n", stderr);
+            return 2;
+        }
+        std::ios::sync_with_stdio(false);
         drive(arguments.front());
     } catch (const RuntimeFault& fault) {
         print("fault|" + std::to_string(fault.number()) + "|" +
               testing::escaped(shownLine(fault.text())));
         return 1;
     } catch (const std::bad_alloc&) {
-        print("fault|7|메모리가 모자랍니다");
+        // By the plainest way: what failed may have been the stream's own memory.
+        std::cout.flush();
+        std::fputs("fault|7|메모리가 모자랍니다\n", stdout);
         return 1;
     }
     return 0;
