@@ -385,21 +385,6 @@ private slots:
         QVERIFY(readBytes(folder_->file("kelvo.cfg")).find(" .25 ") != std::string::npos);
     }
 
-    void twoWindowsOnOneFolderLeaveItsFilesWhole() {
-        MainWindow other(folder_->path());
-        QVERIFY(other.start());
-        WindowHands otherHands(other);
-        for (int turn = 0; turn < 5; ++turn) {
-            hands_->click("mnuBatchGo");
-            otherHands.click("mnuBatchGo");
-        }
-        window_->close();
-        other.close();
-        const std::string configuration = readBytes(folder_->file("kelvo.cfg"));
-        QCOMPARE(std::count(configuration.begin(), configuration.end(), '\n'), 18);
-        QVERIFY(!QFile::exists(qtText(folder_->file("kelvo.lock"))));
-    }
-
 private:
     Form& form() { return window_->program().form(); }
 
