@@ -28,9 +28,9 @@ const std::string kKnown =
 // High latitudes are told of in a box, in the middle of the run.
 std::string dataFile(const std::string& name, bool withABox) {
     std::string data = "CORRECTION\r\nINPUT deg\r\nWGS " + name + "0 37.3 127 1\r\n";
-    for (int i = 1; i < 200; ++i) data += "    " + name + std::to_string(i) + " 37.3 127 1\r\n";
+    for (int i = 1; i < 1500; ++i) data += "    " + name + std::to_string(i) + " 37.3 127 1\r\n";
     if (withABox) data += "    far 60 127 1\r\n";
-    for (int i = 200; i < 400; ++i) data += "    " + name + std::to_string(i) + " 37.3 127 1\r\n";
+    for (int i = 1500; i < 3000; ++i) data += "    " + name + std::to_string(i) + " 37.3 127 1\r\n";
     return data + "end\r\n\r\n";
 }
 
