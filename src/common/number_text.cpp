@@ -8,6 +8,7 @@
 #include <system_error>
 
 #include "common/checked_arithmetic.h"
+#include "common/integer_power.h"
 #include "common/powers_of_ten.h"
 
 namespace kelvo {
@@ -131,16 +132,7 @@ bool scaledDigits(double magnitude, Decimal15& decimal) {
         const int scale = 14 - place;
         if (scale < 0 || scale > kExactPowers) return false;
         const double power = kPowerOfTen[static_cast<std::size_t>(scale)];
-        const double product = magnitude * power;
-        // Veltkamp's splitting and Dekker's product.
-        constexpr double kSplit = 134217729.0;
-        const double magnitudeTop = magnitude * kSplit - (magnitude * kSplit - magnitude);
-        const double powerTop = power * kSplit - (power * kSplit - power);
-        const double magnitudeRest = magnitude - magnitudeTop;
-        const double powerRest = power - powerTop;
-        const double error = ((magnitudeTop * powerTop - product) + magnitudeTop * powerRest +
-                              magnitudeRest * powerTop) +
-                             magnitudeRest * powerRest;
+        const auto [product, error] = exactProduct(magnitude, power);
         if (product >= 1e15) {
             ++place;
             continue;

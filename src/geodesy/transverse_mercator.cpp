@@ -25,18 +25,15 @@ TmGrid::TmGrid(const Ellipsoid& ellipsoid, const Projection& projection) : proje
     }
 }
 
-// Squares of the eccentricities and the coefficients of the meridian arc by the third flattening
-// n (after Helmert).
+// The second eccentricity, and the coefficients of the meridian arc by the third flattening n.
 void TmGrid::derive(const Ellipsoid& ellipsoid) {
-    const double a = ellipsoid.a;
-    double f = ellipsoid.f;
-    KelvoSub::NormFlat(f);
-    const double invf = quotient(1, f);
-    const double b = quotient((invf - 1) * a, invf);
+    const EllipsoidShape shape(ellipsoid);
+    const double a = shape.a;
+    const double b = shape.b;
     const double a2 = a * a;
     const double b2 = b * b;
     a_ = a;
-    e2_ = quotient(a2 - b2, a2);
+    e2_ = shape.e2;
     ep2_ = quotient(a2 - b2, b2);
 
     const Powers<5> n(quotient(a - b, b + a));
@@ -108,11 +105,11 @@ double footPointLatitude(const TmGrid& grid, double S) {
     return phi;
 }
 
-Position positionOf(double X, double Y, const Ellipsoid& ellipsoid, const Projection& p) {
+Position positionOf(double X, double Y, const TmGrid& grid, double Lam0) {
     const double radian = degreeToRadian();
+    const Projection& p = grid.projection();
     const Powers<8> S0(p.S0);
 
-    const TmGrid grid(ellipsoid, p);
     requireComputable(grid);
     const double S = quotient((grid.M0() + X) - p.X0, S0(1));
     const double phi = footPointLatitude(grid, S);
@@ -145,100 +142,42 @@ Position positionOf(double X, double Y, const Ellipsoid& ellipsoid, const Projec
     const double T15 = quotient(t(2) + t(2) + 1 + h(1), S0(3) * (N(3) * 6 * c));
     const double T16 = quotient(Q16, S0(5) * (N(5) * 120 * c));
     const double T17 = quotient(Q17, S0(7) * (N(7) * 5040 * c));
-    const double lam1 = (dy(1) * T14 - dy(3) * T15 + dy(5) * T16 - dy(7) * T17) + p.Lam0 * radian;
+    const double lam1 = (dy(1) * T14 - dy(3) * T15 + dy(5) * T16 - dy(7) * T17) + Lam0 * radian;
 
     return {.Phi = finite(phi1 / radian), .Lam = finite(lam1 / radian)};
 }
 
-TmGrid nationalGridOf(int zone, double shiftSeconds) {
-    TmGrid grid = nationalGrid();
-    grid.setCentralMeridian(nationalMeridian(zone, shiftSeconds));
-    return grid;
-}
-
 }  // namespace
-
-const TmGrid& nationalGrid() {
-    static const TmGrid grid(
-        kBessel, {.X0 = 500000.0, .Y0 = 200000.0, .Phi0 = 38.0, .Lam0 = 127.0, .S0 = 1.0});
-    return grid;
-}
-
-int nationalZone(double Lam) {
-    int zone = 2;
-    if (Lam < 126.0) zone = 1;
-    if (Lam > 128.0) zone = 3;
-    return zone;
-}
-
-double nationalMeridian(int zone, double shiftSeconds) {
-    return (2.0 * zone + 123) + shiftSeconds / 3600;
-}
 
 double MeridianArc(double A, double B, double C, double D, double E, double phi) {
     return finite(A * phi - std::sin(phi + phi) * B + std::sin(4 * phi) * C -
                   std::sin(6 * phi) * D + std::sin(8 * phi) * E);
 }
 
-GridPoint GeoToTM(double Phi, double Lam, const Ellipsoid& ellipsoid, const Projection& projection,
-                  MessageBoxes& messages) {
-    return GeoToTM(Phi, Lam, TmGrid(ellipsoid, projection), messages);
+Guarded<GridPoint> GeoToTM(double Phi, double Lam, const Ellipsoid& ellipsoid,
+                           const Projection& projection) {
+    return GeoToTM(Phi, Lam, TmGrid(ellipsoid, projection), projection.Lam0);
 }
 
-GridPoint GeoToTM(double Phi, double Lam, const TmGrid& grid, MessageBoxes& messages) {
+Guarded<GridPoint> GeoToTM(double Phi, double Lam, const TmGrid& grid, double Lam0) {
     try {
-        return TmParallel(grid, Phi).at(Lam, grid.projection().Lam0);
+        return {.value = TmParallel(grid, Phi).at(Lam, Lam0)};
     } catch (const RuntimeFault&) {
-        messages.tell(
-            "직교좌표로 변환할 수 없는 데이터 입니다. 타원체 제원과 경위도를 확인후 다시 하십시오");
-        return {.X = grid.projection().X0, .Y = grid.projection().Y0};
+        return {.value = {.X = grid.projection().X0, .Y = grid.projection().Y0}, .failed = true};
     }
 }
 
-Position TMToGeo(double X, double Y, const Ellipsoid& ellipsoid, const Projection& projection,
-                 MessageBoxes& messages) {
+Guarded<Position> TMToGeo(double X, double Y, const Ellipsoid& ellipsoid,
+                          const Projection& projection) {
+    return TMToGeo(X, Y, TmGrid(ellipsoid, projection), projection.Lam0);
+}
+
+Guarded<Position> TMToGeo(double X, double Y, const TmGrid& grid, double Lam0) {
     try {
-        return positionOf(X, Y, ellipsoid, projection);
+        return {.value = positionOf(X, Y, grid, Lam0)};
     } catch (const RuntimeFault&) {
-        messages.tell(
-            "경위도로 변환할 수 없는 직교좌표 입니다. 타원체 제원과 좌표를 확인후 다시 하십시오");
-        return {.Phi = projection.Phi0, .Lam = projection.Lam0};
+        return {.value = {.Phi = grid.projection().Phi0, .Lam = Lam0}, .failed = true};
     }
-}
-
-GridPoint BesselToTM(double Phi, double Lam, int& zone, double shiftSeconds,
-                     MessageBoxes& messages) {
-    if (zone < 1) zone = nationalZone(Lam);
-    return GeoToTM(Phi, Lam, nationalGridOf(zone, shiftSeconds), messages);
-}
-
-Position TMToBessel(double X, double Y, int& zone, double shiftSeconds, MessageBoxes& messages) {
-    if (zone < 1) zone = 1;
-    if (zone > 3) zone = 3;
-    return TMToGeo(X, Y, kBessel, nationalGridOf(zone, shiftSeconds).projection(), messages);
-}
-
-void chkZone(double lam, std::int16_t& Zone, double& Lam0) {
-    if (Zone >= 5) return;
-    if (lam < 126) {
-        Zone = 1;
-        Lam0 = 125;
-    } else if (lam <= 128) {
-        Zone = 2;
-        Lam0 = 127;
-    } else if (lam <= 130) {
-        Zone = 3;
-        Lam0 = 129;
-    } else {
-        Zone = 4;
-        Lam0 = 131;
-    }
-}
-
-void chkUZone(double lam, std::int16_t& UZone, double& ULam0) {
-    if (UZone >= 4) return;
-    UZone = lam < 126 ? 1 : 2;
-    ULam0 = lam < 126 ? 123 : 129;
 }
 
 }  // namespace kelvo::KelvoSub

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "batch/wording.h"
 #include "common/checked_arithmetic.h"
 #include "common/code_page.h"
 #include "common/fixed_width.h"
@@ -52,7 +53,7 @@ void PlotSettingsPanel::showAngles(const PlotScale& scale) {
     on_.lblY.setCaption("경도(ddd.mmss)");
     const auto boxes = on_.scaleBoxes();
     for (std::size_t i = 0; i < boxes.size(); ++i) {
-        const double dms = KelvoSub::DegToDms(double{scale.*kFields[i]}, messages_);
+        const double dms = KelvoSub::DegToDms(double{scale.*kFields[i]});
         boxes[i]->setText(genSub::FormatNum(dms, 3, 4));
     }
 }
@@ -97,7 +98,8 @@ void PlotSettingsPanel::SavePcfgFile() {
             cfg.XY.*kFields[i] = toSingle(number);
         } else if (cfg.PlotKind == 1 || cfg.PlotKind == 2) {
             PlotScale& scale = cfg.PlotKind == 1 ? cfg.WGS : cfg.UGS;
-            scale.*kFields[i] = toSingle(KelvoSub::DmsToDeg(number, messages_));
+            scale.*kFields[i] =
+                toSingle(toldDegrees(messages_, number, KelvoSub::DmsToDeg(number)));
         }
     }
     cfg.PlotManual = on_.optAuto.value() ? 0 : 1;

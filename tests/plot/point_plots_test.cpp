@@ -26,7 +26,7 @@ public:
         PlotScale& group = kind == 1 ? cfg_.WGS : kind == 2 ? cfg_.UGS : cfg_.XY;
         const auto read = [&](const std::string& box) {
             if (kind == 3) return strictSingle(box);
-            return static_cast<float>(KelvoSub::DmsToDeg(strictNumber(box), messages_));
+            return static_cast<float>(KelvoSub::DmsToDeg(strictNumber(box)).degrees);
         };
         group = {read(boxes[0]), read(boxes[1]), read(boxes[2]), read(boxes[3])};
     }
