@@ -16,6 +16,10 @@ MARK = re.compile(r"\{\{(=?)([^{}]+?)(\+?)\}\}")
 UNIT = r"(?:mm|cm|km|m|ppm|seconds?|degrees?|minutes|metres|times|%|초|도|분|배|미터|회)"
 # A number with a unit behind it.
 BARE = re.compile(rf"(?<![\w.{{=])-?\d[\d.,]*(?:\s|-)?{UNIT}(?![A-Za-z0-9])")
+# Figures that other texts repeat: whoever writes such a sentence states the same.
+QUOTED_IN = ("docs/guide.ko.md", "src/desktop/resources/KelvoHelp.txt")
+QUOTES = ((r"(\S+) m\(백령도\)에서", "height.run.land.least"), (r"(\S+) m\(독도\)까지", "height.run.land.most"),
+          (r"X가 (\S+) m, *표고가", "panel.x"), (r"X가 \S+ m,\s*표고가\s+(\S+) m", "panel.height"))
 HEAD = "<!-- Made by scripts/figures from scripts/figures.d/{name}.in: change that, then scripts/figures --write. -->\n"
 
 
@@ -59,6 +63,16 @@ def unlike(computed, stated):
     return abs(computed - float(stated)) > 0.6 * 10.0**-decimals
 
 
+def misquoted(values):
+    found = []
+    for name in QUOTED_IN:
+        text = (TOP / name).read_text(encoding="utf-8")
+        for pattern, figure in QUOTES:
+            found += [f"{name} says {quoted}, {figure} is {values[figure]}"
+                      for quoted in re.findall(pattern, text) if quoted != values[figure]]  # fmt: skip
+    return found
+
+
 def complaints(values, folder):
     """What is wrong with the pages in `folder`, one sentence each."""
     found = []
@@ -78,4 +92,4 @@ def complaints(values, folder):
               sorted(names_in(PAGES[1]) - names_in(PAGES[0]))]  # fmt: skip
     unused = sorted(values.keys() - names_in(PAGES[0]))
     found += [f"figures.txt has a figure that no page states: {name}" for name in unused]
-    return found
+    return found + misquoted(values)
