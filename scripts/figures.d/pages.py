@@ -7,6 +7,7 @@ A number with a unit must be one of these; nothing is typed in by hand.
 
 import pathlib
 import re
+import unicodedata
 
 HERE = pathlib.Path(__file__).resolve().parent
 TOP = HERE.parents[1]
@@ -45,13 +46,49 @@ def names_in(page):
     return {name for given, name, _ in MARK.findall(template(page)) if not given}
 
 
+def columns(text):
+    return sum(2 if unicodedata.east_asian_width(letter) in "WF" else 1 for letter in text)
+
+
+def filled(lines):
+    """A paragraph or list item with its lines filled to 100 columns."""
+    indent = " " * (len(lines[0]) - len(lines[0].lstrip(" -")))
+    result = [lines[0][: len(indent)]]
+    text = " ".join([lines[0][len(indent) :], *lines[1:]])
+    # a number and its unit stay together
+    for word in re.findall(r"\S*\d +(?:mm|km|m|ppm)\b\S*|\S+", text):
+        blank = "" if result[-1].strip(" -") == "" else " "
+        if blank and columns(result[-1]) + 1 + columns(word) > 100:
+            result.append(indent + word)
+        else:
+            result[-1] += blank + word
+    return result
+
+
+def reflowed(text):
+    """Values are longer and shorter than their names: fills the lines of plain text anew."""
+    result, paragraph, code = [], [], False
+    for line in [*text.split("\n"), ""]:
+        fence = line.startswith("```")
+        plain = not (code or fence or line == "" or re.match(r"    |#|\||!|<", line))
+        if paragraph and (not plain or line.startswith("- ")):
+            result += filled(paragraph)
+            paragraph = []
+        if plain:
+            paragraph.append(line)
+        else:
+            result.append(line)
+        code = code != fence
+    return "\n".join(result[:-1])
+
+
 def render(page, values):
     def value_of(match):
         given, name, sign = match.groups()
         value = name if given else values[name].replace(" +step", "\n  +step")
         return f"+{value}" if sign and float(value) > 0 else value
 
-    return HEAD.format(name=page) + MARK.sub(value_of, template(page))
+    return HEAD.format(name=page) + reflowed(MARK.sub(value_of, template(page)))
 
 
 def unlike(computed, stated):

@@ -32,7 +32,7 @@ class FiguresTest(unittest.TestCase):
 
     def test_one_digit_changed_in_either_page_is_found(self):
         seoul = pages.read_record()["height.run.seoul"]
-        self.assertEqual(self.pages_with("numbers.md", f"{seoul} m\nin Seoul", "99 m\nin Seoul").returncode, 1)
+        self.assertEqual(self.pages_with("numbers.md", f"{seoul} m in Seoul", "99 m in Seoul").returncode, 1)
         self.assertEqual(self.pages_with("numbers.ko.md", f"서울은 {seoul} m", "서울은 99 m").returncode, 1)
 
     def test_a_figure_typed_by_hand_is_found(self):
