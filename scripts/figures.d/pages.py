@@ -56,7 +56,7 @@ def filled(lines):
     result = [lines[0][: len(indent)]]
     text = " ".join([lines[0][len(indent) :], *lines[1:]])
     # a number and its unit stay together
-    for word in re.findall(r"\S*\d +(?:mm|km|m|ppm)\b\S*|\S+", text):
+    for word in re.findall(r"\S*\d +(?:mm|km|m|ppm)(?![A-Za-z])\S*|\S+", text):
         blank = "" if result[-1].strip(" -") == "" else " "
         if blank and columns(result[-1]) + 1 + columns(word) > 100:
             result.append(indent + word)
