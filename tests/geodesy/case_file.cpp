@@ -34,6 +34,10 @@ private:
         if (verb == "ellipsoid") return takes(in, 2, [&](const Numbers& n) { ellipsoid(n); });
         if (verb == "origin") return takes(in, 5, [&](const Numbers& n) { origin(n); });
         if (verb == "tolerance") return readTolerance(in, tolerance_, unit_);
+        if (verb == "heights") {
+            std::string unit;
+            return readTolerance(in, heightTolerance_, unit) && unit == "m";
+        }
         if (verb == "forward")
             return compares(in, 2, 2, "m", [&](const Numbers& n) { return forward(n); });
         if (verb == "backward")
@@ -41,6 +45,21 @@ private:
         if (verb == "geocentric")
             return compares(in, 3, 3, "m", [&](const Numbers& n) {
                 const auto p = KelvoSub::GeoToXYZ(n[0], n[1], n[2], ellipsoid_);
+                return Numbers{p.X, p.Y, p.Z};
+            });
+        if (verb == "shift")
+            return takes(in, 8, [&](const Numbers& n) {
+                KelvoSub::SetDatumPara(datum_, {n[0], n[1], n[2], n[3], n[4], n[5], n[6]},
+                                       ShiftKind{static_cast<std::int16_t>(n[7])});
+            });
+        if (verb == "shifted")
+            return compares(in, 3, 3, "m", [&](const Numbers& n) {
+                const auto p = KelvoSub::ShiftForward(datum_.shift, {n[0], n[1], n[2]});
+                return Numbers{p.X, p.Y, p.Z};
+            });
+        if (verb == "unshifted")
+            return compares(in, 3, 3, "m", [&](const Numbers& n) {
+                const auto p = KelvoSub::ShiftInverse(datum_.shift, {n[0], n[1], n[2]});
                 return Numbers{p.X, p.Y, p.Z};
             });
         if (verb == "geographic")
@@ -103,7 +122,7 @@ private:
         if (failures_ > 0) complain("failed");
         for (std::size_t i = 0; i < wanted; ++i) {
             // a height beside two angles is in metres
-            const double limit = unit == "deg" && i == 2 ? 0.0001 : tolerance_;
+            const double limit = unit == "deg" && i == 2 ? heightTolerance_ : tolerance_;
             if (!(std::fabs(found[i] - (*expected)[i]) <= limit)) complain(text(found));
         }
         return true;
@@ -171,7 +190,9 @@ private:
     Ellipsoid ellipsoid_;
     Projection projection_;
     double tolerance_ = 0;
+    double heightTolerance_ = 0.0001;
     std::string unit_ = "m";
+    DatumState datum_;
     GeoidTables geoid_;
     int failures_ = 0;
 };
