@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cmath>
 #include <cstdint>
+#include <cstring>
 
 #include "common/checked_arithmetic.h"
 #include "common/code_page.h"
@@ -51,10 +53,11 @@ RoundedDigits roundedDigits(double value, int decimals) {
     return roundAt(decimal15(value), decimals);
 }
 
+// 0 for 0.
 int digitCount(std::uint64_t digits) {
-    int count = 0;
-    while (count < 20 && digits >= kIntegerPowerOfTen[static_cast<std::size_t>(count)]) ++count;
-    return count;
+    // log10(2) as 1233/4096
+    const auto count = static_cast<std::size_t>((std::bit_width(digits) * 1233) >> 12);
+    return static_cast<int>(count) + (digits >= kIntegerPowerOfTen[count] ? 1 : 0);
 }
 
 constexpr std::array<char, 200> kTwoDigits = [] {
@@ -66,32 +69,32 @@ constexpr std::array<char, 200> kTwoDigits = [] {
     return pairs;
 }();
 
-// Writes digits from the end of a text towards its front, zeros where they have run out.
-class DigitsFromEnd {
+// The last 16 digits of a number, zeros in front. By halves, so that the divisions don't wait for
+// each other.
+class SixteenDigits {
 public:
-    DigitsFromEnd(char* end, const RoundedDigits& rounded)
-        : at_(end), digits_(rounded.digits), zeros_(rounded.zeros) {}
+    static constexpr int kCount = 16;
 
-    void put(long count) {
-        for (; zeros_ > 0 && count > 0; --zeros_, --count) *--at_ = '0';
-        for (; count >= 2; count -= 2) {
-            const auto pair = static_cast<std::size_t>(digits_ % 100);
-            digits_ /= 100;
-            *--at_ = kTwoDigits[2 * pair + 1];
-            *--at_ = kTwoDigits[2 * pair];
-        }
-        if (count == 1) {
-            *--at_ = static_cast<char>('0' + digits_ % 10);
-            digits_ /= 10;
-        }
+    explicit SixteenDigits(std::uint64_t digits) {
+        putEight(static_cast<std::uint32_t>(digits / 100000000), 0);
+        putEight(static_cast<std::uint32_t>(digits % 100000000), 8);
     }
-    void put(char character) { *--at_ = character; }
-    [[nodiscard]] char* at() const { return at_; }
+    [[nodiscard]] const char* last(int count) const { return text_.data() + kCount - count; }
 
 private:
-    char* at_;
-    std::uint64_t digits_;
-    int zeros_;
+    void putEight(std::uint32_t eight, std::size_t at) {
+        const std::uint32_t high = eight / 10000;
+        const std::uint32_t low = eight % 10000;
+        putTwo(high / 100, at);
+        putTwo(high % 100, at + 2);
+        putTwo(low / 100, at + 4);
+        putTwo(low % 100, at + 6);
+    }
+    void putTwo(std::uint32_t two, std::size_t at) {
+        std::memcpy(text_.data() + at, kTwoDigits.data() + std::size_t{2} * two, 2);
+    }
+
+    std::array<char, kCount> text_;
 };
 
 void appendFill(std::string& line, long count, char fill) {
@@ -123,24 +126,28 @@ void appendFormatNum(std::string& line, double value, int width, int decimals) {
     const RoundedDigits rounded = roundedDigits(value, decimals);
     // The sign of a number that rounds to zero stops the blanking: sign and zeros stay.
     const bool minusZero = minus && rounded.digits == 0;
-    const long integerDigits =
-        std::max(long{digitCount(rounded.digits)} + rounded.zeros - decimals, 0L);
+    const int count = digitCount(rounded.digits);
+    const long integerDigits = std::max(long{count} + rounded.zeros - decimals, 0L);
     const long places = std::max<long>(integerDigits, width);
     const long shown = minusZero ? places : std::max<long>(integerDigits, std::min<long>(width, 1));
 
     const std::size_t start = line.size();
     const long length = (minusZero ? 1 : 0) + places + (decimals > 0 ? 1 + decimals : 0);
-    line.resize(start + static_cast<std::size_t>(length));
-    char* const first = line.data() + start;
-    DigitsFromEnd digits(line.data() + line.size(), rounded);
+    line.resize(start + static_cast<std::size_t>(length), ' ');
+    const char* const front = line.data() + start;
+    char* const end = line.data() + line.size();
+    // The digits without their point first; what is in front of it then moves up by one.
+    char* first = end - (shown + decimals);
+    std::fill(first, end, '0');
+    std::memcpy(end - rounded.zeros - count, SixteenDigits(rounded.digits).last(count),
+                static_cast<std::size_t>(count));
     if (decimals > 0) {
-        digits.put(long{decimals});
-        digits.put('.');
+        std::memmove(first - 1, first, static_cast<std::size_t>(shown));
+        --first;
+        end[-decimals - 1] = '.';
     }
-    digits.put(shown);
     // The sign goes in front of the first digit, if a blank stands there to take it.
-    if (minus && digits.at() > first) digits.put('-');
-    std::fill(first, digits.at(), ' ');
+    if (minus && first > front) first[-1] = '-';
 }
 
 std::string FormatNum(double value, int width, int decimals) {
@@ -154,8 +161,9 @@ std::string FormatNum(std::string_view text, int width, int decimals) {
 }
 
 void appendFormatText(std::string& line, std::string_view text, int width, Align align) {
-    std::size_t taken = 0;
-    int columns = 0;
+    // A letter of ASCII is one byte and one column.
+    std::size_t taken = asciiLength(text.substr(0, static_cast<std::size_t>(std::max(width, 0))));
+    int columns = static_cast<int>(taken);
     while (columns < width && taken < text.size()) {
         const Utf8Character character = firstCharacter(text.substr(taken));
         const int more = codePageWidth(character.code);

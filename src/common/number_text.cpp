@@ -70,6 +70,18 @@ bool vanishes(std::string_view mantissa, std::string_view exponent) {
     return place + power < 0;
 }
 
+// The usual number: digits, a point, an exponent introduced by E. Nothing for any other.
+std::optional<NumberRead> readPlainDecimal(std::string_view text) {
+    const std::size_t first = text.starts_with('-') ? 1 : 0;
+    if (first == text.size() || (!isDigit(text[first]) && text[first] != '.')) return std::nullopt;
+    double value = 0;
+    const char* const last = text.data() + text.size();
+    const auto [end, error] = std::from_chars(text.data(), last, value);
+    const bool exponentByD = end != last && (*end == 'd' || *end == 'D');
+    if (error != std::errc{} || exponentByD) return std::nullopt;
+    return NumberRead{.value = value};
+}
+
 NumberRead readDecimal(std::string_view text, const DecimalShape& shape) {
     std::string number(text.substr(0, shape.length));
     if (shape.exponentAt != std::string_view::npos) number[shape.exponentAt] = 'e';
@@ -209,6 +221,7 @@ std::string generalText(double value, bool leadingZero) {
 
 NumberRead readNumber(std::string_view text) {
     text = withoutBlanksInFront(text);
+    if (const auto plain = readPlainDecimal(text)) return *plain;
     unsigned base = 0;
     if (const std::size_t length = radixLength(text, base); length > 0)
         return readRadix(text.substr(2, length - 2), base);

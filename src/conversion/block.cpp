@@ -78,10 +78,8 @@ void Converter::Block::fromWgs() {
         p.UserLam = finite(p.UserLam + p.CorrLam);
         p.UserH = finite(p.UserH + p.CorrH);
     });
-    toTm();
-    each([](std::size_t, ConvertedPoint& p) { p.TmH = p.UserH; });
-    toUtm();
-    each([](std::size_t, ConvertedPoint& p) { p.UtmH = p.TmH; });
+    each([](std::size_t, ConvertedPoint& p) { p.TmH = p.UtmH = p.UserH; });
+    toTmAndUtm();
 }
 
 void Converter::Block::fromUser() {
@@ -89,21 +87,17 @@ void Converter::Block::fromUser() {
         p.UserPhi = degrees(i, given_[i].first);
         p.UserLam = degrees(i, given_[i].second);
         p.UserH = given_[i].height;
-        p.TmH = given_[i].height;
+        p.TmH = p.UtmH = given_[i].height;
     });
     userToWgs();
-    toTm();
-    toUtm();
-    each([](std::size_t, ConvertedPoint& p) { p.UtmH = p.TmH; });
+    toTmAndUtm();
 }
 
 void Converter::Block::fromTm() {
     each([this](std::size_t i, ConvertedPoint& p) {
         p.TmX = given_[i].first;
         p.TmY = given_[i].second;
-        p.TmH = given_[i].height;
-        p.UserH = given_[i].height;
-        p.UtmH = given_[i].height;
+        p.TmH = p.UtmH = p.UserH = given_[i].height;
         // The grid is read with the origin of the definition: the longitude isn't known yet.
         const auto at =
             KelvoSub::TMToGeo(p.TmX, p.TmY, converter_.tm_, p.Lam0 + definition_.originShift());
@@ -119,8 +113,7 @@ void Converter::Block::fromUtm() {
     each([this](std::size_t i, ConvertedPoint& p) {
         p.UtmX = given_[i].first;
         p.UtmY = given_[i].second;
-        p.UtmH = given_[i].height;
-        p.UserH = given_[i].height;
+        p.UtmH = p.UserH = given_[i].height;
         const auto at = KelvoSub::TMToGeo(p.UtmX, p.UtmY, converter_.utm_, p.ULam0);
         if (at.failed) remark(i, {.kind = Remark::Kind::NotUnprojected});
         p.UserPhi = at.value.Phi;
@@ -199,24 +192,41 @@ void Converter::Block::correct() {
     afterDetail_ = true;
 }
 
+void Converter::Block::toTm(std::size_t i, ConvertedPoint& p, const TmLatitude& latitude) {
+    KelvoSub::chkZone(p.UserLam, p.Zone, p.Lam0);
+    const auto grid =
+        TmParallel(converter_.tm_, latitude).at(p.UserLam, p.Lam0 + definition_.originShift());
+    if (grid.failed) remark(i, {.kind = Remark::Kind::NotProjected});
+    p.TmX = grid.value.X;
+    p.TmY = grid.value.Y;
+}
+
+void Converter::Block::toUtm(std::size_t i, ConvertedPoint& p, const TmLatitude& latitude) {
+    KelvoSub::chkUZone(p.UserLam, p.UZone, p.ULam0);
+    const auto grid = TmParallel(converter_.utm_, latitude).at(p.UserLam, p.ULam0);
+    if (grid.failed) remark(i, {.kind = Remark::Kind::NotProjected});
+    p.UtmX = grid.value.X;
+    p.UtmY = grid.value.Y;
+}
+
 void Converter::Block::toTm() {
     each([this](std::size_t i, ConvertedPoint& p) {
-        KelvoSub::chkZone(p.UserLam, p.Zone, p.Lam0);
-        const auto grid = KelvoSub::GeoToTM(p.UserPhi, p.UserLam, converter_.tm_,
-                                            p.Lam0 + definition_.originShift());
-        if (grid.failed) remark(i, {.kind = Remark::Kind::NotProjected});
-        p.TmX = grid.value.X;
-        p.TmY = grid.value.Y;
+        toTm(i, p, TmLatitude(converter_.tm_, p.UserPhi));
     });
 }
 
 void Converter::Block::toUtm() {
     each([this](std::size_t i, ConvertedPoint& p) {
-        KelvoSub::chkUZone(p.UserLam, p.UZone, p.ULam0);
-        const auto grid = KelvoSub::GeoToTM(p.UserPhi, p.UserLam, converter_.utm_, p.ULam0);
-        if (grid.failed) remark(i, {.kind = Remark::Kind::NotProjected});
-        p.UtmX = grid.value.X;
-        p.UtmY = grid.value.Y;
+        toUtm(i, p, TmLatitude(converter_.utm_, p.UserPhi));
+    });
+}
+
+void Converter::Block::toTmAndUtm() {
+    const bool shared = converter_.tm_.sharesEllipsoid(converter_.utm_);
+    each([this, shared](std::size_t i, ConvertedPoint& p) {
+        const TmLatitude latitude(converter_.tm_, p.UserPhi);
+        toTm(i, p, latitude);
+        toUtm(i, p, shared ? latitude : TmLatitude(converter_.utm_, p.UserPhi));
     });
 }
 

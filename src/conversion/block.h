@@ -25,8 +25,13 @@ private:
     void wgsToUser();
     void userToWgs();
     void correct();
+    // To the grids on the way by the longitude's origins; both share the latitude's terms where
+    // they share an ellipsoid.
+    void toTm(std::size_t i, ConvertedPoint& p, const TmLatitude& latitude);
+    void toUtm(std::size_t i, ConvertedPoint& p, const TmLatitude& latitude);
     void toTm();
     void toUtm();
+    void toTmAndUtm();
 
     // Does a step for every point that hasn't ended; a fault ends the point.
     template <class Step>

@@ -1,7 +1,6 @@
 #include "geodesy/angle_forms.h"
 
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <string_view>
 
@@ -19,6 +18,8 @@ constexpr double kWholeMinute = 59.99999;
 constexpr double kSplitSlack = 1e-08;
 constexpr double kParsedSlack = 1e-09;
 
+constexpr std::size_t kDegreeColumns = 8;
+
 int signOf(double x) {
     return x > 0 ? 1 : x < 0 ? -1 : 0;
 }
@@ -32,9 +33,7 @@ double digitsAt(const std::string& text, std::size_t from, std::size_t count) {
     return leadingNumber(std::string_view(text).substr(from, count));
 }
 
-}  // namespace
-
-SplitAngle SplitDeg(double x) {
+DegreesMinutesSeconds split(double x) {
     DegreesMinutesSeconds r;
     r.D = floorInteger16(x);
     r.M = floorInteger16((x - r.D) * 60);
@@ -55,7 +54,14 @@ SplitAngle SplitDeg(double x) {
         r.M = 0;
         r.D = toInteger16(r.D + 1);
     }
-    return {.parts = r, .rebuilds = std::abs(x - rebuilt(r)) <= kSplitSlack};
+    return r;
+}
+
+}  // namespace
+
+SplitAngle SplitDeg(double x) {
+    const DegreesMinutesSeconds parts = split(x);
+    return {.parts = parts, .rebuilds = std::abs(x - rebuilt(parts)) <= kSplitSlack};
 }
 
 ParsedAngle ParseDms(double x) {
@@ -77,7 +83,7 @@ ParsedAngle DmsToDeg(double x) {
 }
 
 double DegToDms(double x) {
-    const DegreesMinutesSeconds parts = SplitDeg(std::abs(x)).parts;
+    const DegreesMinutesSeconds parts = split(std::abs(x));
     return (parts.M / 100.0 + parts.D + parts.S / 10000) * signOf(x);
 }
 
@@ -88,7 +94,7 @@ SplitAngle DegToDmsParts(double x) {
 }
 
 void appendAngleText(std::string& line, double x, AngleForm form) {
-    const DegreesMinutesSeconds parts = SplitDeg(std::abs(x)).parts;
+    const DegreesMinutesSeconds parts = split(std::abs(x));
     if (form == AngleForm::Degrees) {
         genSub::appendFormatNum(line, x, 8, 10);
         return;
@@ -100,19 +106,22 @@ void appendAngleText(std::string& line, double x, AngleForm form) {
     if (form != AngleForm::Blanks && form != AngleForm::Hyphens) return;
 
     const char between = form == AngleForm::Blanks ? ' ' : '-';
-    // The sign is that of the angle, also in front of 0 degrees.
-    std::array<char, 8> degrees;
-    const bool minus = x < 0;
-    if (minus) degrees.front() = '-';
-    const auto [end, error] =
-        std::to_chars(degrees.data() + (minus ? 1 : 0), degrees.data() + degrees.size(), parts.D);
-    line.append(static_cast<std::size_t>(degrees.data() + degrees.size() - end), ' ');
-    line.append(degrees.data(), end);
-    // Minutes and seconds have two places, the first one a digit and never a blank.
-    line += between;
-    line += static_cast<char>('0' + parts.M / 10);
-    line += static_cast<char>('0' + parts.M % 10);
-    line += between;
+    // Degrees in eight columns, minutes and seconds in two places with a digit in the first. The
+    // sign is that of the angle, also in front of 0 degrees.
+    std::array<char, 12> front;
+    front.fill(' ');
+    std::size_t at = kDegreeColumns;
+    int degrees = parts.D;
+    do {
+        front[--at] = static_cast<char>('0' + degrees % 10);
+        degrees /= 10;
+    } while (degrees > 0);
+    if (x < 0) front[--at] = '-';
+    front[kDegreeColumns] = between;
+    front[kDegreeColumns + 1] = static_cast<char>('0' + parts.M / 10);
+    front[kDegreeColumns + 2] = static_cast<char>('0' + parts.M % 10);
+    front[kDegreeColumns + 3] = between;
+    line.append(front.data(), front.size());
     const std::size_t seconds = line.size();
     genSub::appendFormatNum(line, parts.S, 2, 4);
     if (line[seconds] == ' ') line[seconds] = '0';

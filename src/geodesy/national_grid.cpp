@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include "common/checked_arithmetic.h"
-#include "common/run_time_fault.h"
 #include "geodesy/zones.h"
 
 namespace kelvo {
@@ -34,33 +33,6 @@ double distance(const GridPoint& from, const GridPoint& to) {
     return std::sqrt(dY * dY + dX * dX);
 }
 
-// Each place picks its own zone; two of them share a parallel.
-ArcSecLengths lengthsAt(double Phi, double Lam) {
-    const auto at = [](const TmParallel& parallel, double lam) {
-        return parallel.at(lam, nationalMeridian(nationalZone(lam), kOriginShiftSeconds));
-    };
-    const TmParallel parallel(nationalGrid(), Phi);
-    const GridPoint here = at(parallel, Lam);
-    const GridPoint north = at(TmParallel(nationalGrid(), kSecond + Phi), Lam);
-    const GridPoint east = at(parallel, kSecond + Lam);
-    return {.MPhi = distance(here, north), .MLam = distance(here, east)};
-}
-
-// The same place by place, with what stands in for a place that can't be computed.
-ArcSecLengths lengthsOneByOne(double Phi, double Lam) {
-    ArcSecLengths lengths;
-    const auto gridAt = [&lengths](double phi, double lam) {
-        int zone = 0;
-        const auto grid = KelvoSub::BesselToTM(phi, lam, zone, kOriginShiftSeconds);
-        if (grid.failed) ++lengths.unprojected;
-        return grid.value;
-    };
-    const GridPoint here = gridAt(Phi, Lam);
-    lengths.MPhi = distance(here, gridAt(kSecond + Phi, Lam));
-    lengths.MLam = distance(gridAt(Phi, Lam), gridAt(Phi, kSecond + Lam));
-    return lengths;
-}
-
 }  // namespace
 
 double lengthInMetres(double DPhi, double DLam, const ArcSecLengths& second) {
@@ -81,12 +53,23 @@ Guarded<Position> TMToBessel(double X, double Y, int& zone, double shiftSeconds)
     return TMToGeo(X, Y, nationalGrid(), nationalMeridian(zone, shiftSeconds));
 }
 
+// Each of the places picks its own zone; two of them share a parallel.
 ArcSecLengths ArcSecLen(double Phi, double Lam) {
-    try {
-        return lengthsAt(Phi, Lam);
-    } catch (const RuntimeFault&) {
-        return lengthsOneByOne(Phi, Lam);
-    }
+    ArcSecLengths lengths;
+    const auto at = [&lengths](const TmParallel& parallel, double lam, int counted) {
+        const auto grid =
+            parallel.at(lam, nationalMeridian(nationalZone(lam), kOriginShiftSeconds));
+        if (grid.failed) lengths.unprojected += counted;
+        return grid.value;
+    };
+    const auto parallelAt = [](double phi) {
+        return TmParallel(nationalGrid(), TmLatitude(nationalGrid(), phi));
+    };
+    const TmParallel parallel = parallelAt(Phi);
+    const GridPoint here = at(parallel, Lam, 2);
+    lengths.MPhi = distance(here, at(parallelAt(kSecond + Phi), Lam, 1));
+    lengths.MLam = distance(here, at(parallel, kSecond + Lam, 1));
+    return lengths;
 }
 
 }  // namespace KelvoSub

@@ -62,6 +62,9 @@ public:
     // Arc of the meridian from the equator, metres; phi in radians.
     [[nodiscard]] double meridianArc(double phi) const;
 
+    // Whether a latitude on the other grid's ellipsoid is one on this grid's.
+    [[nodiscard]] bool sharesEllipsoid(const TmGrid& other) const;
+
     [[nodiscard]] bool computable() const { return computable_; }
     [[nodiscard]] double a() const { return a_; }
     [[nodiscard]] double e2() const { return e2_; }    // first eccentricity, squared
@@ -69,8 +72,9 @@ public:
     [[nodiscard]] double M0() const { return M0_; }    // arc to the origin, scaled
 
 private:
-    void derive(const Ellipsoid& ellipsoid);
+    void derive();
 
+    Ellipsoid ellipsoid_;
     Projection projection_;
     double a_ = 0;
     double e2_ = 0;
@@ -84,17 +88,52 @@ private:
     bool computable_ = true;
 };
 
-// One parallel of latitude on a grid: the terms of the forward series that rest on the latitude
-// alone, computed once for all its points. Faults 5, 6 and 11 where they can't be computed.
-class TmParallel {
+// A latitude on an ellipsoid: what the forward series has in common for all grids on it. One that
+// can't be computed makes its points fail.
+class TmLatitude {
 public:
-    // Latitude in degrees.
-    TmParallel(const TmGrid& grid, double Phi);
+    // Latitude in degrees, on the ellipsoid of the grid.
+    TmLatitude(const TmGrid& grid, double Phi);
 
-    // The point at a longitude, for a central meridian, both in degrees. Fault 6 for an overflow.
-    [[nodiscard]] GridPoint at(double Lam, double Lam0) const;
+    [[nodiscard]] bool computable() const { return computable_; }
 
 private:
+    friend class TmParallel;
+
+    void derive(const TmGrid& grid, double Phi);
+
+    bool computable_ = true;
+    double arc_ = 0;   // of the meridian, metres
+    double N_ = 0;     // radius in the prime vertical, metres
+    double c_ = 0;     // cosine, and products of its powers with N and the sine
+    double sNc_ = 0;
+    double sNc3_ = 0;
+    double sNc5_ = 0;
+    double sNc7_ = 0;
+    double Nc3_ = 0;
+    double Nc5_ = 0;
+    double Nc7_ = 0;
+    double P3_ = 0;  // polynomials of T3, T4, T5, T7, T8, T9
+    double P4_ = 0;
+    double P5_ = 0;
+    double P7_ = 0;
+    double P8_ = 0;
+    double P9_ = 0;
+};
+
+// One parallel of latitude on a grid: the terms of the forward series that rest on the latitude
+// alone.
+class TmParallel {
+public:
+    // A latitude on the grid's ellipsoid.
+    TmParallel(const TmGrid& grid, const TmLatitude& latitude);
+
+    // The point at a longitude, for a central meridian, both in degrees. Data that can't be
+    // computed fails and gives X0, Y0.
+    [[nodiscard]] Guarded<GridPoint> at(double Lam, double Lam0) const;
+
+private:
+    bool computable_ = true;
     double X0_ = 0;
     double Y0_ = 0;
     double M0_ = 0;
