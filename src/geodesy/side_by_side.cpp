@@ -87,8 +87,10 @@ void iterateTogether(std::span<const Geocentric> points, const Ellipsoid& ellips
     for (; pass < kLatitudePasses; ++pass) lanes.pass(points.size());
     const double radian = degreeToRadian();
     for (std::size_t i = 0; i < points.size(); ++i)
-        results[i] = lanes.plain(i) ? Guarded{.value = lanes.result(points[i], i, radian)}
-                                    : XYZToGeo(points[i], ellipsoid);
+        if (lanes.plain(i))
+            results[i] = {.value = lanes.result(points[i], i, radian)};
+        else
+            results[i] = XYZToGeo(points[i], ellipsoid);
 }
 
 }  // namespace
