@@ -1,9 +1,10 @@
 #include "batch/run_batch.h"
 
-#include "batch/batch_run.h"
+#include <array>
+
+#include "batch/current_run.h"
 #include "batch/run_commands.h"
 #include "batch/run_notes.h"
-#include "common/file_sharing.h"
 #include "common/paths.h"
 #include "common/run_time_fault.h"
 
@@ -11,7 +12,9 @@ namespace kelvo {
 
 namespace {
 
-void runCommands(BatchRun& run) {
+// Required: the end of the file is looked at before a line is carried out, so that the line read
+// last never is, unless a block of points has read it.
+void runCommands(CurrentRun& run) {
     run.readLine();
     while (!run.data.atEnd()) {
         run.lineHeld = false;
@@ -35,17 +38,18 @@ void RunBatch(ConversionState& state, const RunPlaces& places, RunView& view, Di
 
     const std::string outPath = resultFileOf(places.dataFile);
     TextReader data(disk, places.dataFile);
-    refuseSharedFiles(disk, {outPath, places.detPath}, {places.dataFile, places.CorPath});
+    requireFilesOfTheirOwn(disk, std::array{outPath, places.detPath},
+                           std::array{places.dataFile, places.CorPath});
     TextWriter out(disk, outPath);
     TextWriter det(disk, places.detPath);
     view.detailIsOpen();
 
     state.ParaDirty = true;
-    BatchRun run{.state = state,
-                 .disk = disk,
-                 .messages = messages,
-                 .data = data,
-                 .files = {.out = out, .det = det, .CorPath = places.CorPath}};
+    CurrentRun run{.state = state,
+                   .disk = disk,
+                   .messages = messages,
+                   .data = data,
+                   .files = {.out = out, .det = det, .CorPath = places.CorPath}};
     try {
         PrintRunNotes(out);
         runCommands(run);

@@ -3,9 +3,9 @@
 
 #include <string>
 
+#include "batch/conversion_state.h"
 #include "common/disk.h"
 #include "common/ports.h"
-#include "correction/run_report.h"
 
 namespace kelvo {
 
@@ -29,14 +29,8 @@ public:
 [[nodiscard]] std::string resultFileOf(const std::string& dataFile);
 
 // Runs the data file. Every fault of files and arithmetic ends it, reports standing as far as
-// they were written, except a failure to show the result, which is told in a message.
+// they were written, except a failure to show the result, which is shown in a message.
 void RunBatch(ConversionState& state, const RunPlaces& places, RunView& view, Disk& disk,
               MessageBoxes& messages);
-
-// The sample data file, which is the manual of the data-file language.
-[[nodiscard]] std::string sampleDataText();
-
-// Writes it, replacing any file of that name as a whole.
-void WriteSampleData(Disk& disk, const std::string& path);
 
 }  // namespace kelvo

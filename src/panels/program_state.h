@@ -4,9 +4,9 @@
 #include <array>
 #include <string>
 
+#include "batch/conversion_state.h"
+#include "batch/trans_para.h"
 #include "common/disk.h"
-#include "common/trans_para.h"
-#include "correction/run_report.h"
 #include "panels/settings_file.h"
 #include "plot/plot_cfg.h"
 
@@ -30,7 +30,7 @@ struct ProgramState {
     std::string CfgPath;
     std::string CorPath;
 
-    // Entries 1 to 5; entry 1 is the current data file, empty entries stand behind the others.
+    // Entries 1 to 5; entry 1 is the current data file, empty entries stand after the others.
     std::array<std::string, 6> RecentFiles;
 
     TransPara Cfg;    // the stored parameters; the panels are their working copy

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "batch/wording.h"
 #include "common/checked_arithmetic.h"
 #include "common/code_page.h"
 #include "common/fixed_width.h"
@@ -42,8 +43,8 @@ public:
     Answer show(const Message& /*message*/) override { return Answer::Ok; }
 };
 
-std::string angleText(float degrees, MessageBoxes& messages) {
-    return genSub::FormatNum(KelvoSub::DegToDms(double{degrees}, messages), 3, 4);
+std::string angleText(float degrees) {
+    return genSub::FormatNum(KelvoSub::DegToDms(double{degrees}), 3, 4);
 }
 
 std::string lengthText(float metres) {
@@ -52,9 +53,8 @@ std::string lengthText(float metres) {
 
 // As the boxes show them: what they round away is nobody's change.
 bool isSameShown(const PlotScale& one, const PlotScale& other, bool angles) {
-    NoMessages silence;
     return std::ranges::all_of(kFields, [&](auto field) {
-        return angles ? angleText(one.*field, silence) == angleText(other.*field, silence)
+        return angles ? angleText(one.*field) == angleText(other.*field)
                       : lengthText(one.*field) == lengthText(other.*field);
     });
 }
@@ -118,7 +118,7 @@ void PlotSettingsPanel::showAngles(const PlotScale& scale) {
     on_.lblY.setCaption("경도(ddd.mmss)");
     const auto boxes = on_.scaleBoxes();
     for (std::size_t i = 0; i < boxes.size(); ++i) {
-        boxes[i]->setText(angleText(scale.*kFields[i], messages_));
+        boxes[i]->setText(angleText(scale.*kFields[i]));
     }
 }
 
@@ -166,7 +166,8 @@ void PlotSettingsPanel::takePanel(PlotCfg& cfg, MessageBoxes& messages) const {
             cfg.XY.*kFields[i] = toSingle(number);
         } else if (cfg.PlotKind == 1 || cfg.PlotKind == 2) {
             PlotScale& scale = cfg.PlotKind == 1 ? cfg.WGS : cfg.UGS;
-            scale.*kFields[i] = toSingle(KelvoSub::DmsToDeg(number, messages));
+            scale.*kFields[i] =
+                toSingle(reportedDegrees(messages, number, KelvoSub::DmsToDeg(number)));
         }
     }
     cfg.PlotManual = on_.optAuto.value() ? 0 : 1;

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string>
 
-#include "batch/run_batch.h"
+#include "batch/sample_data.h"
 #include "common/code_page.h"
 #include "common/paths.h"
 #include "common/run_time_fault.h"
@@ -101,27 +101,15 @@ void tellConflicts(const std::vector<std::string>& conflicts, MessageBoxes& mess
 
 void fillFirstStart(TransPara& Cfg) {
     Cfg.Editor = kFileNamesIgnoreCase ? "Notepad.exe" : "xdg-open";
-    Cfg.dX = 115.8;
-    Cfg.dY = -474.99;
-    Cfg.dZ = -674.11;
-    Cfg.Omega = 1.16;
-    Cfg.Phi = -2.31;
-    Cfg.Kappa = -1.63;
-    Cfg.dS = -6.43;
-    Cfg.Kind = 0;
-    Cfg.a = 6377397.155;
-    Cfg.f = 299.1528128;
-    Cfg.Zone = 2;
-    Cfg.Phi0 = 0;
-    Cfg.Lam0 = 129;
-    Cfg.X0 = 0;
-    Cfg.Y0 = 500000;
-    Cfg.S0 = 0.9996;
-    Cfg.Ua = 6377397.155;
-    Cfg.Uf = 299.1528128;
-    Cfg.UZone = 2;
-    Cfg.AddFlag = 1;
-    Cfg.CorrFlag = 0;
+    setShift(Cfg, kRecommendedShift);
+    Cfg.Kind = ShiftKind{0};  // required: what the panel shows as Bursa
+    setUserEllipsoid(Cfg, kBesselOfParameters);
+    Cfg.Zone = TmZone::Centre;
+    setTmOrigin(Cfg, originOf(UtmZone::East));
+    setUtmEllipsoid(Cfg, kBesselOfParameters);
+    Cfg.UZone = UtmZone::East;
+    Cfg.AddFlag = Flag::On;
+    Cfg.CorrFlag = Flag::Off;
 }
 
 int readConfiguration(ProgramState& state, Disk& disk) {

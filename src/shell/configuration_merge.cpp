@@ -26,7 +26,7 @@ static_assert(kGroups.back().first + kGroups.back().count == kStoredNumbers.size
 
 struct Single {
     const char* words;
-    std::int16_t TransPara::*field;
+    Flag TransPara::*field;
 };
 
 constexpr std::array<Single, 2> kSingles{{

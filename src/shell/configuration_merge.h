@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "common/trans_para.h"
+#include "batch/trans_para.h"
 
 namespace kelvo {
 

@@ -12,6 +12,22 @@ namespace {
 
 constexpr std::size_t kZone = 14;  // columns
 
+double numberOf(double value) {
+    return value;
+}
+template <class Named>
+double numberOf(Named value) {
+    return static_cast<std::int16_t>(value);
+}
+void assign(double& field, double value) {
+    field = value;
+}
+// Any 16-bit number, also one without a name.
+template <class Named>
+void assign(Named& field, double value) {
+    field = Named{roundedInteger16(value)};
+}
+
 // One line of items, each at the start of a zone.
 class ZonedLine {
 public:
@@ -47,13 +63,8 @@ std::string itemText(std::string_view text) {
 
 }  // namespace
 
-double storedNumber(const TransPara& Cfg, const StoredNumber& stored) {
-    if (const auto* wide = std::get_if<double TransPara::*>(&stored.field)) return Cfg.**wide;
-    return Cfg.*std::get<std::int16_t TransPara::*>(stored.field);
-}
-
 std::string storedText(const TransPara& Cfg, const StoredNumber& stored) {
-    return numberText(storedNumber(Cfg, stored));
+    return std::visit([&](auto field) { return numberText(numberOf(Cfg.*field)); }, stored.field);
 }
 
 std::string readPath(TextReader& file) {
@@ -66,15 +77,12 @@ void readParameters(TextReader& file, TransPara& Cfg, FieldStore& fields) {
     Cfg.Editor = readPath(file);
     for (const StoredNumber& stored : kStoredNumbers) {
         const double value = file.readNumber();
-        if (const auto* wide = std::get_if<double TransPara::*>(&stored.field))
-            Cfg.** wide = value;
-        else
-            Cfg.*std::get<std::int16_t TransPara::*>(stored.field) = roundedInteger16(value);
+        std::visit([&](auto field) { assign(Cfg.*field, value); }, stored.field);
     }
     file.readLine(fields.LineBuf);
     genSub::ParseFields(fields, 2);
-    Cfg.AddFlag = roundedInteger16(double{fields.FieldSng(1)});
-    Cfg.CorrFlag = roundedInteger16(double{fields.FieldSng(2)});
+    assign(Cfg.AddFlag, double{fields.FieldSng(1)});
+    assign(Cfg.CorrFlag, double{fields.FieldSng(2)});
 }
 
 std::string parameterLines(const TransPara& Cfg, std::string_view flagGap) {
@@ -86,9 +94,9 @@ std::string parameterLines(const TransPara& Cfg, std::string_view flagGap) {
         text.append(line.line()).append(kLineEnd);
         line = {};
     }
-    line.text(numberText(Cfg.AddFlag));
+    line.text(numberText(numberOf(Cfg.AddFlag)));
     line.text(flagGap);
-    line.text(numberText(Cfg.CorrFlag));
+    line.text(numberText(numberOf(Cfg.CorrFlag)));
     return text.append(line.line()).append(kLineEnd);
 }
 

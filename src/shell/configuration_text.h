@@ -12,9 +12,9 @@
 #include <string_view>
 #include <variant>
 
+#include "batch/trans_para.h"
 #include "common/fields.h"
 #include "common/text_file.h"
-#include "common/trans_para.h"
 
 namespace kelvo {
 
@@ -22,7 +22,9 @@ inline constexpr std::size_t kMostRecentFiles = 5;
 
 // A number of the parameter set, and whether its line of the file ends behind it.
 struct StoredNumber {
-    std::variant<double TransPara::*, std::int16_t TransPara::*> field;
+    std::variant<double TransPara::*, ShiftKind TransPara::*, TmZone TransPara::*,
+                 UtmZone TransPara::*>
+        field;
     bool lineEnds = false;
 };
 
@@ -39,7 +41,6 @@ inline constexpr std::array<StoredNumber, 27> kStoredNumbers{{
 }};
 
 // The value as it stands in the file.
-[[nodiscard]] double storedNumber(const TransPara& Cfg, const StoredNumber& stored);
 [[nodiscard]] std::string storedText(const TransPara& Cfg, const StoredNumber& stored);
 
 // Reads everything in front of the paths; what was read before a fault stands. The line of the

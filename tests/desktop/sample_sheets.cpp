@@ -29,7 +29,7 @@ public:
         const auto read = [this](const std::string& box) {
             const double number = strictNumber(box);
             return static_cast<float>(cfg.PlotKind == 3 ? number
-                                                        : KelvoSub::DmsToDeg(number, *this));
+                                                        : KelvoSub::DmsToDeg(number).degrees);
         };
         group = {read(boxes_[0]), read(boxes_[1]), read(boxes_[2]), read(boxes_[3])};
     }

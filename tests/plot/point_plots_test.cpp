@@ -15,8 +15,7 @@ namespace {
 // The scale panel without its form: four boxes that are read back into the group of the kind.
 class PanelDouble final : public ScalePanel {
 public:
-    PanelDouble(PlotCfg& cfg, MessageBoxes& messages, Lines& record)
-        : cfg_(cfg), messages_(messages), lines_(record), kind(cfg.PlotKind) {}
+    PanelDouble(PlotCfg& cfg, Lines& record) : cfg_(cfg), lines_(record), kind(cfg.PlotKind) {}
 
     void showScale(const std::array<std::string, 4>& texts) override { boxes = texts; }
 
@@ -26,14 +25,13 @@ public:
         PlotScale& group = kind == 1 ? cfg_.WGS : kind == 2 ? cfg_.UGS : cfg_.XY;
         const auto read = [&](const std::string& box) {
             if (kind == 3) return strictSingle(box);
-            return static_cast<float>(KelvoSub::DmsToDeg(strictNumber(box), messages_));
+            return static_cast<float>(KelvoSub::DmsToDeg(strictNumber(box)).degrees);
         };
         group = {read(boxes[0]), read(boxes[1]), read(boxes[2]), read(boxes[3])};
     }
 
 private:
     PlotCfg& cfg_;
-    MessageBoxes& messages_;
     Lines& lines_;
 
 public:
@@ -63,7 +61,7 @@ protected:
 
     // Draws and gives the calls, those of the panel taken out of them.
     Lines draw(int kind = 2) {
-        PanelDouble panel(cfg, messages, recorded);
+        PanelDouble panel(cfg, recorded);
         PlotSource source{points, cfg, panel, texts, messages};
         kelvo::plot(object, kind, kind == 2 ? screen : printer, source);
         boxes = panel.boxes;
@@ -245,7 +243,7 @@ TEST_F(PointPlots, ManualScaleAfterAnAutomaticPlotDrawsTheSamePicture) {
 
 TEST_F(PointPlots, BindingComesFirstThenTheScaleThenTheDrawing) {
     addPoint("A", 453211.376, 198765.432);
-    PanelDouble panel(cfg, messages, recorded);
+    PanelDouble panel(cfg, recorded);
     PlotSource source{points, cfg, panel, texts, messages};
     kelvo::plot(object, 2, screen, source);
     const auto lines = told();
@@ -256,7 +254,7 @@ TEST_F(PointPlots, BindingComesFirstThenTheScaleThenTheDrawing) {
 
 TEST_F(PointPlots, KindThatStandsBeforeSavingIsTheOneDrawn) {
     addPoint("A", 453211.376, 198765.432);
-    PanelDouble panel(cfg, messages, recorded);
+    PanelDouble panel(cfg, recorded);
     panel.kind = 1;  // the option button says otherwise
     PlotSource source{points, cfg, panel, texts, messages};
     kelvo::plot(object, 2, screen, source);

@@ -2,7 +2,7 @@
 // never gone.
 #include "shell/configuration.h"
 
-#include "batch/run_batch.h"
+#include "batch/sample_data.h"
 #include "shell/window_bench.h"
 
 namespace kelvo {
@@ -157,7 +157,7 @@ TEST_F(KeptConfiguration, AFileThatIsOpenElsewhereIsTriedAgain) {
     };
     start();
     EXPECT_EQ(cfg(), before);
-    EXPECT_EQ(program->cfg().Kind, 2);
+    EXPECT_EQ(program->cfg().Kind, ShiftKind::Bursa);
 }
 
 TEST_F(KeptConfiguration, AFileThatStaysOpenElsewhereDoesNotHoldTheStartForEver) {

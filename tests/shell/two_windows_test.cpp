@@ -51,7 +51,7 @@ TEST_F(TwoWindows, WhatOneChangedOutlivesTheOtherThatDidNot) {
     EXPECT_TRUE(boxes().empty()) << "nothing is in dispute";
     Program& after = next();
     EXPECT_EQ(after.cfg().dX, 99.5);
-    EXPECT_EQ(after.cfg().AddFlag, 2);
+    EXPECT_EQ(after.cfg().AddFlag, kNotAdded);
     EXPECT_EQ(after.cfg().dY, -474.99);
 }
 
@@ -65,8 +65,8 @@ TEST_F(TwoWindows, WhatBothChangedInDifferentPlacesStands) {
     EXPECT_TRUE(boxes().empty());
     Program& after = next();
     EXPECT_EQ(after.cfg().dPhi, 0.5);
-    EXPECT_EQ(after.cfg().CorrFlag, 1);
-    EXPECT_EQ(after.cfg().Zone, 3);
+    EXPECT_EQ(after.cfg().CorrFlag, Flag::On);
+    EXPECT_EQ(after.cfg().Zone, TmZone::East);
     EXPECT_EQ(after.cfg().Lam0, 129);
 }
 
