@@ -70,6 +70,7 @@ MainWindow::MainWindow(const std::string& applicationFolder)
     addShortcuts();
     addThemeButton();
     watchUnsavedText();
+    addBringBack();
 }
 
 MainWindow::~MainWindow() {

@@ -73,6 +73,7 @@ private:
     void showUnsavedMark();
     void tellInStatusLine(const QString& text);
     void watchUnsavedText();
+    void addBringBack();
     void keepUnsavedText();
     void offerUnsavedText();
     [[nodiscard]] Rescued rescueUnsavedText();

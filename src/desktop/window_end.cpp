@@ -1,7 +1,10 @@
 // What the window does so that no text is lost that was typed into it.
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QDateTime>
+#include <QMenu>
+#include <QMenuBar>
 #include <chrono>
 
 #include "desktop/main_window.h"
@@ -33,6 +36,32 @@ void MainWindow::watchUnsavedText() {
         gate_.run([this] { program_->putWaitingTextAside(); });
         offerUnsavedText();
     });
+}
+
+// Closing the panel, a run and a load ask nothing; here is what they took off the view.
+void MainWindow::addBringBack() {
+    auto* bringBack = new QAction(QStringLiteral("되살리기"), this);
+    bringBack->setObjectName(QStringLiteral("bringBackText"));
+    bringBack->setStatusTip(QStringLiteral("저장하지 않고 닫은 글을 다시 보여 줍니다"));
+    connect(bringBack, &QAction::triggered, this,
+            [this] { gate_.run([this] { program_->bringBackText(); }); });
+    const auto renew = [this, bringBack] { bringBack->setEnabled(program_->canBringBackText()); };
+
+    if (auto* help = menuBar()->findChild<QMenu*>(QStringLiteral("mnuHelp"))) {
+        help->addAction(bringBack);
+        connect(help, &QMenu::aboutToShow, bringBack, renew);
+    }
+    QPlainTextEdit& editor = book_->viewer()->editor();
+    editor.setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(&editor, &QWidget::customContextMenuRequested, this,
+            [&editor, bringBack, renew](const QPoint& place) {
+                QMenu* menu = editor.createStandardContextMenu(place);
+                menu->setAttribute(Qt::WA_DeleteOnClose);
+                menu->addSeparator();
+                menu->addAction(bringBack);
+                renew();
+                menu->popup(editor.viewport()->mapToGlobal(place));
+            });
 }
 
 void MainWindow::offerUnsavedText() {

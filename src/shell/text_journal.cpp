@@ -66,16 +66,16 @@ bool TextJournal::keepNow() {
     return true;
 }
 
-void TextJournal::discard(UnsavedText text) {
-    store_.keep(JournalStore::Shelf::Discarded, text);
+bool TextJournal::discard(UnsavedText text) {
+    const bool kept = store_.keep(JournalStore::Shelf::Discarded, text);
     discarded_ = std::move(text);
+    return kept;
 }
 
 void TextJournal::aboutToGo() {
     if (std::exchange(alarmIsSet_, false)) alarm_.cancel();
     if (!textIsUnsaved()) return;
-    discard(onView());
-    store_.clear(JournalStore::Shelf::OnView);
+    if (discard(onView())) store_.clear(JournalStore::Shelf::OnView);
     // A panel that is closed still holds the text; it is dealt with.
     inFile_ = markOf(discarded_->text);
 }
@@ -83,9 +83,9 @@ void TextJournal::aboutToGo() {
 void TextJournal::lookForOlder() {
     if (std::exchange(lookedForOlder_, true) || discarded_) return;
     const auto older = store_.left(JournalStore::Shelf::Discarded);
-    if (older.empty()) return;
-    discard(older.front().text);
-    for (const auto& left : older) store_.forget(JournalStore::Shelf::Discarded, left.name);
+    // Those of further programs wait for further starts.
+    if (!older.empty() && discard(older.front().text))
+        store_.forget(JournalStore::Shelf::Discarded, older.front().name);
 }
 
 bool TextJournal::canBringBack() {
@@ -134,9 +134,7 @@ void TextJournal::bringBackWaiting(const Show& show) {
 
 void TextJournal::putWaitingAside() {
     const auto next = nextWaiting();
-    if (!next) return;
-    if (!canBringBack()) discard(next->text);
-    store_.forget(JournalStore::Shelf::OnView, next->name);
+    if (next && discard(next->text)) store_.forget(JournalStore::Shelf::OnView, next->name);
 }
 
 }  // namespace kelvo

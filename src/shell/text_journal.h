@@ -50,11 +50,11 @@ public:
     // one of the two below was called, the next one may be asked for.
     [[nodiscard]] std::optional<UnsavedText> waiting();
     void bringBackWaiting(const Show& show);
-    void putWaitingAside();  // it can still be brought back, unless another one can already
+    void putWaitingAside();  // it is then the last text that can be brought back
 
 private:
     [[nodiscard]] bool showUnsaved(const UnsavedText& text, const Show& show);
-    void discard(UnsavedText text);
+    bool discard(UnsavedText text);  // true if it is kept on the disk, too
     void lookForOlder();
     [[nodiscard]] std::optional<JournalStore::Left> nextWaiting();
 

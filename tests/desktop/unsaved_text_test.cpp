@@ -1,9 +1,12 @@
 // Text that was typed and not saved, whatever ends the program: nothing of it is lost.
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QDir>
 #include <QDirIterator>
 #include <QLabel>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
@@ -129,6 +132,52 @@ private slots:
         QVERIFY(last.start());
         QVERIFY(!last.findChild<QWidget*>("unsavedTextBar")->isVisible());
         QVERIFY(last.program().canBringBackText());
+    }
+
+    void whatAClickOnCloseDiscardedComesBackByTheHelpMenu() {
+        auto* help = window_->findChild<QMenu*>("mnuHelp");
+        auto* bringBack = window_->findChild<QAction*>("bringBackText");
+        QVERIFY(help != nullptr && bringBack != nullptr);
+        QVERIFY(help->actions().contains(bringBack));
+        emit help->aboutToShow();
+        QVERIFY(!bringBack->isEnabled());
+
+        hands_->click("mnuBatchEdit");
+        window_->book().viewer()->editor().selectAll();
+        window_->book().viewer()->editor().insertPlainText("한나절 친 글\n");
+        hands_->click("cmdClose");
+        emit help->aboutToShow();
+        QVERIFY(bringBack->isEnabled());
+        bringBack->trigger();
+        QCOMPARE(window_->book().viewer()->text(), std::string("한나절 친 글\r\n"));
+        QVERIFY(window_->book().viewer()->isVisible());
+        QVERIFY(window_->findChild<QLabel*>("unsavedMark")->isVisible());
+        emit help->aboutToShow();
+        QVERIFY(!bringBack->isEnabled());
+    }
+
+    void theViewersContextMenuOffersWhatARunDiscarded() {
+        hands_->click("mnuBatchEdit");
+        window_->book().viewer()->editor().insertPlainText("친 글\n");
+        hands_->click("mnuBatchGo");
+        auto* bringBack = window_->findChild<QAction*>("bringBackText");
+        QVERIFY(bringBack != nullptr);
+        bool wasOffered = false;
+        QTimer look;
+        connect(&look, &QTimer::timeout, [&] {
+            auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            if (menu == nullptr) return;
+            look.stop();
+            wasOffered = menu->actions().contains(bringBack) && bringBack->isEnabled() &&
+                         menu->actions().size() > 1;
+            menu->close();
+        });
+        look.start(10);
+        QPlainTextEdit& editor = window_->book().viewer()->editor();
+        QContextMenuEvent wish(QContextMenuEvent::Mouse, QPoint(20, 20),
+                               editor.mapToGlobal(QPoint(20, 20)));
+        QApplication::sendEvent(editor.viewport(), &wish);
+        QTRY_VERIFY(wasOffered);
     }
 
     void nothingUnsavedLeavesNothingBehind() {

@@ -231,6 +231,30 @@ TEST_F(Journal, TheLastDiscardedTextOfAnEarlierProgramCanBeTakenBack) {
     EXPECT_EQ(program->text("Richtxt"), "one");
 }
 
+TEST_F(Journal, OfSeveralEarlierProgramsNoDiscardedTextGoesUnseen) {
+    leave(Shelf::Discarded, "/job/x.dat", "newer");
+    leave(Shelf::Discarded, "/job/y.dat", "older");
+    ASSERT_TRUE(window().canBringBackText());
+    window().bringBackText();
+    EXPECT_EQ(program->text("Richtxt"), "newer");
+    ASSERT_EQ(program->services.left[Shelf::Discarded].size(), 1U);
+    EXPECT_EQ(program->services.left[Shelf::Discarded].front().text.text, "older");
+}
+
+TEST_F(Journal, ADiscardedTextOfAnEarlierProgramStaysWhereThisOneHasNoRoomForIt) {
+    leave(Shelf::Discarded, "/job/x.dat", "one");
+    program->services.journalIsFull = true;
+    ASSERT_TRUE(window().canBringBackText());
+    EXPECT_EQ(program->services.left[Shelf::Discarded].size(), 1U);
+}
+
+TEST_F(Journal, AnOfferThatIsPutAsideAndCannotBeKeptStays) {
+    leave(Shelf::OnView, "/job/x.dat", "one");
+    program->services.journalIsFull = true;
+    window().putWaitingTextAside();
+    EXPECT_EQ(program->services.left[Shelf::OnView].size(), 1U);
+}
+
 TEST_F(Journal, ASessionWithoutTypingKeepsNothing) {
     program->click("mnuBatchGo");
     program->click("cmdClose");
