@@ -132,9 +132,9 @@ private:
 class RecordingServices::HeldAlarm final : public Alarm {
 public:
     explicit HeldAlarm(RecordingServices& owner) : owner_(owner) {}
-    void set(std::chrono::milliseconds later, std::function<void()> ring) override {
+    void set(std::chrono::milliseconds later, std::function<void()> bell) override {
         owner_.alarmIn = later;
-        owner_.ring = std::move(ring);
+        owner_.ring = std::move(bell);
     }
     void cancel() override { owner_.ring = nullptr; }
 
