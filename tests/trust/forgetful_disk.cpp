@@ -41,10 +41,12 @@ std::vector<ForgetfulDisk::Found> ForgetfulDisk::possibleFinds() const {
     std::vector<Found> finds;
     for (const Names& names : names_) {
         std::vector<Found> some{Found{}};
-        for (const auto& [path, file] : names) {
+        for (const auto& entry : names) {
+            const auto& [path, file] = entry;
             // Two names of one file show the same version of it.
-            const auto first = std::find_if(names.begin(), names.end(),
-                                            [&](const auto& one) { return one.second == file; });
+            const auto first = std::find_if(names.begin(), names.end(), [&](const auto& one) {
+                return one.second == entry.second;
+            });
             std::vector<Found> next;
             for (const Found& found : some) {
                 if (first->first != path) {
