@@ -9,7 +9,7 @@
 namespace kelvo {
 
 struct CommandLine {
-    enum class Wish { Convert, Help, Version };
+    enum class Wish { Convert, Check, Help, Version };
 
     Wish wish = Wish::Convert;
     std::optional<std::string> applicationFolder;  // without a trailing separator
@@ -24,7 +24,7 @@ struct CommandLineReading {
 };
 
 // Reads the arguments behind the program's name. Refused: no data file, an unknown option, "-"
-// for standard input, two data files that would write the same result file.
+// for standard input, two data files that would write the same result file in a conversion.
 [[nodiscard]] CommandLineReading readCommandLine(std::span<const std::string> arguments);
 
 // The arguments of this process behind the program's name, in UTF-8 on every platform.
