@@ -5,7 +5,7 @@
 
 namespace kelvo {
 
-// Reads the next line and tells whether it continues a block of lines: it begins with three
+// Reads the next line and returns whether it continues a block of lines: it begins with three
 // blanks and holds a field. Otherwise, and at the end of the file, the block is over; a line
 // that was read stays in LineBuf for the main loop.
 [[nodiscard]] bool readContinuationLine(CurrentRun& run);

@@ -6,7 +6,7 @@
 // Numbers are 64-bit. Rounded to 32 bits are only the page x inside cx, where plinemmto leaves
 // the pen, pKind, and the widths of three symbols of ticmark (required; cy isn't rounded).
 // Nothing that isn't finite reaches a surface: a division by zero is fault 11 (0/0 is 6), a value
-// out of range fault 6. A call stops at its fault; what was told to the surface stands, and kept
+// out of range fault 6. A call stops at its fault; what the surface was given stands, and kept
 // values aren't put back. Drawing without a surface is fault 5, which pline swallows.
 // No call draws without end: plinedot, pcircledot and pgrid stop after kMostStrokes strokes a
 // call, a triangle of a fill after kMostTriangleStrokes.
@@ -54,7 +54,7 @@ public:
 
     // The window: page mm pl, pr, pb, pt belong to the user values ul, ur, ub, ut. kind 0 linear,
     // 1 y logarithmic, 2 x logarithmic, 3 both. An axis without extent, a logarithmic axis not
-    // above 0 and an unknown kind are told in one message; the axis keeps its former scale, but
+    // above 0 and an unknown kind are reported in one message; the axis keeps its former scale, but
     // kind and origin are those of the refused window (required). An axis may run backward.
     void pwindow(double pl, double ul, double pr, double ur, double pb, double ub, double pt,
                  double ut, double kind);
@@ -103,7 +103,7 @@ public:
 
     // r in user units of x. A span of 358 to 363 degrees, and of 0 to 0, is the whole circle.
     void pcircle(double x, double y, double r, double start, double end, double lw);
-    // dash and gap in mm; the way behind the last whole period is drawn solid.
+    // dash and gap in mm; the way after the last whole period is drawn solid.
     void pcircledot(double x, double y, double r, double start, double end, double lw, double dash,
                     double gap);
 

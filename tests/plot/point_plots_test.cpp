@@ -65,7 +65,7 @@ protected:
         PlotSource source{points, cfg, panel, texts, messages};
         kelvo::plot(object, kind, kind == 2 ? screen : printer, source);
         boxes = panel.boxes;
-        Lines calls = told();
+        Lines calls = drawn();
         saves = std::erase(calls, "SavePcfgFile");
         return calls;
     }
@@ -246,7 +246,7 @@ TEST_F(PointPlots, BindingComesFirstThenTheScaleThenTheDrawing) {
     PanelDouble panel(cfg, recorded);
     PlotSource source{points, cfg, panel, texts, messages};
     kelvo::plot(object, 2, screen, source);
-    const auto lines = told();
+    const auto lines = drawn();
     ASSERT_GT(lines.size(), 5U);
     EXPECT_EQ(Lines(lines.begin(), lines.begin() + 4),
               (Lines{"ForeColor = 0", "Font = 굴림체", "SavePcfgFile", "Cls"}));
@@ -260,7 +260,7 @@ TEST_F(PointPlots, KindThatStandsBeforeSavingIsTheOneDrawn) {
     kelvo::plot(object, 2, screen, source);
     EXPECT_EQ(cfg.PlotKind, 1);
     EXPECT_EQ(cfg.XY.Inter, 5);
-    EXPECT_GT(countOf(told(), "print  4532"), 0);
+    EXPECT_GT(countOf(drawn(), "print  4532"), 0);
 }
 
 TEST_F(PointPlots, UnknownKindDrawsNothing) {
