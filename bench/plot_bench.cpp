@@ -54,7 +54,7 @@ struct Drawing {
     clsplot1 object{silence, silence, surface};
 
     Drawing() {
-        cfg.PlotKind = 3;
+        cfg.PlotKind = PointPlot::XY;
         cfg.PlotManual = 1;
         cfg.PlotFontSize = 8;
         cfg.XY = {.Xb = 453000, .Yb = 158000, .Span = 3000, .Inter = 500};
@@ -63,7 +63,7 @@ struct Drawing {
     void draw() {
         PlotSource source{
             .points = points, .cfg = cfg, .panel = silence, .texts = texts, .messages = silence};
-        plot(object, 2, surface, source);
+        plot(object, SurfaceKind::Screen, surface, source);
     }
 
     void paint(QImage& image) const {

@@ -22,11 +22,8 @@ void PaperSurface::EndDoc() {
 }
 
 void PaperSurface::NewPage() {
-    if (hasDrawing()) sheets_.push_back({takePicture(), landscape_});
-}
-
-void PaperSurface::setOrientation(int orientation) {
-    landscape_ = orientation == 2;
+    const bool landscape = members().Orientation == SheetOrientation::Landscape;
+    if (hasDrawing()) sheets_.push_back({takePicture(), landscape});
 }
 
 std::vector<Sheet> PaperSurface::takeSheets() {

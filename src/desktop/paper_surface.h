@@ -21,7 +21,6 @@ public:
     // A sheet that holds nothing isn't printed.
     void EndDoc() override;
     void NewPage() override;
-    void setOrientation(int orientation) override;
 
     // The sheets that wait for printing; leaves none.
     [[nodiscard]] std::vector<Sheet> takeSheets();
@@ -29,7 +28,6 @@ public:
 
 private:
     std::vector<Sheet> sheets_;
-    bool landscape_ = false;
 };
 
 // Makes a printer ready for sheets: A4, the origin at the sheet's corner.

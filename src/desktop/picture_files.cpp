@@ -80,7 +80,7 @@ public:
         : looks_(picture.looks), faces_(picture.looks.begin(), picture.looks.end()), out_(out) {}
 
     void operator()(const DrawnLine& line) {
-        const auto ink = inkOnPaper(line.pen.drawMode, line.pen.colour);
+        const auto ink = inkOnPaper(line.pen.mode, line.pen.colour);
         if (!ink) return;
         out_ << "<line x1=\"" << number(line.from.x()) << "\" y1=\"" << number(line.from.y())
              << "\" x2=\"" << number(line.to.x()) << "\" y2=\"" << number(line.to.y()) << "\" "
@@ -88,7 +88,7 @@ public:
     }
 
     void operator()(const DrawnBox& box) {
-        const auto ink = inkOnPaper(box.pen.drawMode, box.pen.colour);
+        const auto ink = inkOnPaper(box.pen.mode, box.pen.colour);
         if (!ink) return;
         out_ << "<rect x=\"" << number(box.box.x()) << "\" y=\"" << number(box.box.y())
              << "\" width=\"" << number(box.box.width()) << "\" height=\""
@@ -101,11 +101,11 @@ public:
     }
 
     void operator()(const DrawnCircle& circle) {
-        const auto ink = inkOnPaper(circle.pen.drawMode, circle.pen.colour);
+        const auto ink = inkOnPaper(circle.pen.mode, circle.pen.colour);
         if (!ink) return;
         const bool whole = !(circle.start < circle.end) && !(circle.end < circle.start);
         if (whole) {
-            const auto fill = inkOnPaper(circle.pen.drawMode, circle.fill);
+            const auto fill = inkOnPaper(circle.pen.mode, circle.fill);
             out_ << "<ellipse cx=\"" << number(circle.centre.x()) << "\" cy=\""
                  << number(circle.centre.y()) << "\" rx=\"" << number(circle.radiusX) << "\" ry=\""
                  << number(circle.radiusY) << "\" "

@@ -36,11 +36,11 @@ public:
         const bool level = upright || std::abs(line.from.y() - line.to.y()) < 0.5;
         // Only thin ones: the round ends of a wide one show.
         const bool thin = line.pen.width * toDevice_.m11() < 2.5;
-        if (level && thin && onWholePixels_ && line.pen.drawMode == 13) {
+        if (level && thin && onWholePixels_ && line.pen.mode == RasterMode::CopyPen) {
             return drawLevelLine(line, upright);
         }
         if (!usePen(line.pen)) return;
-        smooth((!level || !thin) && line.pen.drawMode == 13);
+        smooth((!level || !thin) && line.pen.mode == RasterMode::CopyPen);
         painter_.drawLine(line.from, line.to);
     }
 
@@ -59,13 +59,14 @@ public:
 
     void operator()(const DrawnCircle& circle) {
         if (!usePen(circle.pen)) return;
-        smooth(circle.pen.drawMode == 13);
+        smooth(circle.pen.mode == RasterMode::CopyPen);
         const QRectF frame(circle.centre.x() - circle.radiusX, circle.centre.y() - circle.radiusY,
                            2 * circle.radiusX, 2 * circle.radiusY);
         const bool whole = !(circle.start < circle.end) && !(circle.end < circle.start);
-        if (whole && !circle.filled && circle.pen.drawMode == 13) return drawRing(circle);
+        if (whole && !circle.filled && circle.pen.mode == RasterMode::CopyPen)
+            return drawRing(circle);
         if (whole) {
-            const std::optional<QColor> fill = inkOf({circle.fill, 0, circle.pen.drawMode});
+            const std::optional<QColor> fill = inkOf({circle.fill, 0, circle.pen.mode});
             painter_.setBrush(circle.filled && fill ? QBrush(*fill) : QBrush(Qt::NoBrush));
             painter_.drawEllipse(frame);
             return;
@@ -143,13 +144,13 @@ private:
     }
 
     [[nodiscard]] std::optional<QColor> inkOf(const Pen& pen) const {
-        if (medium_ == Medium::Paper) return inkOnPaper(pen.drawMode, pen.colour);
-        return compositionOf(pen.drawMode) ? std::optional(pen.colour) : std::nullopt;
+        if (medium_ == Medium::Paper) return inkOnPaper(pen.mode, pen.colour);
+        return compositionOf(pen.mode) ? std::optional(pen.colour) : std::nullopt;
     }
 
     // The colour to draw with, and the raster operation set; nothing if nothing is to be drawn.
     std::optional<QColor> useMode(const Pen& pen) {
-        const std::optional<QPainter::CompositionMode> mode = compositionOf(pen.drawMode);
+        const std::optional<QPainter::CompositionMode> mode = compositionOf(pen.mode);
         if (!mode) return std::nullopt;
         setMode(*mode);
         return inkOf(pen);

@@ -86,17 +86,17 @@ void PlotSettingsPanel::optManual_Click() {
 
 void PlotSettingsPanel::SavePcfgFile() {
     PlotCfg& cfg = state_.plotCfg;
-    if (on_.optXY.value()) cfg.PlotKind = 3;
-    if (on_.optUGS.value()) cfg.PlotKind = 2;
-    if (on_.optWGS.value()) cfg.PlotKind = 1;
+    if (on_.optXY.value()) cfg.PlotKind = PointPlot::XY;
+    if (on_.optUGS.value()) cfg.PlotKind = PointPlot::UGS;
+    if (on_.optWGS.value()) cfg.PlotKind = PointPlot::WGS;
 
     const auto boxes = on_.scaleBoxes();
     for (std::size_t i = 0; i < boxes.size(); ++i) {
         const double number = strictNumberOf(*boxes[i]);
-        if (cfg.PlotKind == 3) {
+        if (cfg.PlotKind == PointPlot::XY) {
             cfg.XY.*kFields[i] = toSingle(number);
-        } else if (cfg.PlotKind == 1 || cfg.PlotKind == 2) {
-            PlotScale& scale = cfg.PlotKind == 1 ? cfg.WGS : cfg.UGS;
+        } else if (cfg.PlotKind == PointPlot::WGS || cfg.PlotKind == PointPlot::UGS) {
+            PlotScale& scale = cfg.PlotKind == PointPlot::WGS ? cfg.WGS : cfg.UGS;
             scale.*kFields[i] = toSingle(KelvoSub::DmsToDeg(number, messages_));
         }
     }
@@ -108,7 +108,7 @@ void PlotSettingsPanel::SavePcfgFile() {
 void PlotSettingsPanel::writePcfgFile() {
     const PlotCfg& cfg = state_.plotCfg;
     std::string text;
-    for (const std::int16_t number : {cfg.PlotKind, cfg.PlotManual})
+    for (const std::int16_t number : {static_cast<std::int16_t>(cfg.PlotKind), cfg.PlotManual})
         text.append(numberInFile(number)).append(kLineEnd);
     text.append(numberInFile(cfg.PlotFontSize)).append(kLineEnd);
     for (const PlotScale* scale : {&cfg.WGS, &cfg.UGS, &cfg.XY}) {
@@ -121,7 +121,7 @@ void PlotSettingsPanel::writePcfgFile() {
 void PlotSettingsPanel::readPcfgFile() {
     PlotCfg& cfg = state_.plotCfg;
     TextReader file(disk_, state_.inApplicationFolder(std::string(kFileName)));
-    cfg.PlotKind = roundedInteger16(file.readNumber());
+    cfg.PlotKind = static_cast<PointPlot>(roundedInteger16(file.readNumber()));
     cfg.PlotManual = roundedInteger16(file.readNumber());
     cfg.PlotFontSize = toSingle(file.readNumber());
     readScale(file, cfg.WGS);
@@ -137,9 +137,9 @@ void PlotSettingsPanel::RestorePcfgFile() {
             optWGS_Click();
             optUGS_Click();
             optXY_Click();
-            if (cfg.PlotKind == 1) optWGS_Click();
-            if (cfg.PlotKind == 2) optUGS_Click();
-            if (cfg.PlotKind == 3) optXY_Click();
+            if (cfg.PlotKind == PointPlot::WGS) optWGS_Click();
+            if (cfg.PlotKind == PointPlot::UGS) optUGS_Click();
+            if (cfg.PlotKind == PointPlot::XY) optXY_Click();
             (cfg.PlotManual != 0 ? on_.optManual : on_.optAuto).switchOn();
             on_.txtFontSize.setText(singleText(cfg.PlotFontSize, true));
             return;
@@ -148,7 +148,7 @@ void PlotSettingsPanel::RestorePcfgFile() {
             if (recoveries == 2) throw;
             if (recoveries == 1) cfg.WGS = cfg.UGS = cfg.XY = PlotScale{};
         }
-        cfg.PlotKind = 3;
+        cfg.PlotKind = PointPlot::XY;
         cfg.PlotManual = 0;
         cfg.PlotFontSize = 8;
         writePcfgFile();

@@ -25,6 +25,9 @@
 
 namespace kelvo {
 
+// The kinds that pinitialize takes as numbers.
+enum class SurfaceKind { Printer = 1, Screen = 2 };
+
 class clsplot1 {
 public:
     static constexpr int kMostStrokes = 100'000;
@@ -183,6 +186,10 @@ private:
     struct GridAxis;
 
     [[nodiscard]] Surface& surface() const;
+    [[nodiscard]] bool onPrinter() const { return isKind(SurfaceKind::Printer); }
+    [[nodiscard]] bool onScreen() const { return isKind(SurfaceKind::Screen); }
+    // A caller may bind to a number of its own, which is neither.
+    [[nodiscard]] bool isKind(SurfaceKind kind) const { return pKind_ == static_cast<float>(kind); }
     [[nodiscard]] double surfaceRadius(double r) const;
     [[nodiscard]] bool linearX() const { return WinKind_ == 0 || WinKind_ == 1; }
     [[nodiscard]] bool logarithmicX() const { return WinKind_ == 2 || WinKind_ == 3; }

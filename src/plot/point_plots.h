@@ -12,6 +12,7 @@ namespace kelvo {
 
 class clsplot1;
 class Surface;
+enum class SurfaceKind;
 
 // What a plot asks of the scale panel: the four boxes show an automatic scale, and saving reads
 // them back into the settings (with the rounding of their text).
@@ -38,9 +39,9 @@ struct PlotSource {
     MessageBoxes& messages;
 };
 
-// Binds the plot object to the surface (kind 2 the screen, 1 the printer: 15 mm from the left,
-// 40 mm from the top, 1.3 times as large) and draws the plot that cfg.PlotKind names.
-void plot(clsplot1& object, int kind, Surface& surface, PlotSource& source);
+// Binds the plot object to the surface (on the printer 15 mm from the left, 40 mm from the top,
+// 1.3 times as large) and draws the plot that cfg.PlotKind names.
+void plot(clsplot1& object, SurfaceKind kind, Surface& surface, PlotSource& source);
 
 // WGS84 latitude and longitude, user latitude and longitude, TM grid. With the automatic scale
 // the square is laid around the points first. No points, or a scale that can't be drawn

@@ -11,6 +11,7 @@
 namespace kelvo {
 
 class clsplot1;
+enum class SurfaceKind;
 
 class PointPictures {
 public:
@@ -28,7 +29,7 @@ public:
     void drawOnPrinter();
 
 private:
-    void draw(std::unique_ptr<clsplot1>& object, int kind, Surface& surface);
+    void draw(std::unique_ptr<clsplot1>& object, SurfaceKind kind, Surface& surface);
 
     PlotSettingsPanel& settings_;
     ProgramState& state_;

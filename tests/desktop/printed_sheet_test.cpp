@@ -176,9 +176,9 @@ private slots:
 
     // Grid lines end 2 hundredths of the span inside the square of 1.1 spans.
     void theGridOfAPlotLiesInThatSquare() {
-        for (const std::int16_t kind : {std::int16_t{1}, std::int16_t{2}, std::int16_t{3}}) {
+        for (const PointPlot kind : {PointPlot::WGS, PointPlot::UGS, PointPlot::XY}) {
             PaperSurface paper;
-            drawSamplePlot(1, paper, kind, false);
+            drawSamplePlot(SurfaceKind::Printer, paper, kind, false);
             const std::vector<Page> pages = printed(paper);
             QCOMPARE(pages.size(), std::size_t{1});
             const double margin = 178.1 * 0.02 / 1.1;

@@ -25,11 +25,13 @@ public:
     void showScale(const std::array<std::string, 4>& texts) override { boxes_ = texts; }
     void SavePcfgFile() override {
         if (boxes_[0].empty()) return;
-        PlotScale& group = cfg.PlotKind == 1 ? cfg.WGS : cfg.PlotKind == 2 ? cfg.UGS : cfg.XY;
+        PlotScale& group = cfg.PlotKind == PointPlot::WGS   ? cfg.WGS
+                           : cfg.PlotKind == PointPlot::UGS ? cfg.UGS
+                                                            : cfg.XY;
         const auto read = [this](const std::string& box) {
             const double number = strictNumber(box);
-            return static_cast<float>(cfg.PlotKind == 3 ? number
-                                                        : KelvoSub::DmsToDeg(number, *this));
+            return static_cast<float>(
+                cfg.PlotKind == PointPlot::XY ? number : KelvoSub::DmsToDeg(number, *this));
         };
         group = {read(boxes_[0]), read(boxes_[1]), read(boxes_[2]), read(boxes_[3])};
     }
@@ -71,7 +73,7 @@ PointTable samplePoints() {
 
 }  // namespace
 
-void drawSamplePlot(int kind, Surface& surface, std::int16_t plotKind, bool manual) {
+void drawSamplePlot(SurfaceKind kind, Surface& surface, PointPlot plotKind, bool manual) {
     Desk desk;
     desk.cfg.PlotKind = plotKind;
     desk.cfg.PlotManual = manual ? 1 : 0;

@@ -31,10 +31,10 @@ QImage painted(const PictureSurface& surface, Medium medium, const QColor& groun
 
 QRgb filledUnder(int mode, QRgb pen, QRgb ground, Medium medium) {
     PictureSurface surface({});
-    surface.setDrawMode(mode);
+    surface.setDrawMode(static_cast<kelvo::RasterMode>(mode));
     const auto colour =
         static_cast<std::int32_t>(qRed(pen) | (qGreen(pen) << 8) | (qBlue(pen) << 16));
-    surface.Line(0, 0, 600, 600, colour, kFormFilledBox);
+    surface.Line(0, 0, 600, 600, colour, LineForm::FilledBox);
     return painted(surface, medium, QColor(ground)).pixel(20, 20) & 0xFFFFFF;
 }
 
@@ -68,29 +68,29 @@ private slots:
                          filledUnder(mode, pen, 0xFFFFFF, Medium::Pixels),
                      qPrintable(QString::number(mode)));
         }
-        QVERIFY(!inkOnPaper(11, Qt::red));
+        QVERIFY(!inkOnPaper(RasterMode::Nothing, Qt::red));
     }
 
     void colourHasRedInItsLowestByte() {
         PictureSurface surface({});
-        surface.Line(0, 0, 600, 600, 0x0000FF, kFormFilledBox);
+        surface.Line(0, 0, 600, 600, 0x0000FF, LineForm::FilledBox);
         QCOMPARE(painted(surface, Medium::Pixels, Qt::white).pixelColor(20, 20), QColor(Qt::red));
     }
 
     void aWholeCircleIsFilledOnlyWhenItsStyleIsSolid() {
         PictureSurface surface({});
         surface.setFillColor(0x00FF00);
-        surface.Circle(300, 300, 200, 0, 0, 0, 0, kFormCircle);
+        surface.Circle(300, 300, 200, 0, 0, 0, 0, CircleForm::Whole);
         QCOMPARE(painted(surface, Medium::Pixels, Qt::white).pixelColor(20, 20), QColor(Qt::white));
-        surface.setFillStyle(0);
-        surface.Circle(300, 300, 200, 0, 0, 0, 0, kFormCircle);
+        surface.setFillStyle(FillKind::Solid);
+        surface.Circle(300, 300, 200, 0, 0, 0, 0, CircleForm::Whole);
         QCOMPARE(painted(surface, Medium::Pixels, Qt::white).pixelColor(20, 20), QColor(Qt::green));
     }
 
     void anArcRunsCounterClockwise() {
         PictureSurface surface({});
         surface.setDrawWidth(4);
-        surface.Circle(300, 300, 225, 0, 0, 1.5707963, 0, kFormArc);
+        surface.Circle(300, 300, 225, 0, 0, 1.5707963, 0, CircleForm::Arc);
         const QImage image = painted(surface, Medium::Pixels, Qt::white);
         QVERIFY(image.pixelColor(31, 9).lightness() < 128);   // upper right: drawn
         QVERIFY(image.pixelColor(31, 31).lightness() > 200);  // lower right: not
@@ -114,7 +114,7 @@ private slots:
         font.lfEscapement = 900;
         font.lfFaceName = "바탕";
         surface.CreateFontIndirectA(font);
-        surface.SelectCreatedFont();
+        surface.SelectObject(SelectedFont::Created);
         surface.TextOutA(10, 30, "37-30", 5);
         const auto& text = std::get<DrawnText>(surface.picture().items.at(0));
         QCOMPARE(text.angle, 90.0);
@@ -135,7 +135,7 @@ private slots:
 
     void clearingLeavesAnEmptyPicture() {
         PictureSurface surface({});
-        surface.Line(0, 0, 600, 600, 0, kFormLine);
+        surface.Line(0, 0, 600, 600, 0, LineForm::Line);
         const unsigned before = surface.revision();
         surface.Cls();
         QVERIFY(surface.picture().items.empty());
@@ -148,7 +148,7 @@ private slots:
         paper.setCurrentX(100);
         paper.print("첫 장");
         paper.EndDoc();
-        paper.setOrientation(2);
+        paper.setOrientation(SheetOrientation::Landscape);
         paper.print("둘째 장");
         paper.print("");
         const std::vector<Sheet> sheets = paper.takeSheets();
@@ -184,7 +184,7 @@ private slots:
     void picturesAreSavedByTheEndingOfTheirName() {
         const kelvo::testing::TemporaryFolder folder;
         PictureSurface surface({});
-        surface.Line(0, 0, 3000, 3000, 0, kFormLine);
+        surface.Line(0, 0, 3000, 3000, 0, LineForm::Line);
         surface.setFont("굴림체");
         surface.print("점 <1> & 2");
         for (const char* name : {"a.png", "a.SVG", "a.pdf"}) {

@@ -35,7 +35,7 @@ TEST_F(PlotFills, ModeOneCopiesThePenOnAPrinterWithColours) {
 
 TEST_F(PlotFills, BoxIsFilledInItsColourAndTheSurfaceIsPutBack) {
     useScreen();
-    screen.setDrawMode(7);
+    screen.setDrawMode(RasterMode::PenXorPaper);
     screen.setForeColor(40000);
     told();
     const Lines expected{"FillStyle = 0", "ForeColor = 255",

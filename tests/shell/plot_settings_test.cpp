@@ -72,7 +72,7 @@ TEST_F(PlotSettings, SavingTakesTheBoxesIntoTheKindThatIsOn) {
     kelvo.type("txtInter", "0.001");
     kelvo.type("txtFontSize", "10");
     kelvo.click("cmdPlot");
-    EXPECT_EQ(kelvo.plotCfg().PlotKind, 2);
+    EXPECT_EQ(kelvo.plotCfg().PlotKind, PointPlot::UGS);
     EXPECT_EQ(kelvo.plotCfg().PlotManual, 1);
     EXPECT_EQ(kelvo.plotCfg().UGS.Xb, 37.5F);
     EXPECT_EQ(kelvo.plotCfg().UGS.Yb, 127.25F);
@@ -104,7 +104,7 @@ TEST_F(PlotSettings, LineCutShortIsReplacedAndKeepsTheScalesReadBefore) {
     Program& kelvo = startWith(" 1 \r\n 1 \r\n 7 \r\n 37.5  127.25  .5  .125 \r\n 36.5  128 \r\n");
     EXPECT_EQ(kelvo.plotCfg().WGS.Yb, 127.25F);
     EXPECT_EQ(kelvo.plotCfg().UGS.Xb, 36.5F);
-    EXPECT_EQ(kelvo.plotCfg().PlotKind, 3);
+    EXPECT_EQ(kelvo.plotCfg().PlotKind, PointPlot::XY);
     EXPECT_EQ(disk.bytes(kPlotCfg),
               " 3 \r\n 0 \r\n 8 \r\n 37.5  127.25  .5  .125 \r\n 36.5  128  0  0 \r\n"
               " 0  0  0  0 \r\n");
@@ -130,7 +130,7 @@ TEST_F(PlotSettings, UnknownKindLeavesTheLastOfTheThree) {
     Program& kelvo =
         startWith(" 7 \r\n 0 \r\n 8 \r\n 1  2  3  4 \r\n 1  2  3  4 \r\n 1  2  3  4 \r\n");
     EXPECT_TRUE(kelvo.on("optXY"));
-    EXPECT_EQ(kelvo.plotCfg().PlotKind, 7);
+    EXPECT_EQ(kelvo.plotCfg().PlotKind, PointPlot{7});
 }
 
 TEST_F(PlotSettings, BoxesSelectThemselvesOnEntry) {
