@@ -6,7 +6,7 @@
 #include "panels/one_point_panel.h"
 #include "panels/parameter_panels.h"
 #include "panels/print_mode_panel.h"
-#include "panels/scale_panel.h"
+#include "panels/plot_settings_panel.h"
 #include "shell/common_dialog.h"
 #include "shell/configuration.h"
 #include "shell/file_menu.h"

@@ -6,7 +6,7 @@
 
 #include "form/services.h"
 #include "panels/print_mode_panel.h"
-#include "panels/scale_panel.h"
+#include "panels/plot_settings_panel.h"
 
 namespace kelvo {
 

@@ -1,4 +1,4 @@
-#include "panels/scale_panel.h"
+#include "panels/plot_settings_panel.h"
 #include "shell/window_bench.h"
 
 namespace kelvo {
