@@ -132,7 +132,11 @@ void clsplot1::pFillTri(double x1, double y1, double x2, double y2, double x3, d
     const double Y3 = cy(y3);
     double step = 11;
     if (onPrinter()) step = genSub::MinOf(on.TwipsPerPixelX(), on.TwipsPerPixelY());
-    const auto [D, height] = genSub::DistanceToLine(X1, Y1, X2, Y2, X3, Y3);
+    // An upright line counts as lying on x = 0 there, so it is handed over with its corner there.
+    const bool upright = X1 == X2;
+    const auto [D, height] =
+        upright ? genSub::DistanceToLine(0, 0, 0, finite(Y2 - Y1), finite(X3 - X1), finite(Y3 - Y1))
+                : genSub::DistanceToLine(X1, Y1, X2, Y2, X3, Y3);
     double H = height;
     double off = 0;
     for (int k = 0; k < kMostTriangleStrokes; ++k) {
@@ -154,8 +158,14 @@ clsplot1::Stroke clsplot1::TriStroke(double x1, double y1, double x2, double y2,
                                      double y3, double distance, double direction) {
     const PlanePoint p = PolarPoint(x1, y1, direction, distance);
     const PlanePoint q = PolarPoint(x2, y2, direction, distance);
-    const PlanePoint a = LineIntersection(x1, y1, x3, y3, p.x, p.y, q.x, q.y);
-    const PlanePoint b = LineIntersection(x2, y2, x3, y3, p.x, p.y, q.x, q.y);
+    // The meeting point takes its y from the line that comes second; the slope that stands for
+    // upright leaves no digit of it, so an upright moved side comes first.
+    const auto meeting = [&](double x, double y) {
+        return p.x == q.x ? LineIntersection(p.x, p.y, q.x, q.y, x, y, x3, y3)
+                          : LineIntersection(x, y, x3, y3, p.x, p.y, q.x, q.y);
+    };
+    const PlanePoint a = meeting(x1, y1);
+    const PlanePoint b = meeting(x2, y2);
     return {.ax = a.x, .ay = a.y, .bx = b.x, .by = b.y};
 }
 

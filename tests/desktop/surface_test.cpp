@@ -13,12 +13,19 @@
 #include "desktop/picture_painter.h"
 #include "desktop/picture_surface.h"
 #include "desktop/raster_modes.h"
+#include "plot/clsplot1.h"
 #include "support/temporary_folder.h"
 
 using namespace kelvo;
 using namespace kelvo::desktop;
 
 namespace {
+
+class NobodyThere final : public MessageBoxes, public ProgramStarter {
+public:
+    Answer show(const Message&) override { return Answer::Ok; }
+    void start(const std::string&) override {}
+};
 
 QImage painted(const PictureSurface& surface, Medium medium, const QColor& ground) {
     QImage image(40, 40, QImage::Format_RGB32);
@@ -85,6 +92,32 @@ private slots:
         surface.setFillStyle(FillKind::Solid);
         surface.Circle(300, 300, 200, 0, 0, 0, 0, CircleForm::Whole);
         QCOMPARE(painted(surface, Medium::Pixels, Qt::white).pixelColor(20, 20), QColor(Qt::green));
+    }
+
+    // A polygon is filled by strokes along its sides, two of which stand upright here.
+    void aSquareIsFilledInAllItsPixels() {
+        NobodyThere nobody;
+        PictureSurface surface({});
+        clsplot1 object(nobody, nobody, surface);
+        object.pinitialize(0, 0, 1, 1, static_cast<int>(SurfaceKind::Screen), surface);
+        const std::array<double, 4> xs{2, 8, 8, 2};
+        const std::array<double, 4> ys{2, 2, 8, 8};
+        object.pFillPoly(xs, ys, 4, 0x0000FF);
+        const QImage image = painted(surface, Medium::Pixels, Qt::white);
+        const double pixelsPerMillimetre = 56.7 / 15;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                const auto inside = [&](double at, double margin) {
+                    return at >= 2 * pixelsPerMillimetre - margin &&
+                           at <= 8 * pixelsPerMillimetre + margin;
+                };
+                const QColor colour = image.pixelColor(x, y);
+                const QByteArray where = QStringLiteral("%1 %2").arg(x).arg(y).toUtf8();
+                // A pen is round and a pixel wide at the edges.
+                if (inside(x, -1) && inside(y, -1)) QVERIFY2(colour == Qt::red, where);
+                if (!inside(x, 4) || !inside(y, 4)) QVERIFY2(colour == Qt::white, where);
+            }
+        }
     }
 
     void anArcRunsCounterClockwise() {
