@@ -1,8 +1,8 @@
-# How every target of Kelvo is compiled.
+# How every target of Kelvo is compiled, and which folders it sees.
 #
 # Printed digits are the contract: no fast-math, and no contraction of a product and a sum into
 # one rounding, so that every compiler and level of optimisation gives the same last digit. Nobody
-# reads errno behind a mathematical function; without it a root is one instruction and a sine and
+# reads errno after a mathematical function; without it a root is one instruction and a sine and
 # a cosine of one angle are one call, with the same results.
 
 function(kelvo_compile_options target)
@@ -20,22 +20,49 @@ function(kelvo_compile_options target)
     endif()
 endfunction()
 
-# kelvo_folder(name SOURCES ... DEPENDS ...): one folder of src/, one library.
+# kelvo_may_include(folder FOLDER...): a row of the table in src/CMakeLists.txt.
+function(kelvo_may_include folder)
+    set_property(GLOBAL PROPERTY KELVO_SEES_${folder} ${ARGN})
+endfunction()
+
+# Each folder has an include root of its own, in which nothing but this folder is found. A target
+# gets the roots that the table gives it, so an include that isn't in the table doesn't compile.
+function(kelvo_include_root target folder)
+    set(root ${CMAKE_BINARY_DIR}/include/${folder})
+    if(NOT EXISTS ${root}/${folder})
+        file(MAKE_DIRECTORY ${root})
+        file(CREATE_LINK ${CMAKE_SOURCE_DIR}/src/${folder} ${root}/${folder} SYMBOLIC)
+    endif()
+    target_include_directories(${target} PRIVATE ${root})
+endfunction()
+
+# kelvo_folder(name SOURCES ...): one folder of src/, one library.
 function(kelvo_folder name)
-    cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS" ${ARGN})
+    cmake_parse_arguments(ARG "" "" "SOURCES" ${ARGN})
     add_library(kelvo_${name} STATIC ${ARG_SOURCES})
-    target_include_directories(kelvo_${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
     kelvo_compile_options(kelvo_${name})
-    foreach(folder IN LISTS ARG_DEPENDS)
+    kelvo_include_root(kelvo_${name} ${name})
+    get_property(sees GLOBAL PROPERTY KELVO_SEES_${name})
+    foreach(folder IN LISTS sees)
+        kelvo_include_root(kelvo_${name} ${folder})
         target_link_libraries(kelvo_${name} PUBLIC kelvo_${folder})
     endforeach()
 endfunction()
 
+# kelvo_uses(target FOLDER...): a program, test or benchmark sees these folders, and what they see.
+function(kelvo_uses target)
+    foreach(folder IN LISTS ARGN)
+        target_link_libraries(${target} PUBLIC kelvo_${folder})
+        get_property(sees GLOBAL PROPERTY KELVO_SEES_${folder})
+        foreach(seen IN LISTS folder sees)
+            kelvo_include_root(${target} ${seen})
+        endforeach()
+    endforeach()
+endfunction()
+
 function(kelvo_program name)
-    cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS" ${ARGN})
+    cmake_parse_arguments(ARG "" "" "SOURCES;USES" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     kelvo_compile_options(${name})
-    foreach(folder IN LISTS ARG_DEPENDS)
-        target_link_libraries(${name} PRIVATE kelvo_${folder})
-    endforeach()
+    kelvo_uses(${name} ${ARG_USES})
 endfunction()
