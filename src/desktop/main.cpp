@@ -41,7 +41,7 @@ int reportStart(const RuntimeFault& fault) {
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("kelvo"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Kelvo"));
+    // No display name: it would stand behind the form's titles.
     QApplication::setApplicationVersion(QStringLiteral("3.5.0"));
     QApplication::setDesktopFileName(QStringLiteral("kelvo"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/kelvo/icon.png")));

@@ -102,10 +102,11 @@ void MainWindow::bindWindow() {
     window->watch([this, window](Property property) {
         if (property == Property::Caption) setWindowTitle(qt(window->caption()));
         if (property == Property::Place && window->width() > 0) {
-            setGeometry(static_cast<int>(std::lround(window->left() / kTwipsPerPixel)),
-                        static_cast<int>(std::lround(window->top() / kTwipsPerPixel)),
-                        static_cast<int>(std::lround(window->width() / kTwipsPerPixel)),
-                        static_cast<int>(std::lround(window->height() / kTwipsPerPixel)));
+            const auto pixels = [](double twips) {
+                return static_cast<int>(std::lround(twips / kTwipsPerPixel));
+            };
+            place_.put({pixels(window->left()), pixels(window->top()), pixels(window->width()),
+                        pixels(window->height())});
         }
     });
 }
@@ -133,8 +134,7 @@ void MainWindow::addThemeButton() {
     connect(button, &QToolButton::clicked, this, [this] {
         const Theme theme = isDark() ? Theme::Light : Theme::Dark;
         setTheme(*static_cast<QApplication*>(QApplication::instance()), theme);
-        QSettings(QDir(qt(applicationFolder_)).filePath(QStringLiteral("window.ini")),
-                  QSettings::IniFormat)
+        QSettings(settingsFile(), QSettings::IniFormat)
             .setValue(QStringLiteral("theme"), nameOf(theme));
     });
     menuBar()->setCornerWidget(button);
@@ -143,8 +143,13 @@ void MainWindow::addThemeButton() {
 bool MainWindow::start() {
     gate_.run([this] { Main(*program_); });
     if (gate_.isClosed()) return false;
+    place_.restore(QSettings(settingsFile(), QSettings::IniFormat));
     show();
     return true;
+}
+
+QString MainWindow::settingsFile() const {
+    return QDir(qt(applicationFolder_)).filePath(QStringLiteral("window.ini"));
 }
 
 void MainWindow::openDataFile(const QString& path) {
@@ -199,6 +204,8 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
+    QSettings settings(settingsFile(), QSettings::IniFormat);
+    place_.remember(settings);
     if (!gate_.isClosed()) {
         gate_.run([this] { program_->Form_Close(); });
     }

@@ -14,6 +14,7 @@
 #include "desktop/plot_view.h"
 #include "desktop/screen_services.h"
 #include "desktop/widget_book.h"
+#include "desktop/window_place.h"
 #include "shell/frm_kelvo.h"
 
 namespace kelvo::desktop {
@@ -63,6 +64,7 @@ private:
     void reportFault(int number, const std::string& text);
     void printWaitingSheets();
     [[nodiscard]] QPrinter& systemPrinter();
+    [[nodiscard]] QString settingsFile() const;
 
     std::string applicationFolder_;
     EventGate gate_;
@@ -85,6 +87,7 @@ private:
     std::unique_ptr<frmKelvo> program_;
     std::unique_ptr<WidgetBook> book_;
     PanelStage* stage_ = nullptr;
+    WindowPlace place_{*this};
     FilePanel filePanel_;
 };
 

@@ -12,6 +12,7 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QScreen>
+#include <QWindow>
 #include <algorithm>
 #include <array>
 #include <chrono>
@@ -69,6 +70,22 @@ QMessageBox::StandardButtons buttonsOf(Buttons buttons) {
     return QMessageBox::Ok;
 }
 
+// The toolkit puts the program's name on a window whose title is empty. Only the window of the
+// display gets the blank: to its user the box stays one without a title.
+class EmptyTitle final : public QObject {
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        auto* box = qobject_cast<QWidget*>(watched);
+        if (event->type() == QEvent::Show && box != nullptr && box->windowHandle() != nullptr) {
+            box->windowHandle()->setTitle(QStringLiteral(" "));
+        }
+        return false;
+    }
+};
+
 }  // namespace
 
 FolderLock::FolderLock(const QString& folder) : file_(QDir(folder).filePath("kelvo.lock")) {
@@ -100,6 +117,7 @@ Answer ScreenMessages::show(const Message& message) {
     for (const auto& [button, word] : words) {
         if (auto* shown = box.button(button)) shown->setText(QString::fromUtf8(word));
     }
+    if (message.title.empty()) box.installEventFilter(new EmptyTitle(&box));
     switch (box.exec()) {
         case QMessageBox::Yes:
             return Answer::Yes;

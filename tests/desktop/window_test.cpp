@@ -119,6 +119,26 @@ private slots:
         }
     }
 
+    // The frame, so that the title bar is on the screen; 0.88 of the screen are the frame's, too.
+    void theFrameStandsInTheScreensCorner() {
+        const Control* window = form().find("frmKelvo");
+        QCOMPARE(window_->frameGeometry().topLeft(), QPoint(0, 0));
+        QVERIFY(window_->geometry().top() > 0);  // this platform's frames have a title bar
+        QCOMPARE(window_->frameGeometry().size(),
+                 QSize(qRound(window->width() / 15), qRound(window->height() / 15)));
+    }
+
+    void theWindowComesBackWhereItWasLeft() {
+        window_->resize(640, 500);
+        window_->move(60, 70);
+        QApplication::processEvents();
+        const QRect left = window_->frameGeometry();
+        window_->close();
+        MainWindow next(folder_->path());
+        QVERIFY(next.start());
+        QCOMPARE(next.frameGeometry(), left);
+    }
+
     // Every widget lies in the widget of its control's parent, so that panels hide as a whole.
     void everyControlLiesInItsParent() {
         for (const Control& control : form().controls()) {
