@@ -152,6 +152,8 @@ void layOutOnePointPanel(WidgetBook& book) {
     chain->addLayout(arrows(book, "cmdTM2UTM", "lblUtm", "cmdUTM2TM"));
     auto* last = new QVBoxLayout;
     last->addWidget(book.at("Frame13"), 1);
+    last->addWidget(book.at("lblHeights"));
+    last->addWidget(book.at("lblGeoid"));
     last->addWidget(book.at("cmdOneClose"), 0, Qt::AlignRight | Qt::AlignBottom);
     chain->addLayout(last, 3);
     rows->addLayout(chain);

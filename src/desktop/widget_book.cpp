@@ -180,7 +180,6 @@ void WidgetBook::takeViewerText() {
 
 QWidget* WidgetBook::makeOption(Control& control) {
     auto* button = new QRadioButton(qt(control.caption()), firstParent_);
-    button->setAutoExclusive(false);
     // A group makes the arrow keys walk among its buttons.
     const QString groupName = QStringLiteral("group ") + qt(control.design().group);
     auto* group = firstParent_->findChild<QButtonGroup*>(groupName, Qt::FindDirectChildrenOnly);
@@ -203,7 +202,9 @@ QWidget* WidgetBook::makeOption(Control& control) {
         }
     };
     show();
-    QObject::connect(button, &QRadioButton::clicked, button, [this, &control, show] {
+    // The state, not the click: assistive technology changes it without one.
+    QObject::connect(button, &QRadioButton::toggled, button, [this, &control, show](bool on) {
+        if (!on || control.value()) return;
         gate_.run([&] { control.click(); });
         show();
     });
@@ -218,8 +219,10 @@ QWidget* WidgetBook::makeOption(Control& control) {
 QWidget* WidgetBook::makeCheck(Control& control) {
     auto* box = new QCheckBox(qt(control.caption()), firstParent_);
     box->setChecked(control.value());
-    QObject::connect(box, &QCheckBox::clicked, box,
-                     [this, &control](bool on) { gate_.run([&] { control.setChecked(on); }); });
+    QObject::connect(box, &QCheckBox::toggled, box, [this, &control](bool on) {
+        if (on == control.value()) return;
+        gate_.run([&] { control.setChecked(on); });
+    });
     control.watch([&control, box](Property property) {
         if (showCommon(control, *box, property)) return;
         if (property == Property::Value) box->setChecked(control.value());

@@ -164,6 +164,23 @@ def control_names():
     return names
 
 
+def toggle_options():
+    """What the form holds behind an option shows in the boxes that its handler fills."""
+    assert control("optJeju").get_role_name() == "radio button", control("optJeju").get_role_name()
+    for option, box, text in (("optJeju", "txtX0", "550000"), ("optEast", "txtLam0", "129"),
+                              ("optUTM3", "txtULam0", "123"), ("optUTM9", "txtULam0", "129")):
+        act(control(option), "Toggle")
+        wait_for(lambda name=box, wanted=text: text_of(name) == wanted, option)
+    enabled = lambda name: control(name).get_state_set().contains(Atspi.StateType.ENABLED)
+    act(control("optUser"), "Toggle")
+    wait_for(lambda: enabled("txtLam0"), "optUser")
+    act(control("optWdeg"), "Toggle")
+    wait_for(lambda: enabled("txtWdegPhi") and not enabled("txtWdmsPhi"), "optWdeg")
+    act(control("optWdms"), "Toggle")
+    wait_for(lambda: enabled("txtWdmsPhi") and not enabled("txtWdegPhi"), "optWdms")
+    print("options toggled from outside reach the form")
+
+
 def drive(folder):
     control("frmKelvo")
     wanted = set(control_names())
@@ -179,7 +196,7 @@ def drive(folder):
     print("batch run: %d bytes" % result.stat().st_size)
 
     choose("입력창 열기")
-    act(control("optWdms"), "Toggle")
+    toggle_options()
     for box, value in (("txtWdmsPhi", "37.35332567"), ("txtWdmsLam", "126.32293454"),
                        ("txtWdmsTH", "30.1756")):
         type_into(box, value)

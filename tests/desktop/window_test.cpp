@@ -1,4 +1,5 @@
 // The window as a person meets it, without a screen.
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
@@ -149,6 +150,16 @@ private slots:
         }
     }
 
+    void theOnePointPanelSaysWhereItsHeightsComeFrom() {
+        hands_->click("mnuOneOpen");
+        QStringList shown;
+        for (const QLabel* label : window_->book().at("frmeOne")->findChildren<QLabel*>()) {
+            if (label->isVisible()) shown << label->text();
+        }
+        QVERIFY(shown.contains("표고 = 타원체고 - 지오이드고"));
+        QVERIFY(shown.contains("지오이드고는 개략치임"));
+    }
+
     void textGoesBothWays() {
         hands_->click("mnuOneOpen");
         for (Control& control : form().controls()) {
@@ -176,6 +187,26 @@ private slots:
         QCOMPARE(hands_->widget<QComboBox>("cmb7Para")->currentIndex(), 1);
         QCOMPARE(hands_->widget<QLineEdit>("txtdS")->text(), QStringLiteral("-6.43"));
         QVERIFY(!hands_->widget<QLineEdit>("txtdS")->isEnabled());
+    }
+
+    // Assistive technology toggles a button without clicking it.
+    void optionsAndCheckBoxesToggledFromOutsideReachTheForm() {
+        for (Control& control : form().controls()) {
+            const bool option = control.kind() == ControlKind::OptionButton;
+            if (!option && control.kind() != ControlKind::CheckBox) continue;
+            QWidget* widget = window_->book().at(control.name());
+            QAccessibleInterface* outside = QAccessible::queryAccessibleInterface(widget);
+            QCOMPARE(outside->role(), option ? QAccessible::RadioButton : QAccessible::CheckBox);
+            const bool before = control.value();
+            outside->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+            // An option goes off by another one only.
+            QVERIFY2(control.value() == (option || !before), control.name().c_str());
+            QCOMPARE(qobject_cast<QAbstractButton*>(widget)->isChecked(), control.value());
+        }
+        // The last one of each group was toggled last; its handler has run.
+        QVERIFY(form().find("optUser")->value());
+        QVERIFY(form().find("txtLam0")->enabled());
+        QVERIFY(form().find("frmeManual")->enabled());
     }
 
     void enteringABoxSelectsItsTextByTabAndByMouse() {
