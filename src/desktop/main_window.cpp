@@ -6,7 +6,6 @@
 #include <QDir>
 #include <QFile>
 #include <QMenuBar>
-#include <QMimeData>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QToolButton>
@@ -14,6 +13,7 @@
 
 #include "common/code_page.h"
 #include "desktop/fault_report.h"
+#include "desktop/file_drop.h"
 #include "desktop/text_viewer.h"
 
 namespace kelvo::desktop {
@@ -22,14 +22,6 @@ namespace {
 
 constexpr double kTwipsPerPixel = 15;
 constexpr int kEntryOpen = 2;  // mnuFileItem(2): 기존파일 열기
-
-QString droppedDataFile(const QMimeData* data) {
-    for (const QUrl& url : data->urls()) {
-        QString path = url.toLocalFile();
-        if (path.endsWith(QLatin1String(".dat"), Qt::CaseInsensitive)) return path;
-    }
-    return {};
-}
 
 }  // namespace
 
@@ -40,7 +32,6 @@ MainWindow::MainWindow(const std::string& applicationFolder)
       dialogs_(dialogParent_, [this]() -> QPrinter& { return systemPrinter(); }) {
     setObjectName(QStringLiteral("frmKelvo"));
     setAccessibleDescription(QStringLiteral("frmKelvo"));
-    setAcceptDrops(true);
     dialogParent_ = {this, &lock_};
     gate_.before = [this](EventGate::Event event) { beforeEvent(event); };
     gate_.after = [this](EventGate::Event event) { afterEvent(event); };
@@ -64,6 +55,7 @@ MainWindow::MainWindow(const std::string& applicationFolder)
     bindWindow();
     addShortcuts();
     addThemeButton();
+    new FileDrop(*this, [this](const QStringList& paths) { openFiles(paths); });
 }
 
 MainWindow::~MainWindow() {
@@ -160,6 +152,21 @@ void MainWindow::openDataFile(const QString& path) {
     dialogs_.forgetChosen();
 }
 
+void MainWindow::openResultFile(const QString& path) {
+    gate_.run([this, &path] {
+        program_->OpenRichText(QDir::toNativeSeparators(path).toStdString());
+    });
+}
+
+void MainWindow::openFiles(const QStringList& paths) {
+    const QString& path = paths.first();
+    if (path.endsWith(QLatin1String(".dat"), Qt::CaseInsensitive)) {
+        openDataFile(path);
+    } else {
+        openResultFile(path);
+    }
+}
+
 void MainWindow::beforeEvent(EventGate::Event event) {
     if (event == EventGate::Event::Typing) return;
     book_->takeViewerText();
@@ -210,17 +217,6 @@ void MainWindow::closeEvent(QCloseEvent* event) {
         gate_.run([this] { program_->Form_Close(); });
     }
     event->setAccepted(gate_.isClosed());
-}
-
-void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
-    if (!droppedDataFile(event->mimeData()).isEmpty()) event->acceptProposedAction();
-}
-
-void MainWindow::dropEvent(QDropEvent* event) {
-    const QString path = droppedDataFile(event->mimeData());
-    if (path.isEmpty()) return;
-    event->acceptProposedAction();
-    openDataFile(path);
 }
 
 }  // namespace kelvo::desktop

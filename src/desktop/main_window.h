@@ -32,6 +32,8 @@ public:
 
     // Does what choosing this data file in the open dialog does.
     void openDataFile(const QString& path);
+    // Shows what a run has written.
+    void openResultFile(const QString& path);
 
     [[nodiscard]] frmKelvo& program() { return *program_; }
     [[nodiscard]] WidgetBook& book() { return *book_; }
@@ -45,14 +47,13 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
-    void dragEnterEvent(QDragEnterEvent* event) override;
-    void dropEvent(QDropEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     Surface& screen() override;
     Surface& printer() override { return paper_; }
 
+    void openFiles(const QStringList& paths);
     void buildPanels();
     void bindWindow();
     void addShortcuts();

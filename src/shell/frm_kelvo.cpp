@@ -151,6 +151,10 @@ void frmKelvo::Form_Close() {
     members_->Form_Close();
 }
 
+void frmKelvo::OpenRichText(const std::string& path) {
+    members_->viewer.OpenRichText(path);
+}
+
 void frmKelvo::UpdateRecentFiles(const std::string& name) {
     members_->recent.UpdateRecentFiles(name);
 }

@@ -34,6 +34,9 @@ public:
     // holds no number is fault 13, and the program isn't ended.
     void Form_Close();
 
+    // Shows a text file in the viewer. Fault 53 where there is none.
+    void OpenRichText(const std::string& path);
+
     // Prints a text file in the mode of the print mode panel.
     void PrintFile(const std::string& name);
 

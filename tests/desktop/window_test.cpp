@@ -332,18 +332,37 @@ private slots:
         QVERIFY(report_.isEmpty());
     }
 
-    void aDroppedDataFileIsOpened() {
+    void aDataFileDroppedAnywhereIsOpened() {
         folder_->put("data/other.dat", "*\r\nend\r\n");
         QMimeData data;
         data.setUrls({QUrl::fromLocalFile(qtText(folder_->file("data/other.dat")))});
-        QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton,
-                              Qt::NoModifier);
-        QApplication::sendEvent(window_.get(), &enter);
-        QVERIFY(enter.isAccepted());
-        QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(window_.get(), &drop);
-        QVERIFY(window_->windowTitle().endsWith("other.dat"));
-        QVERIFY(window_->book().viewer()->text() == "*\r\nend\r\n");
+        hands_->click("mnuOneOpen");
+        QPlainTextEdit& editor = window_->book().viewer()->editor();
+        for (QWidget* place : std::initializer_list<QWidget*>{
+                 window_.get(), window_->book().at("txtdX"), editor.viewport()}) {
+            window_->openDataFile(qtText(folder_->file("data/test.dat")));
+            drop(place, data);
+            QVERIFY(window_->windowTitle().endsWith("other.dat"));
+            QVERIFY(window_->book().viewer()->text() == "*\r\nend\r\n");
+        }
+        QCOMPARE(hands_->widget<QLineEdit>("txtdX")->text(), QStringLiteral("115.8"));
+    }
+
+    void aDroppedResultFileIsShown() {
+        folder_->put("data/old.out", "1234\r\n");
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(qtText(folder_->file("data/old.out")))});
+        drop(window_.get(), data);
+        QVERIFY(window_->book().viewer()->text() == readBytes(folder_->file("data/old.out")));
+        QVERIFY(window_->windowTitle().endsWith("test.dat"));  // the data file is the same
+    }
+
+    void textIsStillDroppedIntoTheText() {
+        hands_->click("mnuBatchEdit");
+        QMimeData data;
+        data.setText("* 끌어다 놓은 글 ");
+        drop(window_->book().viewer()->editor().viewport(), data);
+        QVERIFY(window_->book().viewer()->text().find("끌어다 놓은 글") != std::string::npos);
     }
 
     void aGroupOfCoordinatesIsCopiedAndPasted() {
@@ -437,6 +456,17 @@ private slots:
     }
 
 private:
+    static void drop(QWidget* place, const QMimeData& data) {
+        QDragEnterEvent enter(QPoint(4, 4), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(place, &enter);
+        QVERIFY(enter.isAccepted());
+        QDragMoveEvent move(QPoint(4, 4), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(place, &move);
+        QDropEvent drop(QPointF(4, 4), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(place, &drop);
+        QVERIFY(drop.isAccepted());
+    }
+
     Form& form() { return window_->program().form(); }
 
     std::unique_ptr<TemporaryFolder> folder_;
