@@ -153,9 +153,8 @@ void MainWindow::openDataFile(const QString& path) {
 }
 
 void MainWindow::openResultFile(const QString& path) {
-    gate_.run([this, &path] {
-        program_->OpenRichText(QDir::toNativeSeparators(path).toStdString());
-    });
+    gate_.run(
+        [this, &path] { program_->OpenRichText(QDir::toNativeSeparators(path).toStdString()); });
 }
 
 void MainWindow::openFiles(const QStringList& paths) {

@@ -1,7 +1,9 @@
 // The one-point panel: the four frames as a chain with arrows between them, and below each pair
 // the parameters that their arrows work with.
+#include <QApplication>
 #include <QFont>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QVBoxLayout>
@@ -10,6 +12,7 @@
 
 #include "desktop/box_grid.h"
 #include "desktop/coordinate_clipboard.h"
+#include "desktop/panel_keys.h"
 #include "desktop/panel_layouts.h"
 
 namespace kelvo::desktop {
@@ -179,6 +182,20 @@ void layOutOnePointPanel(WidgetBook& book) {
     panel->setContentsMargins(0, 0, 0, 0);
     panel->addWidget(scroll);
     orderTabs(book);
+
+    const auto goOn = [] {
+        if (QWidget* box = QApplication::focusWidget()) {
+            QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
+            QApplication::sendEvent(box, &tab);
+        }
+    };
+    // Closing takes the parameters over, and a box that holds no number would end the program.
+    const auto leave = [&book] {
+        if (!goToBoxWithoutNumber(book, {"Frame4", "Frame8", "Frame5", "Frame14"})) {
+            clicker(book, "cmdOneClose")();
+        }
+    };
+    new PanelKeys(*book.at("frmeOne"), goOn, leave);
 }
 
 }  // namespace kelvo::desktop

@@ -4,6 +4,9 @@
 
 #include <QLabel>
 #include <QWidget>
+#include <functional>
+#include <initializer_list>
+#include <string_view>
 
 #include "desktop/widget_book.h"
 
@@ -16,6 +19,13 @@ struct FilePanel {
     QLabel* path = nullptr;
     QLabel* unsavedMark = nullptr;
 };
+
+// What a press of the button does.
+[[nodiscard]] std::function<void()> clicker(WidgetBook& book, std::string_view button);
+
+// Puts the focus on the first box of the frames whose text would end the program when it is read.
+// False if there is none.
+bool goToBoxWithoutNumber(WidgetBook& book, std::initializer_list<std::string_view> frames);
 
 void layOutOnePointPanel(WidgetBook& book);
 void layOutParameters(WidgetBook& book);

@@ -274,8 +274,8 @@ def titles_on_display():
     return titles
 
 
-def place_on_display():
-    """Where the main window stands (x, y, width, height), and its frame (left, right, top, bottom)."""
+def outer_place():
+    """Where the frame of the main window stands: x, y, width, height."""
     tree = subprocess.run(["xwininfo", "-root", "-tree"], capture_output=True, text=True,
                           check=True, env=dict(os.environ, LC_ALL="C.UTF-8")).stdout
     line = next(line for line in tree.splitlines() if "좌표변환프로그램" in line)
@@ -283,7 +283,9 @@ def place_on_display():
         r"(\d+)x(\d+)\+-?\d+\+-?\d+ +\+(-?\d+)\+(-?\d+)", line).groups())
     extents = subprocess.run(["xprop", "-id", line.split()[0], "-notype", "_NET_FRAME_EXTENTS"],
                              capture_output=True, text=True, check=True).stdout
-    return (x, y, width, height), tuple(int(n) for n in extents.split("=")[1].split(","))
+    left, right, top, bottom = (int(n) for n in extents.split("=")[1].split(","))
+    assert top > 0, "the window manager gives no title bar"
+    return x - left, y - top, width + left + right, height + top + bottom
 
 
 def look_at_titles(folder):
@@ -292,12 +294,9 @@ def look_at_titles(folder):
     wanted = "좌표변환프로그램 Kelvo "
     wait_for(lambda: any(title.startswith(wanted) for title in titles_on_display()), "the title")
     title, = [title for title in titles_on_display() if title]
-    place, frame = place_on_display()
-    assert frame[2] > 0, "the window manager gives no title bar: %s" % (frame,)
-    outer = (place[0] - frame[0], place[1] - frame[2],
-             place[2] + frame[0] + frame[1], place[3] + frame[2] + frame[3])
-    assert outer == (0, 0, round(1366 * 0.88), round(900 * 0.88)), (place, frame)
-    print("frame: %s" % (outer,))
+    wait_for(lambda: outer_place() == (0, 0, round(1366 * 0.88), round(900 * 0.88)),
+             "the frame in its place, not at %s" % (outer_place(),))
+    print("frame: %s" % (outer_place(),))
     assert title.endswith(" - " + str(data.with_name("test.dat"))), title
     print("window: " + title)
     choose("About")
@@ -306,7 +305,8 @@ def look_at_titles(folder):
                             and not node.get_description().startswith("cmd"), "확인")
     box = named_ok()
     wait_for(lambda: len(titles_on_display()) == 2, "the box")
-    assert sorted(titles_on_display()) == sorted(["", title]), titles_on_display()
+    wait_for(lambda: sorted(titles_on_display()) == sorted(["", title]),
+             "titles %s" % titles_on_display())
     act(box, "Press")
     choose("Editor 설정")
     wait_for(lambda: "Editor Program 설정" in titles_on_display(), "the dialog's title")

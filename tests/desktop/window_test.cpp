@@ -420,6 +420,114 @@ private slots:
         QCOMPARE(window_->book().viewer()->editor().document()->blockCount(), 50001);
     }
 
+    void eachPanelTakesTheFocusWhenShownAndGivesItBack() {
+        hands_->click("mnuOneOpen");
+        QCOMPARE(focused(), QStringLiteral("txtWdmsPhi"));
+        hands_->widget<QLineEdit>("txtBdmsLam")->setFocus(Qt::TabFocusReason);
+        hands_->click("mnuPrintMode");
+        QVERIFY(window_->book().at("frmePrintMode")->isAncestorOf(QApplication::focusWidget()));
+        hands_->click("cmdModeCancel");
+        QCOMPARE(focused(), QStringLiteral("txtBdmsLam"));
+        hands_->click("mnuBatchEdit");
+        QCOMPARE(focused(), QStringLiteral("Richtxt"));
+        hands_->click("cmdClose");
+        QCOMPARE(focused(), QStringLiteral("txtBdmsLam"));
+    }
+
+    void noKeyReachesWhatAPanelCovers() {
+        hands_->click("mnuBatchGo");
+        const std::string result = readBytes(folder_->file("data/test.out"));
+        QVERIFY(!result.empty());
+        hands_->click("mnuOneOpen");
+        window_->book().at("cmdW2B")->setFocus(Qt::TabFocusReason);
+        hands_->click("mnuBatchEdit");
+        QTest::keyClick(keyTarget(), Qt::Key_Tab);  // a text takes Tab as a letter
+        QTest::keyClick(keyTarget(), Qt::Key_Space);
+        QVERIFY(readBytes(folder_->file("data/test.out")) == result);
+        QSet<QWidget*> walked;
+        window_->book().at("cmdClose")->setFocus(Qt::TabFocusReason);
+        while (!walked.contains(QApplication::focusWidget())) {
+            walked << QApplication::focusWidget();
+            QVERIFY2(!window_->book().at("frmeOne")->isAncestorOf(QApplication::focusWidget()),
+                     qPrintable(focused()));
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, Qt::ControlModifier);
+            if (focused() == QStringLiteral("Richtxt")) break;
+        }
+    }
+
+    void typingOverThePrintModeLeavesTheTextBehindItAlone() {
+        hands_->click("mnuBatchEdit");
+        const std::string before = window_->book().viewer()->text();
+        hands_->click("mnuPrintMode");
+        for (int press = 0; press < 12; ++press) {
+            QTest::keyClicks(keyTarget(), QStringLiteral("7"));
+            QTest::keyClick(keyTarget(), Qt::Key_Tab);
+        }
+        QVERIFY(window_->book().viewer()->text() == before);
+        QVERIFY(window_->book().at("frmePrintMode")->isVisible());
+    }
+
+    void enterPressesTheButtonThatHasTheFocus() {
+        hands_->click("mnuPrintMode");
+        hands_->click("optFast");
+        hands_->type("txtLmr", "7");
+        window_->book().at("cmdModeCancel")->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        QVERIFY(!window_->book().at("frmePrintMode")->isVisible());
+        hands_->click("mnuPrintMode");
+        QCOMPARE(hands_->widget<QLineEdit>("txtLmr")->text(), QStringLiteral("0"));
+    }
+
+    void enterInAPlotBoxDraws() {
+        hands_->click("mnuBatchGo");
+        hands_->click("cmdShow");
+        hands_->type("txtFontSize", "11");
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        QVERIFY(readBytes(folder_->file("plot.cfg")).find(" 11 ") != std::string::npos);
+    }
+
+    void enterGoesOnFromBoxToBoxAndEscapeClosesTheOnePointPanel() {
+        hands_->click("mnuOneOpen");
+        QTest::keyClick(keyTarget(), Qt::Key_Return);
+        QCOMPARE(focused(), QStringLiteral("txtWdmsLam"));
+        QTest::keyClick(keyTarget(), Qt::Key_Escape);
+        QVERIFY(!window_->book().at("frmeOne")->isVisible());
+    }
+
+    // Closing this panel stores its boxes, and one without a number would end the program.
+    void escapeOverABoxThatHoldsNoNumberGoesThereInstead() {
+        hands_->click("mnuOneOpen");
+        hands_->type("txtdPhi", "");
+        QTest::keyClick(keyTarget(), Qt::Key_Escape);
+        QVERIFY(report_.isEmpty());
+        QVERIFY(window_->book().at("frmeOne")->isVisible());
+        QCOMPARE(focused(), QStringLiteral("txtdPhi"));
+    }
+
+    void escapeClosesATextUnlessThatWouldLoseWork() {
+        hands_->click("mnuBatchEdit");
+        QTest::keyClick(keyTarget(), Qt::Key_Escape);
+        QVERIFY(!window_->book().at("frmeFile")->isVisible());
+        hands_->click("mnuBatchEdit");
+        QTest::keyClicks(keyTarget(), QStringLiteral("*"));
+        QTest::keyClick(keyTarget(), Qt::Key_Escape);
+        QVERIFY(window_->book().at("frmeFile")->isVisible());
+    }
+
+    void enterAndEscapeAnswerBoxes() {
+        hands_.reset();  // which would answer them
+        form().find("mnuFileItem")->setEntryEnabled(4, true);
+        for (const auto& [key, appended] :
+             {std::pair{Qt::Key_Escape, false}, std::pair{Qt::Key_Return, true}}) {
+            QTimer::singleShot(0, window_.get(), [key = key] {
+                QTRY_VERIFY(QApplication::activeModalWidget() != nullptr);
+                QTest::keyClick(QApplication::activeModalWidget(), key);
+            });
+            window_->book().action("mnuPrintDetail")->trigger();
+            QCOMPARE(QFile::exists(qtText(folder_->file("Kelvo.out"))), appended);
+        }
+    }
+
     void escapeLeavesThePrintModeAndEnterAcceptsIt() {
         hands_->click("mnuPrintMode");
         QWidget* panel = window_->book().at("frmePrintMode");
@@ -456,6 +564,17 @@ private slots:
     }
 
 private:
+    static QString focused() {
+        const QWidget* widget = QApplication::focusWidget();
+        return widget == nullptr ? QString() : widget->objectName();
+    }
+
+    // What gets a key that is pressed now.
+    [[nodiscard]] QWidget* keyTarget() const {
+        QWidget* widget = QApplication::focusWidget();
+        return widget == nullptr ? window_.get() : widget;
+    }
+
     static void drop(QWidget* place, const QMimeData& data) {
         QDragEnterEvent enter(QPoint(4, 4), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(place, &enter);
