@@ -40,14 +40,16 @@ QLayout* arrows(WidgetBook& book, std::string_view there, std::string_view words
 
 void layOutWgs(WidgetBook& book) {
     BoxGrid grid(book, "frmeWGS");
-    grid.row(
-        {book.at("optWdeg"), clipboardButtons(book, {"txtWdegPhi", "txtWdegLam", "txtWdegTH"})});
+    grid.row({book.at("optWdeg"),
+              clipboardButtons(
+                  book, {CoordinateForm::Degrees, {"txtWdegPhi", "txtWdegLam", "txtWdegTH"}})});
     grid.boxes({"txtWdegPhi"});
     grid.boxes({"txtWdegLam"});
     grid.boxes({"txtWdegTH"});
     grid.gap();
     grid.row(
-        {book.at("optWdms"), clipboardButtons(book, {"txtWdmsPhi", "txtWdmsLam", "txtWdmsTH"})});
+        {book.at("optWdms"),
+         clipboardButtons(book, {CoordinateForm::Dms, {"txtWdmsPhi", "txtWdmsLam", "txtWdmsTH"}})});
     grid.boxes({"txtWdmsPhi"});
     grid.boxes({"txtWdmsLam"});
     grid.boxes({"txtWdmsTH"});
@@ -59,14 +61,16 @@ void layOutWgs(WidgetBook& book) {
 
 void layOutUser(WidgetBook& book) {
     BoxGrid grid(book, "Frame2");
-    grid.row(
-        {book.at("optBdeg"), clipboardButtons(book, {"txtBdegPhi", "txtBdegLam", "txtBdegH"})});
+    grid.row({book.at("optBdeg"),
+              clipboardButtons(
+                  book, {CoordinateForm::Degrees, {"txtBdegPhi", "txtBdegLam", "txtBdegH"}})});
     grid.boxes({"txtBdegPhi"});
     grid.boxes({"txtBdegLam"});
     grid.boxes({"txtBdegH"});
     grid.gap();
     grid.row(
-        {book.at("optBdms"), clipboardButtons(book, {"txtBdmsPhi", "txtBdmsLam", "txtBdmsH"})});
+        {book.at("optBdms"),
+         clipboardButtons(book, {CoordinateForm::Dms, {"txtBdmsPhi", "txtBdmsLam", "txtBdmsH"}})});
     grid.boxes({"txtBdmsPhi"});
     grid.boxes({"txtBdmsLam"});
     grid.boxes({"txtBdmsH"});
@@ -78,7 +82,7 @@ void layOutUser(WidgetBook& book) {
 
 void layOutGrids(WidgetBook& book) {
     BoxGrid tm(book, "Frame3");
-    tm.row({}, clipboardButtons(book, {"txtX", "txtY", "txtH"}));
+    tm.row({}, clipboardButtons(book, {CoordinateForm::Grid, {"txtX", "txtY", "txtH"}}));
     tm.boxes({"txtX"});
     tm.boxes({"txtY"});
     tm.boxes({"txtH"});
@@ -88,7 +92,7 @@ void layOutGrids(WidgetBook& book) {
     tm.stretch();
 
     BoxGrid utm(book, "Frame13");
-    utm.row({}, clipboardButtons(book, {"txtUX", "txtUY", "txtUH"}));
+    utm.row({}, clipboardButtons(book, {CoordinateForm::Grid, {"txtUX", "txtUY", "txtUH"}}));
     utm.boxes({"txtUX"});
     utm.boxes({"txtUY"});
     utm.boxes({"txtUH"});

@@ -63,6 +63,7 @@ private slots:
             sheets_ = std::move(sheets);
         };
         hands_ = std::make_unique<WindowHands>(*window_);
+        window_->book().onSay = [this](const QString& text) { said_ = text; };
         report_.clear();
         sheets_.clear();
         QVERIFY(window_->start());
@@ -368,17 +369,41 @@ private slots:
     void aGroupOfCoordinatesIsCopiedAndPasted() {
         hands_->click("mnuOneOpen");
         hands_->click("optWdms");
-        QApplication::clipboard()->setText("37.35332567, 126.32293454\t30.1756\n99");
-        QTest::mouseClick(window_->findChild<QWidget*>("paste txtWdmsPhi"), Qt::LeftButton);
-        QCOMPARE(hands_->widget<QLineEdit>("txtWdmsPhi")->text(), QStringLiteral("37.35332567"));
-        QCOMPARE(hands_->widget<QLineEdit>("txtWdmsTH")->text(), QStringLiteral("30.1756"));
+        paste("paste txtWdmsPhi", "37.35332567, 126.32293454\t30.1756\n");
+        QCOMPARE(textsOf({"txtWdmsPhi", "txtWdmsLam", "txtWdmsTH"}),
+                 (QStringList{"37.35332567", "126.32293454", "30.1756"}));
+        QVERIFY2(said_.contains("37°35′33.2567″"), qPrintable(said_));
         QTest::mouseClick(window_->findChild<QWidget*>("copy txtWdmsPhi"), Qt::LeftButton);
         QCOMPARE(QApplication::clipboard()->text(),
                  QStringLiteral("37.35332567\t126.32293454\t30.1756"));
+    }
+
+    void aRowOfOurOwnReportIsPastedIntoEitherGroup() {
+        hands_->click("mnuOneOpen");
+        const char* row = "101  37-35-33.2567 126-32-29.3454 30.1756";
+        paste("paste txtWdmsPhi", row);
+        QCOMPARE(textsOf({"txtWdmsPhi", "txtWdmsLam", "txtWdmsTH"}),
+                 (QStringList{"37.35332567", "126.32293454", "30.1756"}));
+        hands_->click("optWdeg");
+        paste("paste txtWdegPhi", row);
+        QCOMPARE(textsOf({"txtWdegPhi", "txtWdegLam", "txtWdegTH"}),
+                 (QStringList{"37.5925713055556", "126.541484833333", "30.1756"}));
+        paste("paste txtX", "101\t454572.77052\t159435.67323");
+        QCOMPARE(textsOf({"txtX", "txtY"}), (QStringList{"454572.77052", "159435.67323"}));
+        QVERIFY2(said_.contains("높이는 그대로"), qPrintable(said_));
+    }
+
+    void aPasteThatIsRefusedChangesNothingAndSaysWhy() {
+        hands_->click("mnuOneOpen");
+        hands_->type("txtWdmsPhi", "37.1");
+        paste("paste txtWdmsPhi", "37,35332567 126,32293454 30,1756");
+        QCOMPARE(textsOf({"txtWdmsPhi"}), QStringList{"37.1"});
+        QVERIFY2(said_.contains("쉼표"), qPrintable(said_));
         // A closed group takes nothing.
-        const QString before = hands_->widget<QLineEdit>("txtWdegPhi")->text();
-        QTest::mouseClick(window_->findChild<QWidget*>("paste txtWdegPhi"), Qt::LeftButton);
-        QCOMPARE(hands_->widget<QLineEdit>("txtWdegPhi")->text(), before);
+        const QStringList before = textsOf({"txtWdegPhi"});
+        paste("paste txtWdegPhi", "37.5 126.5");
+        QCOMPARE(textsOf({"txtWdegPhi"}), before);
+        QVERIFY2(said_.contains("닫혀"), qPrintable(said_));
     }
 
     void searchFindsOnAndAround() {
@@ -569,6 +594,18 @@ private:
         return widget == nullptr ? QString() : widget->objectName();
     }
 
+    void paste(const char* button, const char* text) {
+        said_.clear();
+        QApplication::clipboard()->setText(QString::fromUtf8(text));
+        QTest::mouseClick(window_->findChild<QWidget*>(button), Qt::LeftButton);
+    }
+
+    [[nodiscard]] QStringList textsOf(std::initializer_list<const char*> boxes) const {
+        QStringList texts;
+        for (const char* box : boxes) texts << hands_->widget<QLineEdit>(box)->text();
+        return texts;
+    }
+
     // What gets a key that is pressed now.
     [[nodiscard]] QWidget* keyTarget() const {
         QWidget* widget = QApplication::focusWidget();
@@ -592,6 +629,7 @@ private:
     std::unique_ptr<MainWindow> window_;
     std::unique_ptr<WindowHands> hands_;
     QString report_;
+    QString said_;
     std::vector<desktop::Sheet> sheets_;
 };
 
