@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
+#include <QWheelEvent>
 #include <stdexcept>
 
 #include "desktop/background_picture.h"
@@ -37,6 +38,22 @@ bool showCommon(const Control& control, QWidget& widget, Property property) {
     }
     return property == Property::Place;
 }
+
+// A list that the wheel turns only when it has the focus: on its way down a panel it would change
+// what it passes over.
+class QuietList final : public QComboBox {
+public:
+    explicit QuietList(QWidget* parent) : QComboBox(parent) { setFocusPolicy(Qt::StrongFocus); }
+
+protected:
+    void wheelEvent(QWheelEvent* event) override {
+        if (hasFocus()) {
+            QComboBox::wheelEvent(event);
+        } else {
+            event->ignore();
+        }
+    }
+};
 
 // A picture of arrows says more than the two signs of their captions.
 QString shownCaption(const Control& control) {
@@ -232,7 +249,7 @@ QWidget* WidgetBook::makeCheck(Control& control) {
 }
 
 QWidget* WidgetBook::makeCombo(Control& control) {
-    auto* combo = new QComboBox(firstParent_);
+    auto* combo = new QuietList(firstParent_);
     const auto fill = [&control, combo] {
         const QSignalBlocker blocker(combo);
         combo->clear();

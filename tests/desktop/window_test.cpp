@@ -210,6 +210,21 @@ private slots:
         QVERIFY(form().find("frmeManual")->enabled());
     }
 
+    void theWheelOverAListOrBoxWithoutFocusChangesNothing() {
+        hands_->click("mnuOneOpen");
+        hands_->choose("cmb7Para", 1);
+        window_->book().at("txta")->setFocus(Qt::TabFocusReason);
+        for (const char* name : {"cmb7Para", "txtdX", "txtWdmsPhi"}) {
+            QWidget* widget = window_->book().at(name);
+            QWheelEvent wheel(QPointF(4, 4), widget->mapToGlobal(QPointF(4, 4)), QPoint(),
+                              QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
+                              Qt::NoScrollPhase, false);
+            QApplication::sendEvent(widget, &wheel);
+        }
+        QCOMPARE(form().find("cmb7Para")->index(), 1);
+        QCOMPARE(focused(), QStringLiteral("txta"));
+    }
+
     void enteringABoxSelectsItsTextByTabAndByMouse() {
         hands_->click("mnuOneOpen");
         auto* box = hands_->widget<QLineEdit>("txta");
