@@ -28,6 +28,7 @@ public:
     void start(const std::string&) override {}
     void showScale(const std::array<std::string, 4>&) override {}
     void SavePcfgFile() override {}
+    PointPlot chosenKind() const override { return PointPlot::XY; }
 };
 
 // Points over 3 km of a TM grid, spread without a pattern to speak of.

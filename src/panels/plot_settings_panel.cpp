@@ -84,21 +84,21 @@ void PlotSettingsPanel::optManual_Click() {
     on_.frmeManual.setEnabled(true);
 }
 
+PointPlot PlotSettingsPanel::chosenKind() const {
+    if (on_.optWGS.value()) return PointPlot::WGS;
+    if (on_.optUGS.value()) return PointPlot::UGS;
+    if (on_.optXY.value()) return PointPlot::XY;
+    return state_.plotCfg.PlotKind;  // none is on before the settings were restored
+}
+
 void PlotSettingsPanel::SavePcfgFile() {
     PlotCfg& cfg = state_.plotCfg;
-    if (on_.optXY.value()) cfg.PlotKind = PointPlot::XY;
-    if (on_.optUGS.value()) cfg.PlotKind = PointPlot::UGS;
-    if (on_.optWGS.value()) cfg.PlotKind = PointPlot::WGS;
-
+    cfg.PlotKind = chosenKind();
+    PlotScale* scale = cfg.scaleOf(cfg.PlotKind);
     const auto boxes = on_.scaleBoxes();
     for (std::size_t i = 0; i < boxes.size(); ++i) {
         const double number = strictNumberOf(*boxes[i]);
-        if (cfg.PlotKind == PointPlot::XY) {
-            cfg.XY.*kFields[i] = toSingle(number);
-        } else if (cfg.PlotKind == PointPlot::WGS || cfg.PlotKind == PointPlot::UGS) {
-            PlotScale& scale = cfg.PlotKind == PointPlot::WGS ? cfg.WGS : cfg.UGS;
-            scale.*kFields[i] = toSingle(KelvoSub::DmsToDeg(number, messages_));
-        }
+        if (scale != nullptr) scale->*kFields[i] = scaleValueOf(number, cfg.PlotKind, messages_);
     }
     cfg.PlotManual = on_.optAuto.value() ? 0 : 1;
     cfg.PlotFontSize = toSingle(strictNumberOf(on_.txtFontSize));

@@ -27,6 +27,7 @@ public:
     void RestorePcfgFile();
 
     void showScale(const std::array<std::string, 4>& texts) override;
+    [[nodiscard]] PointPlot chosenKind() const override;
 
     void optWGS_Click();
     void optUGS_Click();

@@ -29,6 +29,19 @@ struct PlotCfg {
     PlotScale WGS;
     PlotScale UGS;
     PlotScale XY;
+
+    // The group of a kind; null for a number that is none.
+    [[nodiscard]] PlotScale* scaleOf(PointPlot kind) {
+        switch (kind) {
+            case PointPlot::WGS:
+                return &WGS;
+            case PointPlot::UGS:
+                return &UGS;
+            case PointPlot::XY:
+                return &XY;
+        }
+        return nullptr;
+    }
 };
 
 }  // namespace kelvo

@@ -5,6 +5,7 @@
 
 #include "common/checked_arithmetic.h"
 #include "common/fixed_width.h"
+#include "common/number_text.h"
 #include "common/text_constants.h"
 #include "common/utf8.h"
 #include "geodesy/angle_forms.h"
@@ -52,8 +53,20 @@ void scaleAutomatically(const PlotFields& fields, PlotSource& source) {
                        ? FormatNum(KelvoSub::DegToDms((v + 0.1) / 3600, source.messages), 4, 4)
                        : FormatNum(v, 7, 0);
     }
-    source.panel.showScale(texts);
-    source.panel.SavePcfgFile();
+    const PointPlot kind = source.cfg.PlotKind;
+    if (source.panel.chosenKind() == kind) {
+        source.panel.showScale(texts);
+        source.panel.SavePcfgFile();
+        return;
+    }
+    // The boxes show the scale of another kind, which was chosen and not applied yet.
+    const auto read = [&](const std::string& text) {
+        return scaleValueOf(strictNumber(text), kind, source.messages);
+    };
+    G = {.Xb = read(texts[0]),
+         .Yb = read(texts[1]),
+         .Span = read(texts[2]),
+         .Inter = read(texts[3])};
 }
 
 // The values of the grid lines from `begin` over the span; nothing if there are too many of them
@@ -160,6 +173,10 @@ void plotPoints(clsplot1& object, const PlotFields& fields, PlotSource& source) 
 }
 
 }  // namespace
+
+float scaleValueOf(double number, PointPlot kind, MessageBoxes& messages) {
+    return toSingle(kind == PointPlot::XY ? number : KelvoSub::DmsToDeg(number, messages));
+}
 
 void plot(clsplot1& object, SurfaceKind kind, Surface& surface, PlotSource& source) {
     const int number = static_cast<int>(kind);

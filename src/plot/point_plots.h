@@ -22,7 +22,13 @@ public:
     // Texts in the order txtXb, txtYb, txtSpan, txtInter.
     virtual void showScale(const std::array<std::string, 4>& texts) = 0;
     virtual void SavePcfgFile() = 0;
+    // The kind whose option is on; the boxes belong to it. It may differ from the kind drawn.
+    [[nodiscard]] virtual PointPlot chosenKind() const = 0;
 };
+
+// A number of the four boxes as the settings hold it: metres, or decimal degrees for the ddd.mmss
+// of the angle plots.
+[[nodiscard]] float scaleValueOf(double number, PointPlot kind, MessageBoxes& messages);
 
 // What stands in the picture beside the points.
 struct PlotTexts {

@@ -23,17 +23,14 @@ public:
     void print(const std::string&) override {}
     void setBusy(bool) override {}
     void showScale(const std::array<std::string, 4>& texts) override { boxes_ = texts; }
+    PointPlot chosenKind() const override { return cfg.PlotKind; }
     void SavePcfgFile() override {
         if (boxes_[0].empty()) return;
-        PlotScale& group = cfg.PlotKind == PointPlot::WGS   ? cfg.WGS
-                           : cfg.PlotKind == PointPlot::UGS ? cfg.UGS
-                                                            : cfg.XY;
         const auto read = [this](const std::string& box) {
-            const double number = strictNumber(box);
-            return static_cast<float>(
-                cfg.PlotKind == PointPlot::XY ? number : KelvoSub::DmsToDeg(number, *this));
+            return scaleValueOf(strictNumber(box), cfg.PlotKind, *this);
         };
-        group = {read(boxes_[0]), read(boxes_[1]), read(boxes_[2]), read(boxes_[3])};
+        *cfg.scaleOf(cfg.PlotKind) = {read(boxes_[0]), read(boxes_[1]), read(boxes_[2]),
+                                      read(boxes_[3])};
     }
 
     PlotCfg cfg;

@@ -20,17 +20,16 @@ public:
 
     void showScale(const std::array<std::string, 4>& texts) override { boxes = texts; }
 
+    PointPlot chosenKind() const override { return kind; }
+
     void SavePcfgFile() override {
         lines_.emplace_back("SavePcfgFile");
         cfg_.PlotKind = kind;
-        PlotScale& group = kind == PointPlot::WGS   ? cfg_.WGS
-                           : kind == PointPlot::UGS ? cfg_.UGS
-                                                    : cfg_.XY;
         const auto read = [&](const std::string& box) {
             if (kind == PointPlot::XY) return strictSingle(box);
             return static_cast<float>(KelvoSub::DmsToDeg(strictNumber(box), messages_));
         };
-        group = {read(boxes[0]), read(boxes[1]), read(boxes[2]), read(boxes[3])};
+        *cfg_.scaleOf(kind) = {read(boxes[0]), read(boxes[1]), read(boxes[2]), read(boxes[3])};
     }
 
 private:
@@ -59,11 +58,7 @@ protected:
         row.TmY = cfg.PlotKind == PointPlot::XY ? E : 6;
     }
 
-    PlotScale& group() {
-        return cfg.PlotKind == PointPlot::WGS   ? cfg.WGS
-               : cfg.PlotKind == PointPlot::UGS ? cfg.UGS
-                                                : cfg.XY;
-    }
+    PlotScale& group() { return *cfg.scaleOf(cfg.PlotKind); }
 
     // Draws and gives the calls, those of the panel taken out of them.
     Lines draw(SurfaceKind kind = SurfaceKind::Screen) {
@@ -267,15 +262,19 @@ TEST_F(PointPlots, BindingComesFirstThenTheScaleThenTheDrawing) {
               (Lines{"ForeColor = 0", "Font = 굴림체", "SavePcfgFile", "Cls"}));
 }
 
-TEST_F(PointPlots, KindThatStandsBeforeSavingIsTheOneDrawn) {
+TEST_F(PointPlots, ScaleOfAKindThatIsNotTheChosenOneGoesStraightIntoItsGroup) {
     addPoint("A", 453211.376, 198765.432);
     PanelDouble panel(cfg, messages, recorded);
     panel.kind = PointPlot::WGS;  // the option button says otherwise
     PlotSource source{points, cfg, panel, texts, messages};
     kelvo::plot(object, SurfaceKind::Screen, screen, source);
-    EXPECT_EQ(cfg.PlotKind, PointPlot::WGS);
+    EXPECT_EQ(cfg.PlotKind, PointPlot::XY);
     EXPECT_EQ(cfg.XY.Inter, 5);
-    EXPECT_GT(countOf(told(), "print  4532"), 0);
+    EXPECT_EQ(cfg.WGS.Inter, 0);
+    EXPECT_EQ(panel.boxes[0], "");
+    const Lines lines = told();
+    EXPECT_EQ(countOf(lines, "SavePcfgFile"), 0);
+    EXPECT_GT(countOf(lines, "print  4532"), 0);
 }
 
 TEST_F(PointPlots, UnknownKindDrawsNothing) {
