@@ -86,17 +86,25 @@ public:
         penIsKnown_ = false;
         const TextFace& face = faces_[text.look];
         if (std::abs(text.angle) < 0.05) {
-            face.draw(painter_, text.corner.x(), text.corner.y(), text.text);
+            drawText(face, text.corner, text.text);
             return;
         }
         painter_.save();
         painter_.translate(text.corner);
         painter_.rotate(-text.angle);
-        face.draw(painter_, 0, 0, text.text);
+        drawText(face, QPointF(), text.text);
         painter_.restore();
     }
 
 private:
+    void drawText(const TextFace& face, QPointF corner, const QString& text) {
+        if (medium_ == Medium::Paper) {
+            face.drawInDocument(painter_, corner.x(), corner.y(), text);
+        } else {
+            face.draw(painter_, corner.x(), corner.y(), text);
+        }
+    }
+
     // As a rectangle of whole pixels, so that all lines of a grid are equally wide; much quicker
     // than a pen, too.
     void drawLevelLine(const DrawnLine& line, bool upright) {
