@@ -78,6 +78,10 @@ void MainWindow::buildPanels() {
     filePanel_.panel->installEventFilter(this);
     filePanel_.path->setText(filePanel_.panel->property("caption").toString());
     connect(book_->viewer(), &TextViewer::modifiedChanged, this, [this] { showUnsavedMark(); });
+    book_->plotView()->placeAt = [this](QPointF twips, double reach) {
+        const PlotPlace place = program_->plotPlaceAt(twips.x(), twips.y(), reach);
+        return std::pair(qt(place.coordinates), qt(place.point));
+    };
     connect(book_->plotView(), &PlotView::saveFailed, this, [this](const QString& path) {
         messages_.show(
             {.text = (path + QStringLiteral(" 파일을 저장할 수 없습니다.")).toStdString(),

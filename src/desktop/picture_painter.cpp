@@ -198,7 +198,7 @@ QRectF widened(const QRectF& box, double width) {
 }
 
 struct Extent {
-    std::vector<TextFace> faces;
+    const std::vector<TextFace>& faces;
 
     QRectF operator()(const DrawnLine& line) const {
         return widened(QRectF(line.from, line.to).normalized(), line.pen.width);
@@ -232,11 +232,8 @@ void paintPicture(QPainter& painter, const PlotPicture& picture, Medium medium) 
     painter.restore();
 }
 
-QRectF extentOf(const PlotPicture& picture) {
-    QRectF extent;
-    const Extent measure{facesOf(picture)};
-    for (const DrawnItem& item : picture.items) extent |= std::visit(measure, item);
-    return extent;
+QRectF PictureExtent::operator()(const DrawnItem& item) const {
+    return std::visit(Extent{faces_}, item);
 }
 
 }  // namespace kelvo::desktop

@@ -151,6 +151,10 @@ void frmKelvo::Form_Close() {
     members_->Form_Close();
 }
 
+PlotPlace frmKelvo::plotPlaceAt(double x, double y, double reach) const {
+    return members_->pictures.placeAt(x, y, reach);
+}
+
 void frmKelvo::OpenRichText(const std::string& path) {
     members_->viewer.OpenRichText(path);
 }

@@ -11,6 +11,7 @@
 #include "form/form.h"
 #include "form/services.h"
 #include "panels/program_state.h"
+#include "shell/plot_place.h"
 
 namespace kelvo {
 
@@ -36,6 +37,10 @@ public:
 
     // Shows a text file in the viewer. Fault 53 where there is none.
     void OpenRichText(const std::string& path);
+
+    // What stands at a place of the plot on the screen, in twips, for a pointer over it; a point
+    // counts as near within `reach`.
+    [[nodiscard]] PlotPlace plotPlaceAt(double x, double y, double reach) const;
 
     // Prints a text file in the mode of the print mode panel.
     void PrintFile(const std::string& name);

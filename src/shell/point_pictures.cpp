@@ -19,7 +19,13 @@ void PointPictures::cmdPlot_Click() {
 }
 
 void PointPictures::drawOnScreen() {
+    kindOnScreen_ = state_.plotCfg.PlotKind;
     draw(ScreenPlot_, SurfaceKind::Screen, services_.surfaces.screen());
+}
+
+PlotPlace PointPictures::placeAt(double x, double y, double reach) const {
+    if (!ScreenPlot_) return {};
+    return placeOnPlot(*ScreenPlot_, state_.conversion.points, kindOnScreen_, x, y, reach);
 }
 
 void PointPictures::drawOnPrinter() {

@@ -7,6 +7,7 @@
 #include "form/services.h"
 #include "panels/print_mode_panel.h"
 #include "panels/plot_settings_panel.h"
+#include "shell/plot_place.h"
 
 namespace kelvo {
 
@@ -28,6 +29,9 @@ public:
     void drawOnScreen();
     void drawOnPrinter();
 
+    // What stands at a place of the picture on the screen, in twips; empty before the first one.
+    [[nodiscard]] PlotPlace placeAt(double x, double y, double reach) const;
+
 private:
     void draw(std::unique_ptr<clsplot1>& object, SurfaceKind kind, Surface& surface);
 
@@ -35,6 +39,7 @@ private:
     ProgramState& state_;
     const Services& services_;
     std::unique_ptr<clsplot1> ScreenPlot_;
+    PointPlot kindOnScreen_{};
     std::unique_ptr<clsplot1> PrinterPlot_;
 };
 

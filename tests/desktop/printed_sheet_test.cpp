@@ -277,7 +277,8 @@ private slots:
         for (const char* font :
              {"굴림", "굴림체", "궁서", "궁서체", "돋움", "돋움체", "바탕", "바탕체"}) {
             PaperSurface paper;
-            printSampleText(paper, "kelvo.tmp", linesOf(line, 1), {.font = font, .underline = true});
+            printSampleText(paper, "kelvo.tmp", linesOf(line, 1),
+                            {.font = font, .underline = true});
             const QString found = textOn(paper).simplified();
             QVERIFY2(found == QString::fromStdString(line).simplified(),
                      qPrintable(QString(font) + ": " + found));

@@ -214,6 +214,44 @@ private slots:
         QVERIFY(!paintSheets(printer, paper.takeSheets()));
     }
 
+    void aPictureHoldsThePointsAroundThePageAndCountsTheOthers() {
+        PictureSurface surface({});
+        surface.Line(0, 0, 8000, 8000, 0, LineForm::Box);
+        for (const double x : {-7000.0, 100.0, 15500.0, 40000.0, 1e12}) {
+            surface.Circle(x, 4000, 100, 0, 0, 0, 0, CircleForm::Whole);
+        }
+        const FramedPicture shown = framed(surface.picture());
+        QCOMPARE(shown.pointsLeftOut, 2);
+        QVERIFY(shown.frame.contains(QRectF(-7100, 0, 22600, 8000)));
+        QVERIFY(shown.frame.width() < 30000);
+        QCOMPARE(svgOf(shown).count(QStringLiteral("<ellipse ")), 3);
+        QVERIFY(leftOutNote(2).contains(QStringLiteral("2")));
+        QVERIFY(leftOutNote(0).isEmpty());
+    }
+
+    void aLongFooterIsShownWhole() {
+        PictureSurface surface({});
+        surface.setFont("굴림체");
+        surface.setFontsize(10);
+        surface.setCurrentX(400);
+        surface.setCurrentY(9000);
+        surface.print("Data File = " + std::string(300, 'x'));
+        const FramedPicture shown = framed(surface.picture());
+        QVERIFY(shown.frame.right() > 400 + 312 * 100);
+        const kelvo::testing::TemporaryFolder folder;
+        const QString path = QString::fromStdString(folder.file("a.png"));
+        QVERIFY(savePicture(shown, path));
+        const QImage image(path);
+        // The last letters stand at the right edge of the file.
+        bool ink = false;
+        for (int y = 0; y < image.height() && !ink; ++y) {
+            for (int x = image.width() * 97 / 100; x < image.width() && !ink; ++x) {
+                ink = image.pixelColor(x, y).lightness() < 128;
+            }
+        }
+        QVERIFY(ink);
+    }
+
     void picturesAreSavedByTheEndingOfTheirName() {
         const kelvo::testing::TemporaryFolder folder;
         PictureSurface surface({});
@@ -222,12 +260,13 @@ private slots:
         surface.print("점 <1> & 2");
         for (const char* name : {"a.png", "a.SVG", "a.pdf"}) {
             const QString path = QString::fromStdString(folder.file(name));
-            QVERIFY2(savePicture(surface.picture(), path), name);
+            QVERIFY2(savePicture(framed(surface.picture()), path), name);
             QVERIFY(QFile(path).size() > 300);
         }
-        QVERIFY(!savePicture(surface.picture(), QString::fromStdString(folder.file("a.bmp"))));
-        QVERIFY(!savePicture(surface.picture(), QStringLiteral("/nowhere/at/all.png")));
-        const QString svg = svgOf(surface.picture());
+        const FramedPicture shown = framed(surface.picture());
+        QVERIFY(!savePicture(shown, QString::fromStdString(folder.file("a.bmp"))));
+        QVERIFY(!savePicture(shown, QStringLiteral("/nowhere/at/all.png")));
+        const QString svg = svgOf(shown);
         QVERIFY(svg.contains(QStringLiteral("점 &lt;1&gt; &amp; 2</text>")));
         QCOMPARE(svg.count(QStringLiteral("<line ")), 1);
     }
