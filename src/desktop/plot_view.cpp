@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
+#include <utility>
 
 #include "desktop/picture_files.h"
 #include "desktop/picture_painter.h"
@@ -22,6 +23,8 @@ constexpr double kMostMagnified = 60;
 constexpr double kKeyStep = 60;  // pixels that an arrow key moves the picture
 constexpr double kReach = 8;     // pixels from the pointer to a point that it names
 constexpr double kTwipsPerPixel = 15;
+constexpr int kTilesWide = 4;
+constexpr int kTilesHigh = 4;
 
 }  // namespace
 
@@ -33,10 +36,8 @@ PlotView::PlotView(QWidget* parent) : QWidget(parent), surface_(DeviceUnits{}) {
     shown_ = framed(surface_.picture());
     rest_.setSingleShot(true);
     rest_.setInterval(std::chrono::milliseconds(60));
-    connect(&rest_, &QTimer::timeout, this, [this] {
-        render();
-        update();
-    });
+    connect(&rest_, &QTimer::timeout, this, &PlotView::startTiles);
+    connect(&nextTile_, &QTimer::timeout, this, &PlotView::paintTile);
 }
 
 QSize PlotView::sizeHint() const {
@@ -80,6 +81,7 @@ QPointF PlotView::toWidget(const QPointF& twips) const {
 void PlotView::look(const Sight& sight) {
     if (sight == sight_) return;
     sight_ = sight;
+    nextTile_.stop();
     rest_.start();
     update();
 }
@@ -102,24 +104,55 @@ void PlotView::moveBy(const QPointF& pixels) {
     look({middle, sight_.scale});
 }
 
-void PlotView::render() {
-    rest_.stop();
+QImage PlotView::emptyImage() const {
     const double ratio = devicePixelRatioF();
-    image_ = QImage((QSizeF(size()) * ratio).toSize(), QImage::Format_RGB32);
-    image_.setDevicePixelRatio(ratio);
-    image_.fill(shown_.picture.paper);
-    imageSight_ = sight_;
-    QPainter painter(&image_);
+    QImage image((QSizeF(size()) * ratio).toSize(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(ratio);
+    image.fill(shown_.picture.paper);
+    return image;
+}
+
+void PlotView::paintOn(QImage& image, const QRect& tile) const {
+    QPainter painter(&image);
+    painter.setClipRect(tile);
     painter.translate(QPointF(width(), height()) / 2);
     painter.scale(sight_.scale, sight_.scale);
     painter.translate(-sight_.middle);
-    paintPart(painter, shown_, QRectF(toSurface({0, 0}), toSurface(QPointF(width(), height()))));
+    paintPart(painter, shown_,
+              QRectF(toSurface(tile.topLeft()),
+                     toSurface(tile.topLeft() + QPoint(tile.width(), tile.height()))));
+}
+
+void PlotView::paintSharp() {
+    rest_.stop();
+    nextTile_.stop();
+    image_ = emptyImage();
+    imageSight_ = sight_;
+    paintOn(image_, rect());
+}
+
+void PlotView::startTiles() {
+    coming_ = emptyImage();
+    tile_ = 0;
+    nextTile_.start();
+}
+
+void PlotView::paintTile() {
+    const int wide = (width() + kTilesWide - 1) / kTilesWide;
+    const int high = (height() + kTilesHigh - 1) / kTilesHigh;
+    paintOn(coming_, QRect(tile_ % kTilesWide * wide, tile_ / kTilesWide * high, wide, high));
+    if (++tile_ < kTilesWide * kTilesHigh) return;
+    nextTile_.stop();
+    image_ = std::exchange(coming_, QImage());
+    imageSight_ = sight_;
+    update();
 }
 
 void PlotView::paintEvent(QPaintEvent*) {
-    if (image_.isNull()) render();
+    if (image_.isNull()) paintSharp();
     QPainter painter(this);
-    if (imageSight_ == sight_ && !rest_.isActive()) {
+    const QSizeF painted = QSizeF(image_.size()) / image_.devicePixelRatio();
+    if (imageSight_ == sight_ && painted.toSize() == size()) {
         painter.drawImage(QPoint(0, 0), image_);
         return;
     }
@@ -128,12 +161,12 @@ void PlotView::paintEvent(QPaintEvent*) {
     const double grown = sight_.scale / imageSight_.scale;
     painter.translate(toWidget(imageSight_.middle));
     painter.scale(grown, grown);
-    const QSizeF size = QSizeF(image_.size()) / image_.devicePixelRatio();
-    painter.drawImage(QPointF(-size.width() / 2, -size.height() / 2), image_);
+    painter.drawImage(QPointF(-painted.width() / 2, -painted.height() / 2), image_);
 }
 
 void PlotView::resizeEvent(QResizeEvent*) {
-    image_ = QImage();
+    nextTile_.stop();
+    rest_.start();
     if (seesAll_ || sight_.scale < scaleOfAll()) showAll();
 }
 

@@ -35,6 +35,9 @@ public:
     [[nodiscard]] QPointF toSurface(const QPointF& place) const;
     [[nodiscard]] QPointF toWidget(const QPointF& twips) const;
 
+    // Paints the sharp picture of what is in sight at once; it comes by itself, too.
+    void paintSharp();
+
     // Asks for a name and writes the picture there, the whole of it.
     void saveAs();
     void copy();
@@ -70,7 +73,10 @@ private:
     [[nodiscard]] double scaleOfAll() const;
     void look(const Sight& sight);
     void moveBy(const QPointF& pixels);
-    void render();
+    void startTiles();
+    void paintTile();
+    void paintOn(QImage& image, const QRect& tile) const;
+    [[nodiscard]] QImage emptyImage() const;
     [[nodiscard]] QImage wholePicture() const;
 
     PictureSurface surface_;
@@ -80,7 +86,12 @@ private:
     bool seesAll_ = true;  // also when the window gets another size
     QImage image_;
     Sight imageSight_;
-    QTimer rest_;  // after the last movement the picture is painted sharp
+    // After the last movement the picture is painted sharp, tile by tile: with thousands of
+    // points in sight all of it at once would hold up the next movement.
+    QTimer rest_;
+    QTimer nextTile_;
+    QImage coming_;
+    int tile_ = 0;
     QPoint handAt_;
     bool handIsDown_ = false;
 };
