@@ -15,19 +15,21 @@ constexpr double kTwipsPerInch = 1440;
 }  // namespace
 
 PaperSurface::PaperSurface()
-    : PictureSurface({kTwipsPerInch / kPixelsPerInch, kPixelsPerInch, 1}) {}
+    : PictureSurface({.twipsPerPixel = kTwipsPerInch / kPixelsPerInch,
+                      .pixelsPerInch = kPixelsPerInch,
+                      .erasedByBackColor = false}) {}
 
 void PaperSurface::EndDoc() {
-    NewPage();
+    if (isTouched()) NewPage();
 }
 
 void PaperSurface::NewPage() {
     const bool landscape = members().Orientation == SheetOrientation::Landscape;
-    if (hasDrawing()) sheets_.push_back({takePicture(), landscape});
+    sheets_.push_back({takePicture(), landscape});
 }
 
 std::vector<Sheet> PaperSurface::takeSheets() {
-    NewPage();
+    EndDoc();
     return std::exchange(sheets_, {});
 }
 

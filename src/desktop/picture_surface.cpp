@@ -54,6 +54,7 @@ Pen PictureSurface::pen(std::int32_t colour) const {
 
 void PictureSurface::add(DrawnItem item) {
     picture_.items.push_back(std::move(item));
+    touched_ = true;
     ++revision_;
 }
 
@@ -91,7 +92,8 @@ void PictureSurface::write(SurfaceMember member, const SurfaceValue& value) {
     assign(members_, member, value);
     switch (member) {
         case SurfaceMember::BackColor:
-            return Cls();
+            if (units_.erasedByBackColor) Cls();
+            return;
         case SurfaceMember::Font:
         case SurfaceMember::fontsize:
         case SurfaceMember::FontBold:
@@ -134,12 +136,14 @@ void PictureSurface::addText(QPointF corner, double angle, const TextLook& look,
 }
 
 void PictureSurface::print(std::string_view text) {
+    touched_ = true;
     addText({members_.CurrentX, members_.CurrentY}, 0, look_, qt(text));
     members_.CurrentX = 0;
     members_.CurrentY += face_.height();
 }
 
 void PictureSurface::Cls() {
+    touched_ = false;
     picture_.clear();
     picture_.paper = colourOf(members_.BackColor);
     members_.CurrentX = members_.CurrentY = 0;
@@ -148,6 +152,7 @@ void PictureSurface::Cls() {
 
 PlotPicture PictureSurface::takePicture() {
     PlotPicture taken = std::exchange(picture_, PlotPicture{});
+    touched_ = false;
     picture_.paper = taken.paper;
     members_.CurrentX = members_.CurrentY = 0;
     ++revision_;

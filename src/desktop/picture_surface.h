@@ -14,6 +14,7 @@ struct DeviceUnits {
     double twipsPerPixel = 15;
     int pixelsPerInch = 96;
     int colourPlanes = 1;
+    bool erasedByBackColor = true;  // a picture box is; paper keeps what is printed on it
 };
 
 class PictureSurface : public Surface {
@@ -52,7 +53,8 @@ public:
 protected:
     // The picture so far; leaves an empty one.
     [[nodiscard]] PlotPicture takePicture();
-    [[nodiscard]] bool hasDrawing() const { return !picture_.items.empty(); }
+    // Something was drawn or printed since, an empty line counts.
+    [[nodiscard]] bool isTouched() const { return touched_; }
 
 private:
     [[nodiscard]] Pen pen(std::int32_t colour) const;
@@ -63,6 +65,7 @@ private:
 
     DeviceUnits units_;
     PlotPicture picture_;
+    bool touched_ = false;
     unsigned revision_ = 0;
     SurfaceMembers members_;
     TextLook look_;

@@ -214,6 +214,31 @@ private slots:
         QVERIFY(!paintSheets(printer, paper.takeSheets()));
     }
 
+    void aBlankSheetIsASheet() {
+        PaperSurface paper;
+        paper.print("");  // an empty line opens the sheet
+        paper.EndDoc();
+        paper.NewPage();  // passes over one that holds nothing
+        paper.print("글");
+        paper.NewPage();
+        QCOMPARE(paper.takeSheets().size(), std::size_t{3});
+        // Ending a job that has begun no sheet prints none.
+        paper.EndDoc();
+        QVERIFY(!paper.sheetsAreWaiting());
+        QVERIFY(paper.takeSheets().empty());
+    }
+
+    void aBackgroundColourErasesAPictureButNoPaper() {
+        PaperSurface paper;
+        paper.Line(0, 0, 600, 600, 0, LineForm::Line);
+        paper.setBackColor(0x00FF00);
+        QCOMPARE(paper.takeSheets().at(0).picture.items.size(), std::size_t{1});
+        PictureSurface picture({});
+        picture.Line(0, 0, 600, 600, 0, LineForm::Line);
+        picture.setBackColor(0x00FF00);
+        QVERIFY(picture.picture().items.empty());
+    }
+
     void aPictureHoldsThePointsAroundThePageAndCountsTheOthers() {
         PictureSurface surface({});
         surface.Line(0, 0, 8000, 8000, 0, LineForm::Box);
