@@ -14,6 +14,7 @@
 #include "common/code_page.h"
 #include "desktop/fault_report.h"
 #include "desktop/file_drop.h"
+#include "desktop/menu_keys.h"
 #include "desktop/text_viewer.h"
 
 namespace kelvo::desktop {
@@ -54,6 +55,7 @@ MainWindow::MainWindow(const std::string& applicationFolder)
     buildPanels();
     bindWindow();
     addShortcuts();
+    leadIntoMenus(*menuBar());
     addThemeButton();
     new FileDrop(*this, [this](const QStringList& paths) { openFiles(paths); });
 }
@@ -76,7 +78,7 @@ void MainWindow::buildPanels() {
     stage_->setUp(*book_, filePanel_);
 
     filePanel_.panel->installEventFilter(this);
-    filePanel_.path->setText(filePanel_.panel->property("caption").toString());
+    filePanel_.path->setWholeText(filePanel_.panel->property("caption").toString());
     connect(book_->viewer(), &TextViewer::modifiedChanged, this, [this] { showUnsavedMark(); });
     book_->plotView()->placeAt = [this](QPointF twips, double reach) {
         const PlotPlace place = program_->plotPlaceAt(twips.x(), twips.y(), reach);
@@ -189,7 +191,7 @@ void MainWindow::afterEvent(EventGate::Event event) {
 }
 
 bool MainWindow::textIsSaved() const {
-    QFile file(filePanel_.path->text());
+    QFile file(filePanel_.path->wholeText());
     if (!file.open(QIODevice::ReadOnly)) return false;
     const std::string bytes = encodeCodePage(book_->viewer()->text());
     if (file.size() != static_cast<qint64>(bytes.size())) return false;
@@ -208,7 +210,7 @@ void MainWindow::showUnsavedMark() {
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     if (watched == filePanel_.panel && event->type() == QEvent::DynamicPropertyChange) {
-        filePanel_.path->setText(filePanel_.panel->property("caption").toString());
+        filePanel_.path->setWholeText(filePanel_.panel->property("caption").toString());
     }
     return QMainWindow::eventFilter(watched, event);
 }

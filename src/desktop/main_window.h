@@ -35,6 +35,9 @@ public:
     // Shows what a run has written.
     void openResultFile(const QString& path);
 
+    // What a printed document is called, and the file that it is printed into: no path, no ending.
+    [[nodiscard]] QString documentName() const;
+
     [[nodiscard]] frmKelvo& program() { return *program_; }
     [[nodiscard]] WidgetBook& book() { return *book_; }
     [[nodiscard]] EventGate& gate() { return gate_; }

@@ -18,16 +18,14 @@ namespace kelvo::desktop {
 namespace {
 
 // A bar in the colour of a selection, with the caption of the panel.
-QFrame* captionBar(QLabel*& caption) {
+QFrame* captionBar(ElidedLabel*& caption) {
     auto* bar = new QFrame;
     bar->setAutoFillBackground(true);
     bar->setBackgroundRole(QPalette::Highlight);
     auto* row = new QHBoxLayout(bar);
     row->setContentsMargins(10, 4, 10, 4);
-    caption = new QLabel(bar);
+    caption = new ElidedLabel(bar);
     caption->setForegroundRole(QPalette::HighlightedText);
-    caption->setTextFormat(Qt::PlainText);
-    caption->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     row->addWidget(caption, 1);
     return bar;
 }
@@ -146,9 +144,9 @@ void layOutPrintMode(WidgetBook& book) {
 
     auto* column = new QVBoxLayout(card);
     column->setContentsMargins(0, 0, 0, 12);
-    QLabel* caption = nullptr;
+    ElidedLabel* caption = nullptr;
     QFrame* bar = captionBar(caption);
-    caption->setText(panel->property("caption").toString());
+    caption->setWholeText(panel->property("caption").toString());
     column->addWidget(bar);
 
     const auto line = [column](std::initializer_list<QWidget*> widgets, int indent) {

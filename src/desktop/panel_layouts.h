@@ -8,6 +8,7 @@
 #include <initializer_list>
 #include <string_view>
 
+#include "desktop/elided_label.h"
 #include "desktop/widget_book.h"
 
 namespace kelvo::desktop {
@@ -16,7 +17,7 @@ namespace kelvo::desktop {
 struct FilePanel {
     QWidget* panel = nullptr;
     QWidget* body = nullptr;  // where the text stands, or the plot in its place
-    QLabel* path = nullptr;
+    ElidedLabel* path = nullptr;
     QLabel* unsavedMark = nullptr;
 };
 

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDateTime>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -197,6 +198,15 @@ std::optional<std::string> ScreenDialogs::show(DialogKind kind,
 std::optional<std::string> ScreenDialogs::showPrinterDialog() {
     const Waiting waiting(parent_);
     QPrintDialog dialog(&printer_(), parent_.window);
+    // Nothing is printed here: the printer is chosen.
+    dialog.setWindowTitle(QStringLiteral("Printer설정"));
+    for (const QDialogButtonBox* box : dialog.findChildren<QDialogButtonBox*>()) {
+        for (QAbstractButton* button : box->buttons()) {
+            if (box->buttonRole(button) == QDialogButtonBox::AcceptRole) {
+                button->setText(QStringLiteral("확인(&O)"));
+            }
+        }
+    }
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     return printer_().printerName().toStdString();
 }

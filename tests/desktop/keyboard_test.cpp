@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QSet>
 #include <QTest>
@@ -66,6 +67,23 @@ private slots:
         const QStringList expected{"txtWdmsPhi", "txtWdmsLam", "txtWdmsTH", "txtwGeoid",
                                    "txtwH",      "cmdW2B",     "cmdB2W",    "optBdms"};
         QCOMPARE(walk, expected);
+    }
+
+    void altAndF10LeadIntoTheMenuBar() {
+        hands_->click("mnuOneOpen");
+        QMenuBar* bar = window_->menuBar();
+        QTest::keyClick(keyTarget(), Qt::Key_F10);
+        QVERIFY(bar->activeAction() == bar->actions().first());
+        QTest::keyClick(keyTarget(), Qt::Key_Escape);
+        QVERIFY(bar->activeAction() == nullptr);
+        QCOMPARE(focused(), QStringLiteral("txtWdmsPhi"));
+        QTest::keyPress(keyTarget(), Qt::Key_Alt, Qt::AltModifier);
+        QTest::keyRelease(keyTarget(), Qt::Key_Alt);
+        QVERIFY(bar->activeAction() == bar->actions().first());
+        QTest::keyPress(keyTarget(), Qt::Key_Alt, Qt::AltModifier);
+        QTest::keyRelease(keyTarget(), Qt::Key_Alt);
+        QVERIFY(bar->activeAction() == nullptr);
+        QCOMPARE(focused(), QStringLiteral("txtWdmsPhi"));
     }
 
     void eachPanelTakesTheFocusWhenShownAndGivesItBack() {

@@ -1,5 +1,6 @@
 // The viewer and editor of text files.
 #include <QApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTest>
@@ -28,6 +29,13 @@ private slots:
         QVERIFY(viewer->findNext(false));
         QVERIFY(viewer->editor().textCursor().position() > first);
         while (viewer->editor().textCursor().position() > first) QVERIFY(viewer->findNext(false));
+        const auto said = [this] {
+            return window_->findChild<QLabel*>("viewerSearchResult")->text();
+        };
+        QCOMPARE(said(), QStringLiteral("처음부터 다시 찾음"));
+        // Backward it goes around at the beginning, to the end.
+        QVERIFY(viewer->findNext(true));
+        QCOMPARE(said(), QStringLiteral("끝에서부터 다시 찾음"));
         wanted->setText("없는 글");
         QVERIFY(!viewer->findNext(false));
     }

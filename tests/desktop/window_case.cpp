@@ -45,6 +45,10 @@ void WindowCase::cleanup() {
     hands_.reset();
     window_.reset();
     folder_.reset();
+    // A window that was closed has asked for the end of a program that doesn't run yet; until one
+    // does, no box would wait for its answer.
+    QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+    QApplication::exec();
 }
 
 QString WindowCase::focused() {

@@ -8,11 +8,15 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QPlainTextEdit>
+#include <QPrintDialog>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
 #include <QTimer>
+#include <fstream>
 
 #include "common/code_page.h"
 #include "desktop/window_case.h"
@@ -132,6 +136,67 @@ private slots:
             box->selectAll();
             QTest::keyClicks(box, QStringLiteral("37.25"));
             QVERIFY2(control.text() == "37.25", control.name().c_str());
+        }
+    }
+
+    // A separator with a text shows it as the title of what follows.
+    void separatorsHaveNoText() {
+        int separators = 0;
+        for (const QAction* menu : window_->menuBar()->actions()) {
+            for (const QAction* action : menu->menu()->actions()) {
+                if (!action->isSeparator()) continue;
+                ++separators;
+                QVERIFY2(action->text().isEmpty(), qPrintable(action->objectName()));
+            }
+        }
+        QVERIFY(separators >= 5);
+    }
+
+    void aLongPathKeepsItsFileNameInSight() {
+        const QString folders = QStringLiteral("/data/") + QString(120, QLatin1Char('x'));
+        const std::string path = folder_->path() + folders.toStdString() + "/현장1.dat";
+        QVERIFY(QDir().mkpath(qtText(folder_->path()) + folders));
+        std::ofstream(path) << "*\r\nend\r\n";
+        window_->openDataFile(qtText(path));
+        window_->resize(700, 500);
+        QApplication::processEvents();
+        const auto* shown = window_->findChild<QLabel*>("frmeFileCaption");
+        QVERIFY2(shown->text().endsWith(QStringLiteral("현장1.dat")), qPrintable(shown->text()));
+        QVERIFY(shown->fontMetrics().horizontalAdvance(shown->text()) <= shown->width());
+        QCOMPARE(shown->toolTip(), qtText(path));
+    }
+
+    void aPrintedDocumentIsNamedAfterItsFile() {
+        folder_->put("data/현장1.dat", "WGS A 37.3533 126.3229 30\r\nend\r\n\r\n");
+        window_->openDataFile(qtText(folder_->file("data/현장1.dat")));
+        hands_->click("mnuBatchGo");
+        QCOMPARE(window_->documentName(), QStringLiteral("현장1"));
+        hands_->click("cmdShow");
+        QCOMPARE(window_->documentName(), QStringLiteral("현장1-그림"));
+        hands_->click("mnuCorrShow");
+        QCOMPARE(window_->documentName(), QStringLiteral("kelvo"));
+    }
+
+    void thePrinterSetupIsLeftBySayingItIsFine() {
+        hands_.reset();
+        QStringList captions;
+        QTimer::singleShot(0, window_.get(), [&captions] {
+            QTRY_VERIFY(qobject_cast<QPrintDialog*>(QApplication::activeModalWidget()) != nullptr);
+            auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+            captions << dialog->windowTitle();
+            for (const auto* button : dialog->findChildren<QPushButton*>()) {
+                captions << button->text();
+            }
+            dialog->reject();
+        });
+        window_->book().action("mnuPrinterSelect")->trigger();
+        QVERIFY2(captions.contains(QStringLiteral("Printer설정")), qPrintable(captions.join('|')));
+        QVERIFY2(captions.contains(QStringLiteral("확인(&O)")), qPrintable(captions.join('|')));
+        for (const QString& caption : captions) {
+            QVERIFY2(!caption.contains(QStringLiteral("인쇄")) &&
+                         !caption.contains(QStringLiteral("Print(")) &&
+                         caption != QStringLiteral("&Print"),
+                     qPrintable(caption));
         }
     }
 
