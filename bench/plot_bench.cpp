@@ -30,9 +30,7 @@ class Silence final : public MessageBoxes, public ProgramStarter, public ScalePa
 public:
     Answer show(const Message&) override { return Answer::Ok; }
     void start(const std::string&) override {}
-    void showScale(const std::array<std::string, 4>&) override {}
-    void SavePcfgFile() override {}
-    PointPlot chosenKind() const override { return PointPlot::XY; }
+    void takeScale(PointPlot, const std::array<std::string, 4>&) override {}
 };
 
 // Points over 3 km of a TM grid, spread without a pattern to speak of.

@@ -1,10 +1,9 @@
 #include "batch/distance.h"
 
+#include "batch/continuation_lines.h"
 #include "common/fixed_width.h"
-#include "common/letter_case.h"
 #include "common/plane_geometry.h"
 #include "common/run_time_fault.h"
-#include "geodesy/angle_forms.h"
 
 namespace kelvo {
 
@@ -12,17 +11,9 @@ namespace {
 
 constexpr int kKeywordLineFields = 5;
 
-// The first row of that name; 0 if there is none.
-int rowOf(const PointTable& points, const std::string& name) {
-    for (int i = 1; i <= points.PointCount; ++i)
-        if (sameIgnoringCase(points.row(i).name, name)) return i;
-    return 0;
-}
-
-void writePair(BatchRun& run, const std::string& first, const std::string& second) {
-    const PointTable& points = run.state.points;
-    const int firstRow = rowOf(points, first);
-    const int secondRow = rowOf(points, second);
+void writePair(CurrentRun& run, const std::string& first, const std::string& second) {
+    const int firstRow = run.rowsByName.rowOf(first);
+    const int secondRow = run.rowsByName.rowOf(second);
     const auto reportMissing = [&run](const std::string& name) {
         run.files.out.line("거리계산을 위한 점 " + name + "이 없습니다.");
     };
@@ -30,13 +21,15 @@ void writePair(BatchRun& run, const std::string& first, const std::string& secon
     if (secondRow == 0) reportMissing(second);
     if (firstRow == 0 || secondRow == 0) return;
 
+    const PointTable& points = run.state.points;
     const PointRec& from = points.row(firstRow);
     const PointRec& to = points.row(secondRow);
     const genSub::DirectionDistance result =
         genSub::DistanceAndDirection(from.TmX, from.TmY, to.TmX, to.TmY);
-    std::string line = "From   " + genSub::FormatText(first, 10, 0) + "    To   " +
-                       genSub::FormatText(second, 10, 0) + "    Direction =";
-    KelvoSub::appendAngleText(line, result.direction, run.AngleOut, run.messages);
+    std::string line = "From   " + genSub::FormatText(first, 10, genSub::Align::Left) +
+                       "    To   " + genSub::FormatText(second, 10, genSub::Align::Left) +
+                       "    Direction =";
+    KelvoSub::appendAngleText(line, result.direction, run.AngleOut);
     line += "     Distance =";
     genSub::appendFormatNum(line, result.distance, 7, 4);
     run.files.out.line(line);
@@ -44,11 +37,12 @@ void writePair(BatchRun& run, const std::string& first, const std::string& secon
 
 }  // namespace
 
-void RunDistance(BatchRun& run) {
+void RunDistance(CurrentRun& run) {
     run.files.out.line("");
     run.files.out.line("Distance Calculation");
     run.files.out.line("");
     run.parse(kKeywordLineFields);
+    run.rowsByName.update(run.state.points);
     int nameField = 2;  // the keyword stands in front on the first line only
     do {
         const std::string first = run.fields().FieldStr(nameField);

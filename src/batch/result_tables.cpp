@@ -3,10 +3,10 @@
 #include <string>
 #include <string_view>
 
+#include "batch/wording.h"
 #include "common/fixed_width.h"
 #include "common/run_time_fault.h"
-#include "geodesy/angle_forms.h"
-#include "geodesy/transverse_mercator.h"
+#include "conversion/converter.h"
 
 namespace kelvo {
 
@@ -15,23 +15,20 @@ namespace {
 constexpr std::string_view kGridHeading =
     " 명칭                 X                  Y               표고";
 
-// WGS84 for the last table, its flattening given as it is and not by its inverse.
-constexpr Ellipsoid kWgsGridEllipsoid{.a = 6378137.0, .f = 0.0033528106647474805};
-
+// "타윈체" and "직교좌표" in the titles are required as they are spelt.
 // Builds the rows of one table; every cell has its fixed width and nothing stands between.
 class Row {
 public:
-    Row(TextWriter& out, int AngleOut, MessageBoxes& messages)
-        : out_(out), form_(AngleOut), messages_(messages) {}
+    Row(TextWriter& out, AngleForm AngleOut) : out_(out), form_(AngleOut) {}
 
     Row& name(const std::string& name) {
         line_.clear();
-        genSub::appendFormatText(line_, name, 10, 0);
+        genSub::appendFormatText(line_, name, 10, genSub::Align::Left);
         return *this;
     }
     Row& angles(double Phi, double Lam) {
-        KelvoSub::appendAngleText(line_, Phi, form_, messages_);
-        KelvoSub::appendAngleText(line_, Lam, form_, messages_);
+        KelvoSub::appendAngleText(line_, Phi, form_);
+        KelvoSub::appendAngleText(line_, Lam, form_);
         return *this;
     }
     Row& grid(double X, double Y) {
@@ -46,18 +43,19 @@ public:
 
 private:
     TextWriter& out_;
-    int form_;
-    MessageBoxes& messages_;
+    AngleForm form_;
     std::string line_;
 };
 
 }  // namespace
 
-void PrintResultTables(PointTable& points, TextWriter& out, int AngleOut, TransPara& para,
-                       MessageBoxes& messages) {
-    Row row(out, AngleOut, messages);
-    const auto eachPoint = [&points](auto body) {
+void PrintResultTables(PointTable& points, TextWriter& out, AngleForm AngleOut, TransPara& para,
+                       MessageBoxes& messages, int& rowInHand) {
+    Row row(out, AngleOut);
+    rowInHand = 0;
+    const auto eachPoint = [&points, &rowInHand](auto body) {
         for (int i = 1; i <= points.PointCount; ++i) {
+            rowInHand = i;
             PointRec& point = points.row(i);
             try {
                 body(point);
@@ -66,6 +64,7 @@ void PrintResultTables(PointTable& points, TextWriter& out, int AngleOut, TransP
                 throw;
             }
         }
+        rowInHand = 0;
     };
 
     out.line("WGS 타윈체 경위도 및 타원체고");
@@ -95,13 +94,10 @@ void PrintResultTables(PointTable& points, TextWriter& out, int AngleOut, TransP
     out.line("");
     out.line("WGS 타윈체 직교좌표 및 표고 (WGS 경위도 -> WGS 타원체 UTM)");
     out.line(kGridHeading);
-    TmGrid wgsGrid(
-        kWgsGridEllipsoid,
-        {.X0 = para.UX0, .Y0 = para.UY0, .Phi0 = para.UPhi0, .Lam0 = para.ULam0, .S0 = para.US0});
+    const WgsUtmGrid wgsGrid(utmOriginOf(para));
     eachPoint([&](PointRec& p) {
-        KelvoSub::chkUZone(p.WgsLam, para.UZone, para.ULam0);
-        wgsGrid.setCentralMeridian(para.ULam0);
-        const GridPoint grid = KelvoSub::GeoToTM(p.WgsPhi, p.WgsLam, wgsGrid, messages);
+        const auto result = wgsGrid.at({.Phi = p.WgsPhi, .Lam = p.WgsLam}, para.UZone, para.ULam0);
+        const GridPoint& grid = told(messages, result, Remark::Kind::NotProjected);
         p.WgsUtmX = grid.X;
         p.WgsUtmY = grid.Y;
         p.WgsUtmH = p.TmH;

@@ -1,6 +1,8 @@
 #include "batch/run_batch.h"
 
-#include "batch/batch_run.h"
+#include <array>
+
+#include "batch/current_run.h"
 #include "batch/run_commands.h"
 #include "batch/run_notes.h"
 #include "common/paths.h"
@@ -10,13 +12,9 @@ namespace kelvo {
 
 namespace {
 
-// A name that would make a run empty a file it is about to read is refused as one already open.
-void refuseIfSame(Disk& disk, const std::string& written, const std::string& read) {
-    if (disk.sameFile(written, read))
-        raise(Fault::FileAlreadyOpen, "파일이 이미 열려 있습니다 (" + written + ")");
-}
-
-void runCommands(BatchRun& run) {
+// Required: the end of the file is looked at before a line is carried out, so that the line read
+// last never is, unless a block of points has read it.
+void runCommands(CurrentRun& run) {
     run.readLine();
     while (!run.data.atEnd()) {
         run.lineHeld = false;
@@ -39,21 +37,18 @@ void RunBatch(ConversionState& state, const RunPlaces& places, RunView& view, Di
     view.runBegins();
 
     const std::string outPath = resultFileOf(places.dataFile);
+    requireFilesOfTheirOwn(disk, std::array{outPath, places.detPath},
+                           std::array{places.dataFile, places.CorPath});
     TextReader data(disk, places.dataFile);
-    refuseIfSame(disk, outPath, places.dataFile);
-    refuseIfSame(disk, outPath, places.CorPath);
     TextWriter out(disk, outPath);
-    refuseIfSame(disk, places.detPath, places.dataFile);
-    refuseIfSame(disk, places.detPath, places.CorPath);
-    refuseIfSame(disk, places.detPath, outPath);
     TextWriter det(disk, places.detPath);
 
     state.ParaDirty = true;
-    BatchRun run{.state = state,
-                 .disk = disk,
-                 .messages = messages,
-                 .data = data,
-                 .files = {.out = out, .det = det, .CorPath = places.CorPath}};
+    CurrentRun run{.state = state,
+                   .disk = disk,
+                   .messages = messages,
+                   .data = data,
+                   .files = {.out = out, .det = det, .CorPath = places.CorPath}};
     try {
         PrintRunNotes(out);
         runCommands(run);

@@ -3,9 +3,9 @@
 
 #include <string>
 
+#include "batch/conversion_state.h"
 #include "common/disk.h"
 #include "common/ports.h"
-#include "correction/run_report.h"
 
 namespace kelvo {
 
@@ -31,9 +31,5 @@ public:
 // they were written, except a failure to show the result, which is told in a message.
 void RunBatch(ConversionState& state, const RunPlaces& places, RunView& view, Disk& disk,
               MessageBoxes& messages);
-
-// Writes the sample data file, which is the manual of the data-file language, replacing any
-// file of that name.
-void WriteSampleData(Disk& disk, const std::string& path);
 
 }  // namespace kelvo

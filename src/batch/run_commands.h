@@ -1,16 +1,15 @@
-// The commands of the data-file language.
+// The commands of a data file, carried out.
 #pragma once
 
-#include "batch/batch_run.h"
+#include "batch/current_run.h"
 
 namespace kelvo {
 
-// Carries out the command in LineBuf, recognised by the first two letters of its first two
-// upper-cased words; a line of no command is passed over. A pipeline that has read on leaves
-// run.lineHeld set. False for the end command.
-[[nodiscard]] bool carryOutCommand(BatchRun& run);
+// Carries out the command in LineBuf; a line of no command is passed over. Whoever has read on
+// leaves run.lineHeld set. False for the end command.
+[[nodiscard]] bool carryOutCommand(CurrentRun& run);
 
 // The tables of the run, once.
-void writeTablesOnce(BatchRun& run);
+void writeTablesOnce(CurrentRun& run);
 
 }  // namespace kelvo

@@ -1,9 +1,8 @@
-// The sample data file: the manual of the data-file language, in front of it three points that
-// run as they stand. Behind the first `end` everything is explanation and examples.
+#include "batch/sample_data.h"
+
 #include <array>
 #include <string_view>
 
-#include "batch/run_batch.h"
 #include "common/text_file.h"
 
 namespace kelvo {
@@ -12,8 +11,9 @@ namespace {
 
 using namespace std::string_view_literals;
 
-// Odd spellings, trailing blanks and the lone quotation mark are part of the file; users and
-// other programs know it so.
+// Three points that run as they stand, then the manual of the language: after the first `end`
+// everything is explanation and examples. Odd spellings, trailing blanks and the lone quotation
+// mark are part of the file: required, users and other programs know it so.
 constexpr std::array kLines{
     // clang-format off
     "************************************ "sv,

@@ -31,10 +31,23 @@ namespace kelvo {
     return std::sqrt(x);
 }
 
+inline constexpr double kLowestInteger16 = -32768;
+inline constexpr double kHighestInteger16 = 32767;
+
+// Fault 6 with the value and the limits.
+[[noreturn]] void raiseBeyondInteger16(double value);
+
 // A value with no fraction as a 16-bit integer; fault 6 beyond its range.
 [[nodiscard]] inline std::int16_t toInteger16(double whole) {
-    if (!(whole >= -32768.0 && whole <= 32767.0)) raise(Fault::Overflow);
+    if (!(whole >= kLowestInteger16 && whole <= kHighestInteger16)) raiseBeyondInteger16(whole);
     return static_cast<std::int16_t>(whole);
+}
+
+// The largest integer not above the value, as a 16-bit integer; fault 6 beyond its range.
+[[nodiscard]] inline std::int16_t floorInteger16(double value) {
+    if (!(value >= kLowestInteger16 && value < kHighestInteger16 + 1)) raiseBeyondInteger16(value);
+    const int towardsZero = static_cast<int>(value);
+    return static_cast<std::int16_t>(towardsZero > value ? towardsZero - 1 : towardsZero);
 }
 
 // Rounded to the nearest integer, halves to the even neighbour, as a 16-bit or 32-bit integer;

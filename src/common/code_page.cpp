@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cstdint>
-#include <cstring>
 #include <memory>
 
 #include "common/code_page_table.h"
@@ -49,18 +48,6 @@ private:
     std::unique_ptr<std::array<std::uint16_t, 0x10000>> bytes_;
 };
 
-// How many bytes at the front are ASCII, which is the same in both encodings.
-std::size_t asciiRun(std::string_view text) {
-    std::size_t i = 0;
-    for (; i + sizeof(std::uint64_t) <= text.size(); i += sizeof(std::uint64_t)) {
-        std::uint64_t chunk = 0;
-        std::memcpy(&chunk, text.data() + i, sizeof chunk);
-        if ((chunk & 0x8080808080808080U) != 0) break;
-    }
-    while (i < text.size() && static_cast<unsigned char>(text[i]) < 0x80) ++i;
-    return i;
-}
-
 unsigned bytesOf(char32_t character) {
     static const ByteTable table;
     return table.bytesOf(character);
@@ -70,7 +57,7 @@ unsigned bytesOf(char32_t character) {
 
 void decodeCodePage(std::string_view bytes, std::string& text) {
     for (std::size_t i = 0; i < bytes.size();) {
-        if (const std::size_t run = asciiRun(bytes.substr(i)); run > 0) {
+        if (const std::size_t run = asciiLength(bytes.substr(i)); run > 0) {
             text.append(bytes.substr(i, run));
             i += run;
             continue;
@@ -96,7 +83,7 @@ std::string decodeCodePage(std::string_view bytes) {
 
 void encodeCodePage(std::string_view text, std::string& bytes) {
     while (!text.empty()) {
-        if (const std::size_t run = asciiRun(text); run > 0) {
+        if (const std::size_t run = asciiLength(text); run > 0) {
             bytes.append(text.substr(0, run));
             text.remove_prefix(run);
             continue;

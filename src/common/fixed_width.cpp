@@ -2,9 +2,10 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
+#include <bit>
 #include <cmath>
 #include <cstdint>
+#include <cstring>
 
 #include "common/checked_arithmetic.h"
 #include "common/code_page.h"
@@ -19,10 +20,10 @@ namespace {
 // A mask longer than any text that a report could hold gives no text at all.
 constexpr int kLongestMask = 1 << 16;
 
-// The decimal digits of a value rounded at a place behind the point, halves away from zero.
+// The decimal digits of a value rounded at a place after the point, halves away from zero.
 struct RoundedDigits {
     std::uint64_t digits = 0;
-    int zeros = 0;  // zeros that belong behind `digits`
+    int zeros = 0;  // zeros that belong after `digits`
 };
 
 RoundedDigits roundAt(const Decimal15& decimal, int decimals) {
@@ -35,7 +36,8 @@ RoundedDigits roundAt(const Decimal15& decimal, int decimals) {
 }
 
 // The same without the way through the 15 digits, where both must agree: nothing is left to
-// fill up, and the value is farther from a tie than those digits could move it.
+// fill up, and the value is farther from a tie than those digits could move it. It saves a third
+// of the time of a number.
 RoundedDigits roundedDigits(double value, int decimals) {
     constexpr double kMostDigits = 1e15;
     constexpr double kMoved = 1e-14;
@@ -51,40 +53,12 @@ RoundedDigits roundedDigits(double value, int decimals) {
     return roundAt(decimal15(value), decimals);
 }
 
-void appendFill(std::string& line, long count, char fill) {
-    if (count > 0) line.append(static_cast<std::size_t>(count), fill);
+// 0 for 0.
+int digitCount(std::uint64_t digits) {
+    // log10(2) as 1233/4096
+    const auto count = static_cast<std::size_t>((std::bit_width(digits) * 1233) >> 12);
+    return static_cast<int>(count) + (digits >= kIntegerPowerOfTen[count] ? 1 : 0);
 }
-
-// The digits of a rounded value with `decimals` of them behind the point and at least `width`
-// integer places, filled up with zeros; the number of integer places written.
-long appendMasked(std::string& line, const RoundedDigits& rounded, int width, int decimals) {
-    std::array<char, 24> buffer{};
-    std::size_t length = 0;
-    if (rounded.digits != 0) {
-        const auto [end, error] =
-            std::to_chars(buffer.data(), buffer.data() + buffer.size(), rounded.digits);
-        length = static_cast<std::size_t>(end - buffer.data());
-    }
-    const std::string_view digits(buffer.data(), length);
-    const long all = static_cast<long>(length) + rounded.zeros;
-    const long integerDigits = std::max(all - decimals, 0L);
-    const long integerPlaces = std::max<long>(integerDigits, width);
-    appendFill(line, integerPlaces - integerDigits, '0');
-    const long fromDigits = std::min<long>(integerDigits, static_cast<long>(length));
-    line += digits.substr(0, static_cast<std::size_t>(fromDigits));
-    appendFill(line, integerDigits - fromDigits, '0');
-    if (decimals > 0) {
-        line += '.';
-        appendFill(line, decimals - all, '0');
-        line += digits.substr(static_cast<std::size_t>(fromDigits));
-        appendFill(line, std::min<long>(rounded.zeros - (integerDigits - fromDigits), decimals),
-                   '0');
-    }
-    return integerPlaces;
-}
-
-// The same text for the masks that reports use, made from its end in one small buffer.
-constexpr int kUsualWidth = 20;
 
 constexpr std::array<char, 200> kTwoDigits = [] {
     std::array<char, 200> pairs{};
@@ -95,30 +69,36 @@ constexpr std::array<char, 200> kTwoDigits = [] {
     return pairs;
 }();
 
-void appendUsual(std::string& line, std::uint64_t digits, bool minus, int width, int decimals) {
-    std::array<char, 2 * kUsualWidth + 24> buffer;
-    char* const end = buffer.data() + buffer.size();
-    char* first = end;
-    const auto putDigits = [&first](std::uint64_t& value, int count) {
-        for (; count >= 2; count -= 2) {
-            const auto pair = static_cast<std::size_t>(value % 100);
-            value /= 100;
-            *--first = kTwoDigits[2 * pair + 1];
-            *--first = kTwoDigits[2 * pair];
-        }
-        if (count == 1) {
-            *--first = static_cast<char>('0' + value % 10);
-            value /= 10;
-        }
-    };
-    putDigits(digits, decimals);
-    if (decimals > 0) *--first = '.';
-    const char* const columns = first - width;
-    if (width > 0) putDigits(digits, 1);
-    while (digits != 0) putDigits(digits, 1);
-    if (minus && first > columns) *--first = '-';
-    while (first > columns) *--first = ' ';
-    line.append(first, end);
+// The last 16 digits of a number, zeros in front. By halves, so that the divisions don't wait for
+// each other.
+class SixteenDigits {
+public:
+    static constexpr int kCount = 16;
+
+    explicit SixteenDigits(std::uint64_t digits) {
+        putEight(static_cast<std::uint32_t>(digits / 100000000), 0);
+        putEight(static_cast<std::uint32_t>(digits % 100000000), 8);
+    }
+    [[nodiscard]] const char* last(int count) const { return text_.data() + kCount - count; }
+
+private:
+    void putEight(std::uint32_t eight, std::size_t at) {
+        const std::uint32_t high = eight / 10000;
+        const std::uint32_t low = eight % 10000;
+        putTwo(high / 100, at);
+        putTwo(high % 100, at + 2);
+        putTwo(low / 100, at + 4);
+        putTwo(low % 100, at + 6);
+    }
+    void putTwo(std::uint32_t two, std::size_t at) {
+        std::memcpy(text_.data() + at, kTwoDigits.data() + std::size_t{2} * two, 2);
+    }
+
+    std::array<char, kCount> text_;
+};
+
+void appendFill(std::string& line, long count, char fill) {
+    if (count > 0) line.append(static_cast<std::size_t>(count), fill);
 }
 
 }  // namespace
@@ -144,24 +124,30 @@ void appendFormatNum(std::string& line, double value, int width, int decimals) {
 
     const bool minus = finite(value) < 0;
     const RoundedDigits rounded = roundedDigits(value, decimals);
-    if (minus && rounded.digits == 0) {
-        // The sign of a number that rounds to zero stops the blanking: sign and zeros stay.
-        line += '-';
-        appendMasked(line, rounded, width, decimals);
-        return;
-    }
-    if (rounded.zeros == 0 && width <= kUsualWidth && decimals <= kUsualWidth) {
-        appendUsual(line, rounded.digits, minus, width, decimals);
-        return;
-    }
+    // The sign of a number that rounds to zero stops the blanking: sign and zeros stay.
+    const bool minusZero = minus && rounded.digits == 0;
+    const int count = digitCount(rounded.digits);
+    const long integerDigits = std::max(long{count} + rounded.zeros - decimals, 0L);
+    const long places = std::max<long>(integerDigits, width);
+    const long shown = minusZero ? places : std::max<long>(integerDigits, std::min<long>(width, 1));
+
     const std::size_t start = line.size();
-    const long integerPlaces = appendMasked(line, rounded, width, decimals);
-    // Leading zeros become blanks, but for the last integer place of the mask.
-    const std::size_t last = start + static_cast<std::size_t>(std::min<long>(integerPlaces, width));
-    std::size_t scan = start;
-    for (; scan + 1 < last && line[scan] == '0'; ++scan) line[scan] = ' ';
+    const long length = (minusZero ? 1 : 0) + places + (decimals > 0 ? 1 + decimals : 0);
+    line.resize(start + static_cast<std::size_t>(length), ' ');
+    const char* const front = line.data() + start;
+    char* const end = line.data() + line.size();
+    // The digits without their point first; what is in front of it then moves up by one.
+    char* first = end - (shown + decimals);
+    std::fill(first, end, '0');
+    std::memcpy(end - rounded.zeros - count, SixteenDigits(rounded.digits).last(count),
+                static_cast<std::size_t>(count));
+    if (decimals > 0) {
+        std::memmove(first - 1, first, static_cast<std::size_t>(shown));
+        --first;
+        end[-decimals - 1] = '.';
+    }
     // The sign goes in front of the first digit, if a blank stands there to take it.
-    if (minus && scan > start) line[scan - 1] = '-';
+    if (minus && first > front) first[-1] = '-';
 }
 
 std::string FormatNum(double value, int width, int decimals) {
@@ -174,9 +160,10 @@ std::string FormatNum(std::string_view text, int width, int decimals) {
     return FormatNum(leadingNumber(text), width, decimals);
 }
 
-void appendFormatText(std::string& line, std::string_view text, int width, int align) {
-    std::size_t taken = 0;
-    int columns = 0;
+void appendFormatText(std::string& line, std::string_view text, int width, Align align) {
+    // A letter of ASCII is one byte and one column.
+    std::size_t taken = asciiLength(text.substr(0, static_cast<std::size_t>(std::max(width, 0))));
+    int columns = static_cast<int>(taken);
     while (columns < width && taken < text.size()) {
         const Utf8Character character = firstCharacter(text.substr(taken));
         const int more = codePageWidth(character.code);
@@ -184,12 +171,12 @@ void appendFormatText(std::string& line, std::string_view text, int width, int a
         columns += more;
         taken += character.length;
     }
-    if (align == 1) appendFill(line, width - columns, ' ');
+    if (align == Align::Right) appendFill(line, width - columns, ' ');
     line += text.substr(0, taken);
-    if (align == 0) appendFill(line, width - columns, ' ');
+    if (align == Align::Left) appendFill(line, width - columns, ' ');
 }
 
-std::string FormatText(std::string_view text, int width, int align) {
+std::string FormatText(std::string_view text, int width, Align align) {
     std::string result;
     appendFormatText(result, text, width, align);
     return result;

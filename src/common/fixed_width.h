@@ -27,9 +27,12 @@ namespace kelvo::genSub {
 // Appends FormatNum to a line; what every table uses.
 void appendFormatNum(std::string& line, double value, int width, int decimals);
 
+// Where a text stands in its columns. Any other number: as it is, nothing filled.
+enum class Align : int { Left = 0, Right = 1 };
+
 // The text cut to `width` columns (a letter that would cross the limit is dropped), or filled
-// with blanks behind it (align 0) or in front of it (align 1); any other align fills nothing.
-[[nodiscard]] std::string FormatText(std::string_view text, int width, int align);
-void appendFormatText(std::string& line, std::string_view text, int width, int align);
+// with blanks after it (Left) or in front of it (Right).
+[[nodiscard]] std::string FormatText(std::string_view text, int width, Align align);
+void appendFormatText(std::string& line, std::string_view text, int width, Align align);
 
 }  // namespace kelvo::genSub

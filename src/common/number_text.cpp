@@ -8,6 +8,7 @@
 #include <system_error>
 
 #include "common/checked_arithmetic.h"
+#include "common/integer_power.h"
 #include "common/powers_of_ten.h"
 
 namespace kelvo {
@@ -67,6 +68,18 @@ bool vanishes(std::string_view mantissa, std::string_view exponent) {
         std::from_chars(exponent.data(), exponent.data() + exponent.size(), power);
     if (error != std::errc{} && !exponent.empty()) return exponent.front() == '-';
     return place + power < 0;
+}
+
+// The usual number: digits, a point, an exponent introduced by E. Nothing for any other.
+std::optional<NumberRead> readPlainDecimal(std::string_view text) {
+    const std::size_t first = text.starts_with('-') ? 1 : 0;
+    if (first == text.size() || (!isDigit(text[first]) && text[first] != '.')) return std::nullopt;
+    double value = 0;
+    const char* const last = text.data() + text.size();
+    const auto [end, error] = std::from_chars(text.data(), last, value);
+    const bool exponentByD = end != last && (*end == 'd' || *end == 'D');
+    if (error != std::errc{} || exponentByD) return std::nullopt;
+    return NumberRead{.value = value};
 }
 
 NumberRead readDecimal(std::string_view text, const DecimalShape& shape) {
@@ -131,16 +144,7 @@ bool scaledDigits(double magnitude, Decimal15& decimal) {
         const int scale = 14 - place;
         if (scale < 0 || scale > kExactPowers) return false;
         const double power = kPowerOfTen[static_cast<std::size_t>(scale)];
-        const double product = magnitude * power;
-        // Veltkamp's splitting and Dekker's product.
-        constexpr double kSplit = 134217729.0;
-        const double magnitudeTop = magnitude * kSplit - (magnitude * kSplit - magnitude);
-        const double powerTop = power * kSplit - (power * kSplit - power);
-        const double magnitudeRest = magnitude - magnitudeTop;
-        const double powerRest = power - powerTop;
-        const double error = ((magnitudeTop * powerTop - product) + magnitudeTop * powerRest +
-                              magnitudeRest * powerTop) +
-                             magnitudeRest * powerRest;
+        const auto [product, error] = exactProduct(magnitude, power);
         if (product >= 1e15) {
             ++place;
             continue;
@@ -217,6 +221,7 @@ std::string generalText(double value, bool leadingZero) {
 
 NumberRead readNumber(std::string_view text) {
     text = withoutBlanksInFront(text);
+    if (const auto plain = readPlainDecimal(text)) return *plain;
     unsigned base = 0;
     if (const std::size_t length = radixLength(text, base); length > 0)
         return readRadix(text.substr(2, length - 2), base);

@@ -16,7 +16,12 @@ void requireRow(int index) {
 PointRec& PointTable::row(int index) {
     requireRow(index);
     const auto i = static_cast<std::size_t>(index);
-    if (i >= rows_.size()) rows_.resize(i + 1);
+    if (i >= rows_.size()) {
+        // Room for all at once, of which only the rows in use become memory: growing by and by would
+        // move them again and again.
+        rows_.reserve(kMostPoints + 1);
+        rows_.resize(i + 1);
+    }
     return rows_[i];
 }
 

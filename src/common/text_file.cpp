@@ -40,12 +40,12 @@ void TextReader::checkLength(std::size_t length) const {
         raise(Fault::Overflow, std::to_string(linesRead_ + 1) + "번째 줄이 너무 깁니다");
 }
 
-// Steps over one line end, which stands at the front; over nothing at the end of the file.
+// Steps over one line end, which stands at the front; the end of the file ends a line as well.
 void TextReader::skipLineEnd() {
     const int first = peek();
+    ++linesRead_;
     if (first == kEndOfFile) return;
     ++next_;
-    ++linesRead_;
     if (first == '\r' && peek() == '\n') ++next_;
 }
 

@@ -35,7 +35,7 @@ public:
     // fault 62.
     [[nodiscard]] double readNumber();
 
-    // Number of lines ended so far.
+    // Number of lines ended so far, by a line end or by the end of the file.
     [[nodiscard]] long linesRead() const { return linesRead_; }
 
 private:

@@ -1,5 +1,8 @@
 #include "common/utf8.h"
 
+#include <cstdint>
+#include <cstring>
+
 namespace kelvo {
 
 namespace {
@@ -35,6 +38,17 @@ Utf8Character firstCharacter(std::string_view text) {
     const bool surrogate = code >= 0xD800 && code <= 0xDFFF;
     if (code < lead.smallest || code > 0x10FFFF || surrogate) return {kNoCharacter, 1};
     return {code, lead.length};
+}
+
+std::size_t asciiLength(std::string_view text) {
+    std::size_t i = 0;
+    for (; i + sizeof(std::uint64_t) <= text.size(); i += sizeof(std::uint64_t)) {
+        std::uint64_t chunk = 0;
+        std::memcpy(&chunk, text.data() + i, sizeof chunk);
+        if ((chunk & 0x8080808080808080U) != 0) break;
+    }
+    while (i < text.size() && static_cast<unsigned char>(text[i]) < 0x80) ++i;
+    return i;
 }
 
 void appendUtf8(char32_t code, std::string& text) {

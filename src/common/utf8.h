@@ -16,6 +16,9 @@ struct Utf8Character {
 // character is one character by itself.
 [[nodiscard]] Utf8Character firstCharacter(std::string_view text);
 
+// How many bytes at the front are ASCII, which is one byte a letter in every encoding here.
+[[nodiscard]] std::size_t asciiLength(std::string_view text);
+
 void appendUtf8(char32_t code, std::string& text);
 
 // The number of characters.

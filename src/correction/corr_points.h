@@ -3,11 +3,8 @@
 
 #include <array>
 #include <cstdint>
+#include <span>
 #include <string>
-
-#include "common/disk.h"
-#include "common/fields.h"
-#include "common/ports.h"
 
 namespace kelvo {
 
@@ -23,8 +20,9 @@ struct CorrPoint {
     float Weight = 0;
     double DPhi = 0;  // known minus computed
     double DLam = 0;
-    double DH = 0;  // kept from the run before where a height is not known (required)
-    float W = 0;    // the last weight that was worked out for a point
+    double DH = 0;  // required: stays from the run before where a height is not known
+
+    [[nodiscard]] bool hasBothHeights() const { return WgsH != 0 && UserH != 0; }
 };
 
 inline constexpr int kMostCorrPoints = 200;
@@ -33,16 +31,13 @@ inline constexpr int kMostCorrPoints = 200;
 struct CorrPointTable {
     std::int16_t CorrCount = 0;
     std::array<CorrPoint, kMostCorrPoints + 1> CorrPoints;
-};
 
-// Fills the table from the file of known points. Angles are ddd.mmssss always. Lines whose
-// first field is empty or begins with "*" are passed over.
-//
-// The end of the file is looked at only behind the first line and behind a blank or comment
-// line, and the line read last is never taken (required): a file must have a blank or comment
-// line as its last line but one. Otherwise fault 62; a 201st point is fault 9; a missing file
-// is fault 53.
-void ReadCorrFile(CorrPointTable& table, const std::string& path, FieldStore& fields, Disk& disk,
-                  MessageBoxes& messages);
+    [[nodiscard]] std::span<CorrPoint> inUse() {
+        return std::span(CorrPoints).subspan(1, static_cast<std::size_t>(CorrCount));
+    }
+    [[nodiscard]] std::span<const CorrPoint> inUse() const {
+        return std::span(CorrPoints).subspan(1, static_cast<std::size_t>(CorrCount));
+    }
+};
 
 }  // namespace kelvo

@@ -1,13 +1,8 @@
-#include <cmath>
-#include <span>
-#include <string>
-#include <string_view>
+#include "correction/find_corr.h"
 
-#include "common/checked_arithmetic.h"
-#include "common/fixed_width.h"
-#include "common/run_time_fault.h"
-#include "correction/run_report.h"
-#include "geodesy/angle_forms.h"
+#include <algorithm>
+#include <array>
+#include <cmath>
 
 namespace kelvo {
 
@@ -15,76 +10,125 @@ namespace {
 
 // Latitude counts more than longitude in the distance; not derived from the place.
 constexpr double kLatitudeStretch = 1.2;
-// The squared distance of a run point that lies on a known point, square degrees.
-constexpr double kSmallestDistance2 = 1e-8;
 
-// The weight of every known point for a place, kept with the point. All of them first, in a loop
-// of nothing else, since the divisions then run one behind the other.
-void weigh(std::span<CorrPoint> points, double Phi, double Lam, std::string_view pointName) {
-    const CorrPoint* unweighable = nullptr;
-    for (CorrPoint& known : points) {
-        const double d1 = known.WgsPhi - Phi;
-        const double d2 = known.WgsLam - Lam;
-        double Q = d1 * d1 * kLatitudeStretch + d2 * d2;
-        if (Q == 0) Q = kSmallestDistance2;
-        const double Q2 = Q * Q;
-        known.W = static_cast<float>(static_cast<double>(known.Weight) / Q2);
-        const bool good = std::isfinite(known.W) && std::isfinite(Q2);
-        if (!good && unweighable == nullptr) unweighable = &known;
-    }
-    if (unweighable != nullptr)
-        raise(Fault::Overflow, "점 " + std::string(pointName) + "과(와) 보정점 " +
-                                   unweighable->Name + "의 거리에서는 가중치를 계산할 수 없습니다");
+constexpr std::size_t kLanes = 32;
+using Lane = std::array<double, kLanes>;
+
+// The weight of a known point is its own one over this.
+double divisorAt(const CorrPoint& known, double Phi, double Lam) {
+    const double d1 = known.WgsPhi - Phi;
+    const double d2 = known.WgsLam - Lam;
+    double Q = d1 * d1 * kLatitudeStretch + d2 * d2;
+    if (Q == 0) Q = kSmallestDistance2;
+    return Q * Q;
 }
 
-Correction weightedMean(CorrPointTable& table, double Phi, double Lam, std::string_view pointName) {
-    const std::span<CorrPoint> points =
-        std::span(table.CorrPoints).subspan(1, static_cast<std::size_t>(table.CorrCount));
-    weigh(points, Phi, Lam, pointName);
-    double SumPhi = 0;
-    double SumLam = 0;
-    double SumH = 0;
-    double SumW = 0;
-    double SumWH = 0;
-    for (const CorrPoint& known : points) {
-        const auto w = static_cast<double>(known.W);
-        SumPhi += w * known.DPhi;
-        SumLam += w * known.DLam;
-        SumW += w;
-        if (known.DH != 0) {
-            SumH += w * known.DH;
-            SumWH += w;
+float weightOf(const CorrPoint& known, double divisor) {
+    return static_cast<float>(static_cast<double>(known.Weight) / divisor);
+}
+
+// Weighted sums of up to kLanes positions. The loops over positions are plain, so that the compiler
+// turns them into vector instructions; each position's sums are added up in the order of the
+// known points.
+struct Sums {
+    Lane Phi{};
+    Lane Lam{};
+    Lane H{};
+    Lane W{};
+    Lane WH{};
+    Lane divisors{};  // not finite where one of them wasn't
+
+    void add(const CorrPoint& known, const Lane& atPhi, const Lane& atLam) {
+        Lane w;
+        for (std::size_t i = 0; i < kLanes; ++i) {
+            const double divisor = divisorAt(known, atPhi[i], atLam[i]);
+            divisors[i] += divisor;
+            w[i] = static_cast<double>(weightOf(known, divisor));
         }
+        for (std::size_t i = 0; i < kLanes; ++i) {
+            Phi[i] += w[i] * known.DPhi;
+            Lam[i] += w[i] * known.DLam;
+            W[i] += w[i];
+        }
+        if (known.DH != 0)
+            for (std::size_t i = 0; i < kLanes; ++i) {
+                H[i] += w[i] * known.DH;
+                WH[i] += w[i];
+            }
     }
-    return {.DPhi = quotient(SumPhi, SumW),
-            .DLam = quotient(SumLam, SumW),
-            .DH = quotient(SumH, SumWH)};
+};
+
+FoundCorrection failed(NoCorrection why, Fault fault = Fault::Overflow) {
+    return {.value = {}, .failure = why, .fault = fault};
+}
+
+FoundCorrection unweighable(std::span<const CorrPoint> known, std::size_t place,
+                            const Position& at) {
+    FoundCorrection result = failed(NoCorrection::WeightTooLarge);
+    result.known = place;
+    result.weight =
+        static_cast<double>(known[place].Weight) / divisorAt(known[place], at.Phi, at.Lam);
+    return result;
+}
+
+// The place of the first known point whose weight can't be worked out there, or the number of all.
+std::size_t firstUnweighable(std::span<const CorrPoint> known, const Position& at) {
+    const auto found = std::find_if(known.begin(), known.end(), [&at](const CorrPoint& point) {
+        const double divisor = divisorAt(point, at.Phi, at.Lam);
+        return !std::isfinite(divisor) || !std::isfinite(weightOf(point, divisor));
+    });
+    return static_cast<std::size_t>(found - known.begin());
+}
+
+FoundCorrection meanOf(const Sums& sums, std::size_t i) {
+    if (sums.W[i] == 0)
+        return failed(NoCorrection::NoWeight,
+                      sums.Phi[i] == 0 ? Fault::Overflow : Fault::DivisionByZero);
+    const double DPhi = sums.Phi[i] / sums.W[i];
+    const double DLam = sums.Lam[i] / sums.W[i];
+    if (!std::isfinite(DPhi) || !std::isfinite(DLam)) return failed(NoCorrection::TooLarge);
+    if (sums.WH[i] == 0)
+        return failed(NoCorrection::NoHeight,
+                      sums.H[i] == 0 ? Fault::Overflow : Fault::DivisionByZero);
+    const double DH = sums.H[i] / sums.WH[i];
+    if (!std::isfinite(DH)) return failed(NoCorrection::TooLarge);
+    return {.value = {.DPhi = DPhi, .DLam = DLam, .DH = DH}};
+}
+
+void findTogether(std::span<const CorrPoint> known, std::span<const Position> wgs,
+                  std::span<FoundCorrection> results) {
+    Lane Phi;
+    Lane Lam;
+    for (std::size_t i = 0; i < kLanes; ++i) {
+        const Position& at = wgs[i < wgs.size() ? i : 0];
+        Phi[i] = at.Phi;
+        Lam[i] = at.Lam;
+    }
+    Sums sums;
+    for (const CorrPoint& point : known) sums.add(point, Phi, Lam);
+    for (std::size_t i = 0; i < wgs.size(); ++i) {
+        const bool weighed = std::isfinite(sums.W[i]) && std::isfinite(sums.divisors[i]);
+        const std::size_t bad = weighed ? known.size() : firstUnweighable(known, wgs[i]);
+        results[i] = bad == known.size() ? meanOf(sums, i) : unweighable(known, bad, wgs[i]);
+    }
 }
 
 }  // namespace
 
-Correction findCorr(ConversionState& state, TextWriter& det, double Phi, double Lam, int AngleOut,
-                    int Row, int CorrFlag, MessageBoxes& messages) {
-    if (CorrFlag == 0) return {};
-    const std::string& name = state.points.row(Row).name;
-    const Correction mean = weightedMean(state.known, Phi, Lam, name);
+void findCorr(std::span<const CorrPoint> known, std::span<const Position> wgs,
+              std::span<FoundCorrection> results) {
+    while (!wgs.empty()) {
+        const std::size_t count = std::min(wgs.size(), kLanes);
+        findTogether(known, wgs.first(count), results.first(count));
+        wgs = wgs.subspan(count);
+        results = results.subspan(count);
+    }
+}
 
-    const KelvoSub::ArcSecLengths second = KelvoSub::ArcSecLen(Phi, Lam, messages);
-    const double east = second.MLam * mean.DLam * 3600;
-    const double north = second.MPhi * mean.DPhi * 3600;
-    const double L = squareRoot(east * east + north * north);
-
-    std::string line;
-    line.reserve(128);
-    genSub::appendFormatText(line, name, 10, 0);
-    line += "             ";
-    KelvoSub::appendAngleText(line, mean.DPhi, AngleOut, messages);
-    KelvoSub::appendAngleText(line, mean.DLam, AngleOut, messages);
-    genSub::appendFormatNum(line, mean.DH, 8, 4);
-    line += "    L =";
-    genSub::appendFormatNum(line, L, 3, 5);
-    det.line(line);
-    return mean;
+FoundCorrection findCorr(std::span<const CorrPoint> known, const Position& wgs) {
+    FoundCorrection result;
+    findCorr(known, {&wgs, 1}, {&result, 1});
+    return result;
 }
 
 }  // namespace kelvo

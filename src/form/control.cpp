@@ -31,6 +31,14 @@ void Control::tell(Property property) const {
     if (watcher_) watcher_(property);
 }
 
+std::string Control::fullLabel() const {
+    std::string text = label().empty() ? name() : label();
+    for (const Control* frame = holder_; frame != nullptr; frame = frame->holder_)
+        if (frame->kind() == ControlKind::Frame && !frame->caption().empty())
+            text = frame->caption() + " > " + text;
+    return text;
+}
+
 void Control::setEnabled(bool on) {
     if (enabled_ == on) return;
     enabled_ = on;

@@ -64,6 +64,10 @@ public:
     [[nodiscard]] const std::string& parent() const { return design_.parent; }
     [[nodiscard]] const std::string& label() const { return design_.label; }
 
+    // What a person knows the control by: the captions of the frames around it and its label, or
+    // its name where it has none.
+    [[nodiscard]] std::string fullLabel() const;
+
     // The one view of this control; an empty function takes it off.
     void watch(std::function<void(Property)> watcher) { watcher_ = std::move(watcher); }
 
@@ -134,6 +138,7 @@ private:
     [[nodiscard]] MenuEntry& entry(int index);
 
     ControlDesign design_;
+    const Control* holder_ = nullptr;  // the frame around it
     std::function<void(Property)> watcher_;
     std::vector<Control*> others_;  // the other option buttons of the group
 

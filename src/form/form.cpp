@@ -8,6 +8,7 @@ Control& Form::add(ControlDesign design) {
     if (find(design.name) != nullptr) raise(Fault::InvalidCall, design.name);
     Control& made = controls_.emplace_back(std::move(design));
     byName_.emplace(made.name(), &made);
+    made.holder_ = find(made.parent());
     if (made.kind() == ControlKind::OptionButton) {
         for (Control& other : controls_) {
             if (&other == &made || other.kind() != ControlKind::OptionButton) continue;

@@ -5,7 +5,20 @@
 #include "common/checked_arithmetic.h"
 #include "common/integer_power.h"
 
-namespace kelvo::KelvoSub {
+namespace kelvo {
+
+EllipsoidShape::EllipsoidShape(const Ellipsoid& ellipsoid) : a(ellipsoid.a) {
+    double f = ellipsoid.f;
+    KelvoSub::NormFlat(f);
+    const double invf = quotient(1, f);
+    b = quotient((invf - 1) * a, invf);
+    const double a2 = a * a;
+    const double b2 = b * b;
+    e2 = quotient(a2 - b2, a2);
+    b2OverA2 = quotient(b2, a2);
+}
+
+namespace KelvoSub {
 
 double degreeToRadian() {
     static const double factor = std::atan(1.0) / 45.0;
@@ -31,4 +44,5 @@ double RadiusM(double a, double e2, double phi) {
     return quotient((1 - e2) * a, W(3));
 }
 
-}  // namespace kelvo::KelvoSub
+}  // namespace KelvoSub
+}  // namespace kelvo

@@ -30,8 +30,8 @@ constexpr std::array<StoredRow, 25> kStoredRows{{
     {38, 130, -53, 27.8, 3},
 }};
 
-// Only the rows of the meridians 126 to 128 are read; the two eastern ones are stored and have
-// no say: required.
+// Only the rows of the meridians 126 to 128 are read; the two eastern ones are stored and have no
+// influence: required.
 constexpr std::size_t kRowsRead = 15;
 
 struct WeightedSums {

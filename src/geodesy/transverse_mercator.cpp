@@ -16,27 +16,25 @@ void requireComputable(const TmGrid& grid) {
 
 }  // namespace
 
-TmGrid::TmGrid(const Ellipsoid& ellipsoid, const Projection& projection) : projection_(projection) {
+TmGrid::TmGrid(const Ellipsoid& ellipsoid, const Projection& projection)
+    : ellipsoid_(ellipsoid), projection_(projection) {
     try {
-        derive(ellipsoid);
+        derive();
         M0_ = meridianArc(finite(projection.Phi0 * KelvoSub::degreeToRadian())) * projection.S0;
     } catch (const RuntimeFault&) {
         computable_ = false;
     }
 }
 
-// Squares of the eccentricities and the coefficients of the meridian arc by the third flattening
-// n (after Helmert).
-void TmGrid::derive(const Ellipsoid& ellipsoid) {
-    const double a = ellipsoid.a;
-    double f = ellipsoid.f;
-    KelvoSub::NormFlat(f);
-    const double invf = quotient(1, f);
-    const double b = quotient((invf - 1) * a, invf);
+// The second eccentricity, and the coefficients of the meridian arc by the third flattening n.
+void TmGrid::derive() {
+    const EllipsoidShape shape(ellipsoid_);
+    const double a = shape.a;
+    const double b = shape.b;
     const double a2 = a * a;
     const double b2 = b * b;
     a_ = a;
-    e2_ = quotient(a2 - b2, a2);
+    e2_ = shape.e2;
     ep2_ = quotient(a2 - b2, b2);
 
     const Powers<5> n(quotient(a - b, b + a));
@@ -51,12 +49,21 @@ double TmGrid::meridianArc(double phi) const {
     return KelvoSub::MeridianArc(A_, B_, C_, D_, E_, phi);
 }
 
-TmParallel::TmParallel(const TmGrid& grid, double Phi)
-    : X0_(grid.projection().X0), Y0_(grid.projection().Y0), M0_(grid.M0()) {
-    requireComputable(grid);
-    const double phi = Phi * KelvoSub::degreeToRadian();
-    const double S0 = grid.projection().S0;
+bool TmGrid::sharesEllipsoid(const TmGrid& other) const {
+    return ellipsoid_.a == other.ellipsoid_.a && ellipsoid_.f == other.ellipsoid_.f;
+}
 
+TmLatitude::TmLatitude(const TmGrid& grid, double Phi) {
+    try {
+        requireComputable(grid);
+        derive(grid, Phi);
+    } catch (const RuntimeFault&) {
+        computable_ = false;
+    }
+}
+
+void TmLatitude::derive(const TmGrid& grid, double Phi) {
+    const double phi = Phi * KelvoSub::degreeToRadian();
     const double s = std::sin(finite(phi));
     const Powers<7> c(std::cos(phi));
     const Powers<6> t(quotient(s, c(1)));
@@ -64,34 +71,51 @@ TmParallel::TmParallel(const TmGrid& grid, double Phi)
     const double N = KelvoSub::RadiusN(grid.a(), grid.e2(), phi);
     const double sN = s * N;
 
-    const double P3 = 5 - t(2) + 9 * h(1) + 4 * h(2);
-    const double P4 = 61 - 58 * t(2) + t(4) + 270 * h(1) - 330 * t(2) * h(1) + 445 * h(2) +
-                      324 * h(3) - 680 * t(2) * h(2) + 88 * h(4) - 600 * t(2) * h(3) -
-                      192 * t(2) * h(4);
-    const double P5 = 1385 - 3111 * t(2) + 543 * t(4) - t(6);
-
-    T1_ = grid.meridianArc(phi) * S0;
-    T2_ = (sN * c(1) * S0) / 2;
-    T3_ = (c(3) * sN * S0 * P3) / 24;
-    T4_ = (c(5) * sN * S0 * P4) / 720;
-    T5_ = (c(7) * sN * S0 * P5) / 40320;
-
-    const double P8 = 5 - 18 * t(2) + t(4) + 14 * h(1) - 58 * t(2) * h(1) + 13 * h(2) + 4 * h(3) -
-                      64 * t(2) * h(2) - 24 * t(2) * h(3);
-    const double P9 = 61 - 479 * t(2) + 179 * t(4) - t(6);
-
-    T6_ = c(1) * N * S0;
-    T7_ = (c(3) * N * S0 * (1 - t(2) + h(1))) / 6;
-    T8_ = (c(5) * N * S0 * P8) / 120;
-    T9_ = (c(7) * N * S0 * P9) / 5040;
+    arc_ = grid.meridianArc(phi);
+    N_ = N;
+    c_ = c(1);
+    sNc_ = sN * c(1);
+    sNc3_ = c(3) * sN;
+    sNc5_ = c(5) * sN;
+    sNc7_ = c(7) * sN;
+    Nc3_ = c(3) * N;
+    Nc5_ = c(5) * N;
+    Nc7_ = c(7) * N;
+    P3_ = 5 - t(2) + 9 * h(1) + 4 * h(2);
+    P4_ = 61 - 58 * t(2) + t(4) + 270 * h(1) - 330 * t(2) * h(1) + 445 * h(2) + 324 * h(3) -
+          680 * t(2) * h(2) + 88 * h(4) - 600 * t(2) * h(3) - 192 * t(2) * h(4);
+    P5_ = 1385 - 3111 * t(2) + 543 * t(4) - t(6);
+    P7_ = 1 - t(2) + h(1);
+    P8_ = 5 - 18 * t(2) + t(4) + 14 * h(1) - 58 * t(2) * h(1) + 13 * h(2) + 4 * h(3) -
+          64 * t(2) * h(2) - 24 * t(2) * h(3);
+    P9_ = 61 - 479 * t(2) + 179 * t(4) - t(6);
 }
 
-GridPoint TmParallel::at(double Lam, double Lam0) const {
+TmParallel::TmParallel(const TmGrid& grid, const TmLatitude& latitude)
+    : computable_(grid.computable() && latitude.computable_),
+      X0_(grid.projection().X0),
+      Y0_(grid.projection().Y0),
+      M0_(grid.M0()) {
+    const double S0 = grid.projection().S0;
+    T1_ = latitude.arc_ * S0;
+    T2_ = (latitude.sNc_ * S0) / 2;
+    T3_ = (latitude.sNc3_ * S0 * latitude.P3_) / 24;
+    T4_ = (latitude.sNc5_ * S0 * latitude.P4_) / 720;
+    T5_ = (latitude.sNc7_ * S0 * latitude.P5_) / 40320;
+    T6_ = latitude.c_ * latitude.N_ * S0;
+    T7_ = (latitude.Nc3_ * S0 * latitude.P7_) / 6;
+    T8_ = (latitude.Nc5_ * S0 * latitude.P8_) / 120;
+    T9_ = (latitude.Nc7_ * S0 * latitude.P9_) / 5040;
+}
+
+Guarded<GridPoint> TmParallel::at(double Lam, double Lam0) const {
     const double radian = KelvoSub::degreeToRadian();
     const Powers<8> dl(Lam * radian - Lam0 * radian);
     const double X = (dl(2) * T2_ + T1_) + dl(4) * T3_ + dl(6) * T4_ + dl(8) * T5_ - M0_ + X0_;
     const double Y = (T6_ * dl(1) + Y0_) + dl(3) * T7_ + dl(5) * T8_ + dl(7) * T9_;
-    return {.X = finite(X), .Y = finite(Y)};
+    if (!computable_ || !std::isfinite(X) || !std::isfinite(Y))
+        return {.value = {.X = X0_, .Y = Y0_}, .failed = true};
+    return {.value = {.X = X, .Y = Y}};
 }
 
 }  // namespace kelvo
@@ -108,11 +132,11 @@ double footPointLatitude(const TmGrid& grid, double S) {
     return phi;
 }
 
-Position positionOf(double X, double Y, const Ellipsoid& ellipsoid, const Projection& p) {
+Position positionOf(double X, double Y, const TmGrid& grid, double Lam0) {
     const double radian = degreeToRadian();
+    const Projection& p = grid.projection();
     const Powers<8> S0(p.S0);
 
-    const TmGrid grid(ellipsoid, p);
     requireComputable(grid);
     const double S = quotient((grid.M0() + X) - p.X0, S0(1));
     const double phi = footPointLatitude(grid, S);
@@ -145,100 +169,38 @@ Position positionOf(double X, double Y, const Ellipsoid& ellipsoid, const Projec
     const double T15 = quotient(t(2) + t(2) + 1 + h(1), S0(3) * (N(3) * 6 * c));
     const double T16 = quotient(Q16, S0(5) * (N(5) * 120 * c));
     const double T17 = quotient(Q17, S0(7) * (N(7) * 5040 * c));
-    const double lam1 = (dy(1) * T14 - dy(3) * T15 + dy(5) * T16 - dy(7) * T17) + p.Lam0 * radian;
+    const double lam1 = (dy(1) * T14 - dy(3) * T15 + dy(5) * T16 - dy(7) * T17) + Lam0 * radian;
 
     return {.Phi = finite(phi1 / radian), .Lam = finite(lam1 / radian)};
 }
 
-TmGrid nationalGridOf(int zone, double shiftSeconds) {
-    TmGrid grid = nationalGrid();
-    grid.setCentralMeridian(nationalMeridian(zone, shiftSeconds));
-    return grid;
-}
-
 }  // namespace
-
-const TmGrid& nationalGrid() {
-    static const TmGrid grid(
-        kBessel, {.X0 = 500000.0, .Y0 = 200000.0, .Phi0 = 38.0, .Lam0 = 127.0, .S0 = 1.0});
-    return grid;
-}
-
-int nationalZone(double Lam) {
-    int zone = 2;
-    if (Lam < 126.0) zone = 1;
-    if (Lam > 128.0) zone = 3;
-    return zone;
-}
-
-double nationalMeridian(int zone, double shiftSeconds) {
-    return (2.0 * zone + 123) + shiftSeconds / 3600;
-}
 
 double MeridianArc(double A, double B, double C, double D, double E, double phi) {
     return finite(A * phi - std::sin(phi + phi) * B + std::sin(4 * phi) * C -
                   std::sin(6 * phi) * D + std::sin(8 * phi) * E);
 }
 
-GridPoint GeoToTM(double Phi, double Lam, const Ellipsoid& ellipsoid, const Projection& projection,
-                  MessageBoxes& messages) {
-    return GeoToTM(Phi, Lam, TmGrid(ellipsoid, projection), messages);
+Guarded<GridPoint> GeoToTM(double Phi, double Lam, const Ellipsoid& ellipsoid,
+                           const Projection& projection) {
+    return GeoToTM(Phi, Lam, TmGrid(ellipsoid, projection), projection.Lam0);
 }
 
-GridPoint GeoToTM(double Phi, double Lam, const TmGrid& grid, MessageBoxes& messages) {
+Guarded<GridPoint> GeoToTM(double Phi, double Lam, const TmGrid& grid, double Lam0) {
+    return TmParallel(grid, TmLatitude(grid, Phi)).at(Lam, Lam0);
+}
+
+Guarded<Position> TMToGeo(double X, double Y, const Ellipsoid& ellipsoid,
+                          const Projection& projection) {
+    return TMToGeo(X, Y, TmGrid(ellipsoid, projection), projection.Lam0);
+}
+
+Guarded<Position> TMToGeo(double X, double Y, const TmGrid& grid, double Lam0) {
     try {
-        return TmParallel(grid, Phi).at(Lam, grid.projection().Lam0);
+        return {.value = positionOf(X, Y, grid, Lam0)};
     } catch (const RuntimeFault&) {
-        messages.tell(
-            "직교좌표로 변환할 수 없는 데이터 입니다. 타원체 제원과 경위도를 확인후 다시 하십시오");
-        return {.X = grid.projection().X0, .Y = grid.projection().Y0};
+        return {.value = {.Phi = grid.projection().Phi0, .Lam = Lam0}, .failed = true};
     }
-}
-
-Position TMToGeo(double X, double Y, const Ellipsoid& ellipsoid, const Projection& projection,
-                 MessageBoxes& messages) {
-    try {
-        return positionOf(X, Y, ellipsoid, projection);
-    } catch (const RuntimeFault&) {
-        messages.tell(
-            "경위도로 변환할 수 없는 직교좌표 입니다. 타원체 제원과 좌표를 확인후 다시 하십시오");
-        return {.Phi = projection.Phi0, .Lam = projection.Lam0};
-    }
-}
-
-GridPoint BesselToTM(double Phi, double Lam, int& zone, double shiftSeconds,
-                     MessageBoxes& messages) {
-    if (zone < 1) zone = nationalZone(Lam);
-    return GeoToTM(Phi, Lam, nationalGridOf(zone, shiftSeconds), messages);
-}
-
-Position TMToBessel(double X, double Y, int& zone, double shiftSeconds, MessageBoxes& messages) {
-    if (zone < 1) zone = 1;
-    if (zone > 3) zone = 3;
-    return TMToGeo(X, Y, kBessel, nationalGridOf(zone, shiftSeconds).projection(), messages);
-}
-
-void chkZone(double lam, std::int16_t& Zone, double& Lam0) {
-    if (Zone >= 5) return;
-    if (lam < 126) {
-        Zone = 1;
-        Lam0 = 125;
-    } else if (lam <= 128) {
-        Zone = 2;
-        Lam0 = 127;
-    } else if (lam <= 130) {
-        Zone = 3;
-        Lam0 = 129;
-    } else {
-        Zone = 4;
-        Lam0 = 131;
-    }
-}
-
-void chkUZone(double lam, std::int16_t& UZone, double& ULam0) {
-    if (UZone >= 4) return;
-    UZone = lam < 126 ? 1 : 2;
-    ULam0 = lam < 126 ? 123 : 129;
 }
 
 }  // namespace kelvo::KelvoSub

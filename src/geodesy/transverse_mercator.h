@@ -1,21 +1,35 @@
 // KelvoSub: the transverse Mercator series, forward and inverse.
 //
 // Method: the closed series in powers of the longitude difference, to the eighth power in the
-// northing and the seventh in the easting, on the meridian arc in the third flattening n (P. D.
-// Thomas, Conformal Projections in Geodesy and Cartography, 1952; the meridian arc after
-// Helmert). Within 3 degrees of the central meridian it agrees with the exact projection to
-// better than 0.1 mm. Computed in the order of terms told, since printed digits depend on it.
+// northing and the seventh in the easting (P. D. Thomas, Conformal Projections in Geodesy and
+// Cartography, US Coast and Geodetic Survey Special Publication 251, 1952; as coefficients T1 to
+// T17 in J. W. Hager and others, The Universal Grids, DMA TM 8358.2, 1989, sections 2-5 and 2-6),
+// on the meridian arc in the third flattening n (F. R. Helmert, Die mathematischen und
+// physikalischen Theorieen der höheren Geodäsie I, 1880; DMA TM 8358.2, 2-4).
+//
+// Error: within 4 degrees of the central meridian it agrees with the exact projection to better
+// than kSeriesError; see docs/numbers.md. Left out: grid scale and convergence. No range is
+// checked: any finite position gives numbers. Terms are added in a fixed order, since printed
+// digits depend on it.
+//
+//   northing, X = S0 M + T1..T5        T1 arc of the meridian, T2 dl^2, T3 dl^4, T4 dl^6, T5 dl^8
+//   easting,  Y = Y0   + T6..T9        T6 dl,   T7 dl^3,  T8 dl^5,  T9 dl^7
+//   latitude  = foot point - T10..T13  T10 dy^2, T11 dy^4, T12 dy^6, T13 dy^8
+//   longitude = Lam0 + T14..T17        T14 dy,   T15 dy^3, T16 dy^5, T17 dy^7
 //
 // Angles are decimal degrees, north and east positive; grid X is the northing and comes first,
-// Y the easting; lengths are metres. No range is checked: any finite position gives numbers.
+// Y the easting; lengths are metres.
 #pragma once
 
-#include <cstdint>
-
-#include "common/ports.h"
+#include "common/guarded.h"
 #include "geodesy/ellipsoid.h"
 
 namespace kelvo {
+
+// Metres by which the series may differ from the exact projection within kSeriesWidth degrees of
+// the central meridian.
+inline constexpr double kSeriesError = 1e-5;
+inline constexpr double kSeriesWidth = 4;
 
 // Origin and scale of a transverse Mercator grid.
 struct Projection {
@@ -37,17 +51,19 @@ struct Position {
 };
 
 // What a grid on an ellipsoid has in common for all its points, whatever the central meridian:
-// computed once where many points go to one grid. Data that can't be computed is told by the
-// points, each for itself.
+// computed once where many points go to one grid. A grid that can't be computed makes all its
+// points fail.
 class TmGrid {
 public:
     TmGrid(const Ellipsoid& ellipsoid, const Projection& projection);
 
     [[nodiscard]] const Projection& projection() const { return projection_; }
-    void setCentralMeridian(double Lam0) { projection_.Lam0 = Lam0; }
 
     // Arc of the meridian from the equator, metres; phi in radians.
     [[nodiscard]] double meridianArc(double phi) const;
+
+    // Whether a latitude on the other grid's ellipsoid is one on this grid's.
+    [[nodiscard]] bool sharesEllipsoid(const TmGrid& other) const;
 
     [[nodiscard]] bool computable() const { return computable_; }
     [[nodiscard]] double a() const { return a_; }
@@ -56,8 +72,9 @@ public:
     [[nodiscard]] double M0() const { return M0_; }    // arc to the origin, scaled
 
 private:
-    void derive(const Ellipsoid& ellipsoid);
+    void derive();
 
+    Ellipsoid ellipsoid_;
     Projection projection_;
     double a_ = 0;
     double e2_ = 0;
@@ -71,17 +88,52 @@ private:
     bool computable_ = true;
 };
 
-// One parallel of latitude on a grid: the terms of the forward series that rest on the latitude
-// alone, computed once for all its points. Raises faults instead of showing messages.
-class TmParallel {
+// A latitude on an ellipsoid: what the forward series has in common for all grids on it. One that
+// can't be computed makes its points fail.
+class TmLatitude {
 public:
-    // Latitude in degrees.
-    TmParallel(const TmGrid& grid, double Phi);
+    // Latitude in degrees, on the ellipsoid of the grid.
+    TmLatitude(const TmGrid& grid, double Phi);
 
-    // The point at a longitude, for a central meridian, both in degrees.
-    [[nodiscard]] GridPoint at(double Lam, double Lam0) const;
+    [[nodiscard]] bool computable() const { return computable_; }
 
 private:
+    friend class TmParallel;
+
+    void derive(const TmGrid& grid, double Phi);
+
+    bool computable_ = true;
+    double arc_ = 0;   // of the meridian, metres
+    double N_ = 0;     // radius in the prime vertical, metres
+    double c_ = 0;     // cosine, and products of its powers with N and the sine
+    double sNc_ = 0;
+    double sNc3_ = 0;
+    double sNc5_ = 0;
+    double sNc7_ = 0;
+    double Nc3_ = 0;
+    double Nc5_ = 0;
+    double Nc7_ = 0;
+    double P3_ = 0;  // polynomials of T3, T4, T5, T7, T8, T9
+    double P4_ = 0;
+    double P5_ = 0;
+    double P7_ = 0;
+    double P8_ = 0;
+    double P9_ = 0;
+};
+
+// One parallel of latitude on a grid: the terms of the forward series that rest on the latitude
+// alone.
+class TmParallel {
+public:
+    // A latitude on the grid's ellipsoid.
+    TmParallel(const TmGrid& grid, const TmLatitude& latitude);
+
+    // The point at a longitude, for a central meridian, both in degrees. Data that can't be
+    // computed fails and gives X0, Y0.
+    [[nodiscard]] Guarded<GridPoint> at(double Lam, double Lam0) const;
+
+private:
+    bool computable_ = true;
     double X0_ = 0;
     double Y0_ = 0;
     double M0_ = 0;
@@ -96,51 +148,25 @@ private:
     double T9_ = 0;
 };
 
-// The seconds of arc by which the longitude of the Korean TM origins is raised: the difference
-// between the longitude of the old origin point and its later determination.
-inline constexpr double kOriginShiftSeconds = 10.405;
-
 namespace KelvoSub {
-
-// The national grid on Bessel; its zone by longitude (126 and 128 belong to zone 2) and the
-// central meridian of a zone, 125, 127, 129 and so on, plus a shift in seconds of arc.
-[[nodiscard]] const TmGrid& nationalGrid();
-[[nodiscard]] int nationalZone(double Lam);
-[[nodiscard]] double nationalMeridian(int zone, double shiftSeconds);
 
 // Meridian arc from the equator, A phi - B sin 2phi + C sin 4phi - D sin 6phi + E sin 8phi;
 // phi in radians, coefficients and result in metres. Fault 6 where that overflows.
 [[nodiscard]] double MeridianArc(double A, double B, double C, double D, double E, double phi);
 
-// Position to grid. Data that can't be computed (a zero axis or flattening, an overflow) shows
-// a message and gives X0, Y0.
-[[nodiscard]] GridPoint GeoToTM(double Phi, double Lam, const Ellipsoid& ellipsoid,
-                                const Projection& projection, MessageBoxes& messages);
+// Position to grid. Data that can't be computed (a zero axis or flattening, an overflow) fails
+// and gives X0, Y0.
+[[nodiscard]] Guarded<GridPoint> GeoToTM(double Phi, double Lam, const Ellipsoid& ellipsoid,
+                                         const Projection& projection);
 
-// The same on a grid that is computed once.
-[[nodiscard]] GridPoint GeoToTM(double Phi, double Lam, const TmGrid& grid, MessageBoxes& messages);
+// The same on a grid that is computed once, for a central meridian in degrees.
+[[nodiscard]] Guarded<GridPoint> GeoToTM(double Phi, double Lam, const TmGrid& grid, double Lam0);
 
-// Grid to position. Exactly five passes for the foot-point latitude. Data that can't be computed
-// (a zero scale, say) shows a message and gives Phi0, Lam0.
-[[nodiscard]] Position TMToGeo(double X, double Y, const Ellipsoid& ellipsoid,
-                               const Projection& projection, MessageBoxes& messages);
-
-// The national grid on Bessel. A zone below 1 is chosen by the longitude (126 and 128 belong to
-// zone 2) and written back; a zone above has no upper limit. The shift is in seconds of arc.
-[[nodiscard]] GridPoint BesselToTM(double Phi, double Lam, int& zone, double shiftSeconds,
-                                   MessageBoxes& messages);
-
-// The way back. The zone is limited to 1..3 and written back, unlike BesselToTM (required).
-[[nodiscard]] Position TMToBessel(double X, double Y, int& zone, double shiftSeconds,
-                                  MessageBoxes& messages);
-
-// Sets the TM origin by the longitude in degrees, unless Zone is 5 or greater: below 126 zone 1
-// (125), up to 128 zone 2 (127), up to 130 zone 3 (129), above zone 4 (131).
-void chkZone(double lam, std::int16_t& Zone, double& Lam0);
-
-// Sets the UTM origin by the longitude, unless UZone is 4 or greater, so also over a user origin
-// (required): below 126 zone 1 (123), otherwise zone 2 (129).
-void chkUZone(double lam, std::int16_t& UZone, double& ULam0);
+// Grid to position. Exactly five passes for the latitude of the foot point. Data that can't be
+// computed (a zero scale, say) fails and gives Phi0, Lam0.
+[[nodiscard]] Guarded<Position> TMToGeo(double X, double Y, const Ellipsoid& ellipsoid,
+                                        const Projection& projection);
+[[nodiscard]] Guarded<Position> TMToGeo(double X, double Y, const TmGrid& grid, double Lam0);
 
 }  // namespace KelvoSub
 }  // namespace kelvo

@@ -1,9 +1,20 @@
 // The controls of the one-point conversion: four frames of coordinates with arrows between them.
 #pragma once
 
+#include <array>
+
 #include "form/form.h"
 
 namespace kelvo {
+
+// A latitude, a longitude and a height in decimal degrees and in ddd.mmssss, and the two options
+// that say which group is typed into.
+struct AnglePair {
+    Control& degreesOption;
+    std::array<Control*, 3> degrees;
+    Control& dmsOption;
+    std::array<Control*, 3> dms;
+};
 
 struct CoordinateControls {
     explicit CoordinateControls(Form& owner) : form(owner) {}
@@ -62,6 +73,19 @@ struct CoordinateControls {
     Control& lblGeoid = form.label("lblGeoid", "frmeOne", "지오이드고는 개략치임");
 
     Control& cmdOneClose = form.button("cmdOneClose", "frmeOne", "닫기");
+
+    [[nodiscard]] AnglePair wgsAngles() const {
+        return {optWdeg,
+                {&txtWdegPhi, &txtWdegLam, &txtWdegTH},
+                optWdms,
+                {&txtWdmsPhi, &txtWdmsLam, &txtWdmsTH}};
+    }
+    [[nodiscard]] AnglePair userAngles() const {
+        return {optBdeg,
+                {&txtBdegPhi, &txtBdegLam, &txtBdegH},
+                optBdms,
+                {&txtBdmsPhi, &txtBdmsLam, &txtBdmsH}};
+    }
 };
 
 }  // namespace kelvo

@@ -23,7 +23,7 @@ double strictNumberOf(const Control& Box) {
     try {
         return strictNumber(Box.text());
     } catch (RuntimeFault& fault) {
-        fault.addPlace(Box.name());
+        fault.addPlace(Box.fullLabel());
         throw;
     }
 }

@@ -19,7 +19,7 @@ void r(Control& Box);
 
 // The strict way from a box to a number, which doesn't forgive: the whole text, blanks at its
 // ends allowed. Fault 13 for a text that is no number, 6 for one out of range; the fault names
-// the box.
+// the box by its label.
 [[nodiscard]] double strictNumberOf(const Control& Box);
 
 // v for the boxes of one click: a box that is read twice is told of once, as long as its text

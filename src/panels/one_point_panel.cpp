@@ -3,11 +3,14 @@
 #include <array>
 #include <utility>
 
+#include "batch/detail_report.h"
 #include "batch/run_batch.h"
+#include "batch/run_header.h"
+#include "batch/wording.h"
 #include "common/checked_arithmetic.h"
 #include "common/fixed_width.h"
 #include "common/number_text.h"
-#include "geodesy/angle_forms.h"
+#include "common/run_time_fault.h"
 
 namespace kelvo {
 
@@ -32,23 +35,43 @@ void writeHeightText(Control& box, const std::string& text, Format format) {
     box.setText(genSub::FormatNum(std::string_view(text), format.width, format.decimals));
 }
 
-void enableAll(std::initializer_list<Control*> boxes, bool on) {
-    for (Control* box : boxes) box->setEnabled(on);
+void typeInto(const std::array<Control*, 3>& boxes, const std::array<Control*, 3>& others) {
+    for (Control* box : boxes) box->setEnabled(true);
+    for (Control* box : others) box->setEnabled(false);
+}
+
+// What a box holds goes wrong: the fault names it.
+template <class Compute>
+auto ofBox(const Control& box, Compute compute) {
+    try {
+        return compute();
+    } catch (RuntimeFault& fault) {
+        fault.addPlace(box.fullLabel());
+        throw;
+    }
 }
 
 Ellipsoid ellipsoidOf(BoxReader& read, const Control& axis, const Control& inverseFlattening) {
     const double a = read(axis);
-    return {.a = a, .f = quotient(1.0, read(inverseFlattening))};
+    const double inverse = read(inverseFlattening);
+    return {.a = a, .f = ofBox(inverseFlattening, [inverse] { return quotient(1.0, inverse); })};
 }
 
 }  // namespace
 
 // The two files that stay open for the length of a click of a datum arrow.
 struct OnePointPanel::Files {
-    Files(Disk& disk, const ProgramState& state)
-        : out(disk, resultFileOf(state.RecentFiles[1])),
-          det(disk, state.inApplicationFolder("kelvo.det")),
+    // Fault 55 where one of them leads to the data file or the known points.
+    Files(Disk& disk, const ProgramState& state, const std::array<std::string, 2>& written)
+        : out((requireFilesOfTheirOwn(disk, written,
+                                      std::array{state.RecentFiles[1], state.CorPath}),
+               disk),
+              written[0]),
+          det(disk, written[1]),
           run{.out = out, .det = det, .CorPath = state.CorPath} {}
+    Files(Disk& disk, const ProgramState& state)
+        : Files(disk, state,
+                {resultFileOf(state.RecentFiles[1]), state.inApplicationFolder("kelvo.det")}) {}
 
     void close() {
         det.close();
@@ -110,84 +133,82 @@ void OnePointPanel::FillDefault() {
 }
 
 void OnePointPanel::optWdeg_Click() {
-    enableAll({&on_.txtWdegPhi, &on_.txtWdegLam, &on_.txtWdegTH}, true);
-    enableAll({&on_.txtWdmsPhi, &on_.txtWdmsLam, &on_.txtWdmsTH}, false);
+    typeInto(on_.wgsAngles().degrees, on_.wgsAngles().dms);
 }
 
 void OnePointPanel::optWdms_Click() {
-    enableAll({&on_.txtWdmsPhi, &on_.txtWdmsLam, &on_.txtWdmsTH}, true);
-    enableAll({&on_.txtWdegPhi, &on_.txtWdegLam, &on_.txtWdegTH}, false);
+    typeInto(on_.wgsAngles().dms, on_.wgsAngles().degrees);
 }
 
 void OnePointPanel::optBdeg_Click() {
-    enableAll({&on_.txtBdegPhi, &on_.txtBdegLam, &on_.txtBdegH}, true);
-    enableAll({&on_.txtBdmsPhi, &on_.txtBdmsLam, &on_.txtBdmsH}, false);
+    typeInto(on_.userAngles().degrees, on_.userAngles().dms);
 }
 
 void OnePointPanel::optBdms_Click() {
-    enableAll({&on_.txtBdmsPhi, &on_.txtBdmsLam, &on_.txtBdmsH}, true);
-    enableAll({&on_.txtBdegPhi, &on_.txtBdegLam, &on_.txtBdegH}, false);
+    typeInto(on_.userAngles().dms, on_.userAngles().degrees);
 }
 
-// The group that was typed into fills the other one; from there on the decimal boxes count.
-void OnePointPanel::syncWgs(BoxReader& read) {
-    using KelvoSub::DegToDms;
-    using KelvoSub::DmsToDeg;
-    if (on_.optWdeg.value()) {
-        on_.txtWdmsPhi.setText(generalText(DegToDms(read(on_.txtWdegPhi), messages_)));
-        on_.txtWdmsLam.setText(generalText(DegToDms(read(on_.txtWdegLam), messages_)));
-        on_.txtWdmsTH.setText(on_.txtWdegTH.text());
-    } else {
-        on_.txtWdegPhi.setText(generalText(DmsToDeg(read(on_.txtWdmsPhi), messages_)));
-        on_.txtWdegLam.setText(generalText(DmsToDeg(read(on_.txtWdmsLam), messages_)));
-        on_.txtWdegTH.setText(on_.txtWdmsTH.text());
+void OnePointPanel::synchronise(const AnglePair& angles, BoxReader& read) {
+    const bool fromDegrees = angles.degreesOption.value();
+    const auto& from = fromDegrees ? angles.degrees : angles.dms;
+    const auto& to = fromDegrees ? angles.dms : angles.degrees;
+    for (std::size_t i = 0; i < 2; ++i) {
+        const double given = read(*from[i]);
+        const double turned = ofBox(*from[i], [&] {
+            return fromDegrees ? KelvoSub::DegToDms(given)
+                               : toldDegrees(messages_, given, KelvoSub::DmsToDeg(given));
+        });
+        to[i]->setText(generalText(turned));
     }
+    to[2]->setText(from[2]->text());
 }
 
-void OnePointPanel::syncUser(BoxReader& read) {
-    using KelvoSub::DegToDms;
-    using KelvoSub::DmsToDeg;
-    if (on_.optBdeg.value()) {
-        on_.txtBdmsPhi.setText(generalText(DegToDms(read(on_.txtBdegPhi), messages_)));
-        on_.txtBdmsLam.setText(generalText(DegToDms(read(on_.txtBdegLam), messages_)));
-        on_.txtBdmsH.setText(on_.txtBdegH.text());
-    } else {
-        on_.txtBdegPhi.setText(generalText(DmsToDeg(read(on_.txtBdmsPhi), messages_)));
-        on_.txtBdegLam.setText(generalText(DmsToDeg(read(on_.txtBdmsLam), messages_)));
-        on_.txtBdegH.setText(on_.txtBdmsH.text());
-    }
-}
-
-void OnePointPanel::startDatumClick(Files& files, BoxReader& read, bool fromWgs) {
-    const int kind = para_.optBursa.value() ? 2 : 1;
-    std::array<double, 7> shift{};
-    const auto boxes = para_.shiftBoxes();
-    for (std::size_t i = 0; i < shift.size(); ++i) shift[i] = read(*boxes[i]);
-    KelvoSub::SetDatumPara(state_.conversion.datum, shift[0], shift[1], shift[2], shift[3],
-                           shift[4], shift[5], shift[6], kind);
-    if (fromWgs)
-        syncWgs(read);
-    else
-        syncUser(read);
+void OnePointPanel::startDatumClick(Files& files, BoxReader& read, const AnglePair& tail) {
+    const ShiftKind kind = para_.optBursa.value() ? ShiftKind::Bursa : ShiftKind::Molodensky;
+    const double dX = read(para_.txtdX);
+    const double dY = read(para_.txtdY);
+    const double dZ = read(para_.txtdZ);
+    const double Omega = read(para_.txtOmega);
+    const double Phi = read(para_.txtPhi);
+    const double Kappa = read(para_.txtKappa);
+    const double dS = read(para_.txtdS);
+    KelvoSub::SetDatumPara(state_.conversion.datum, {dX, dY, dZ, Omega, Phi, Kappa, dS}, kind);
+    synchronise(tail, read);
     if (!state_.conversion.ParaDirty) return;
     parameters_.SaveCfg();
     writeCfgFile_();
-    PrintRunHeader(state_.conversion, files.run, kAngleDms, kAngleHyphens, state_.Cfg, disk_,
-                   messages_);
+    PrintRunHeader(state_.conversion, files.run, AngleForm::Dms, AngleForm::Hyphens, state_.Cfg,
+                   disk_, messages_);
     state_.conversion.ParaDirty = false;
+}
+
+// By the flag of the stored set, with a row in the detail file under the name that stands in row 1
+// of the point table (required).
+Correction OnePointPanel::correctionAt(Files& files, const Position& wgs) {
+    if (state_.Cfg.CorrFlag == Flag::Off) return {};
+    const auto known = state_.conversion.known.inUse();
+    const FoundCorrection found = findCorr(known, wgs);
+    if (found.failure != NoCorrection::None) throw faultOf(found, known, state_.CorPath);
+    const ArcSecLengths second = KelvoSub::ArcSecLen(wgs.Phi, wgs.Lam);
+    tell(messages_, Remark::Kind::NotProjected, second.unprojected);
+    const double L = lengthInMetres(found.value.DPhi, found.value.DLam, second);
+    DetailReport(files.det, AngleForm::Hyphens)
+        .correction(state_.conversion.points.row(1).name, found.value, L);
+    return found.value;
 }
 
 void OnePointPanel::cmdW2B_Click() {
     Files files(disk_, state_);
     BoxReader read(messages_);
-    startDatumClick(files, read, true);
+    startDatumClick(files, read, on_.wgsAngles());
     const DatumState& datum = state_.conversion.datum;
 
     const double p = read(on_.txtWdegPhi);
     const double l = read(on_.txtWdegLam);
     const double h = read(on_.txtWdegTH);
     const Ellipsoid user = ellipsoidOf(read, para_.txta, para_.txtf);
-    const Geographic shifted = KelvoSub::WgsToUser(datum.shift, p, l, h, user, messages_);
+    const Geographic shifted = told(messages_, KelvoSub::WgsToUser(datum.shift, p, l, h, user),
+                                    Remark::Kind::NotGeographic);
     double up = finite(read(para_.txtdPhi) / 3600 + shifted.Phi);
     double ul = finite(read(para_.txtdLam) / 3600 + shifted.Lam);
     const double uTH = finite(read(para_.txtdH) + shifted.h);
@@ -196,8 +217,7 @@ void OnePointPanel::cmdW2B_Click() {
     const double wH = strictNumberOf(on_.txtWdegTH) - NW;
     const double NB = KelvoSub::GeoidHeightBessel(datum.geoid, up, ul);
     double H = uTH - NB;
-    const Correction c = findCorr(state_.conversion, files.det, p, l, kAngleHyphens, 1,
-                                  state_.Cfg.CorrFlag, messages_);
+    const Correction c = correctionAt(files, {.Phi = p, .Lam = l});
     // The ellipsoidal height stays without the correction (required).
     up = c.DPhi + up;
     ul = c.DLam + ul;
@@ -206,8 +226,8 @@ void OnePointPanel::cmdW2B_Click() {
     write(on_.txtBdegPhi, up, kAngle);
     write(on_.txtBdegLam, ul, kAngle);
     write(on_.txtBdegH, H, kHeight);
-    write(on_.txtBdmsPhi, KelvoSub::DegToDms(finite(up), messages_), kAngle);
-    write(on_.txtBdmsLam, KelvoSub::DegToDms(finite(ul), messages_), kAngle);
+    write(on_.txtBdmsPhi, KelvoSub::DegToDms(finite(up)), kAngle);
+    write(on_.txtBdmsLam, KelvoSub::DegToDms(finite(ul)), kAngle);
     write(on_.txtBdmsH, H, kHeight);
     write(on_.txtBGeoid, NB, kHeight);
     write(on_.txtBTH, uTH, kHeight);
@@ -219,7 +239,7 @@ void OnePointPanel::cmdW2B_Click() {
 void OnePointPanel::cmdB2W_Click() {
     Files files(disk_, state_);
     BoxReader read(messages_);
-    startDatumClick(files, read, false);
+    startDatumClick(files, read, on_.userAngles());
     const DatumState& datum = state_.conversion.datum;
 
     const double p = read(on_.txtBdegPhi);
@@ -227,13 +247,13 @@ void OnePointPanel::cmdB2W_Click() {
     const double NB = KelvoSub::GeoidHeightBessel(datum.geoid, p, l);
     const double E = finite(NB + strictNumberOf(on_.txtBdegH));
     const Ellipsoid user = ellipsoidOf(read, para_.txta, para_.txtf);
-    const Geographic shifted = KelvoSub::UserToWgs(datum.shift, p, l, E, user, messages_);
+    const Geographic shifted = told(messages_, KelvoSub::UserToWgs(datum.shift, p, l, E, user),
+                                    Remark::Kind::NotGeographic);
     double wp = finite(shifted.Phi - read(para_.txtdPhi) / 3600);
     double wl = finite(shifted.Lam - read(para_.txtdLam) / 3600);
     const double wh = finite(shifted.h - read(para_.txtdH));
 
-    const Correction c = findCorr(state_.conversion, files.det, wp, wl, kAngleHyphens, 1,
-                                  state_.Cfg.CorrFlag, messages_);
+    const Correction c = correctionAt(files, {.Phi = wp, .Lam = wl});
     wp = finite(wp - c.DPhi);
     wl = finite(wl - c.DLam);
     const double A = wh - c.DH;
@@ -245,8 +265,8 @@ void OnePointPanel::cmdB2W_Click() {
     write(on_.txtWdegPhi, wp, kAngle);
     write(on_.txtWdegLam, wl, kAngle);
     write(on_.txtWdegTH, A, kHeight);
-    write(on_.txtWdmsPhi, KelvoSub::DegToDms(wp, messages_), kAngle);
-    write(on_.txtWdmsLam, KelvoSub::DegToDms(wl, messages_), kAngle);
+    write(on_.txtWdmsPhi, KelvoSub::DegToDms(wp), kAngle);
+    write(on_.txtWdmsLam, KelvoSub::DegToDms(wl), kAngle);
     write(on_.txtWdmsTH, A, kHeight);
     write(on_.txtwGeoid, B, kHeight);
     write(on_.txtwH, C, kHeight);
@@ -281,7 +301,7 @@ Projection OnePointPanel::utmOrigin(BoxReader& read) const {
 
 void OnePointPanel::cmdGP2TM_Click() {
     BoxReader read(messages_);
-    syncUser(read);
+    synchronise(on_.userAngles(), read);
     const std::string H = on_.txtBdegH.text();
     const double p = read(on_.txtBdegPhi);
     const double l = read(on_.txtBdegLam);
@@ -291,7 +311,8 @@ void OnePointPanel::cmdGP2TM_Click() {
     parameters_.followZone(l);
     const double Lam0 = shiftedLam0(read);
     const Ellipsoid user = ellipsoidOf(read, para_.txta, para_.txtf);
-    const GridPoint grid = KelvoSub::GeoToTM(p, l, user, tmOrigin(read, Lam0), messages_);
+    const GridPoint grid = told(messages_, KelvoSub::GeoToTM(p, l, user, tmOrigin(read, Lam0)),
+                                Remark::Kind::NotProjected);
 
     write(on_.txtX, grid.X, kGrid);
     write(on_.txtY, grid.Y, kGrid);
@@ -308,7 +329,8 @@ Position OnePointPanel::positionOfTmBoxes(BoxReader& read) {
     const double X = read(on_.txtX);
     const double Y = read(on_.txtY);
     const Ellipsoid user = ellipsoidOf(read, para_.txta, para_.txtf);
-    return KelvoSub::TMToGeo(X, Y, user, tmOrigin(read, Lam0), messages_);
+    return told(messages_, KelvoSub::TMToGeo(X, Y, user, tmOrigin(read, Lam0)),
+                Remark::Kind::NotUnprojected);
 }
 
 void OnePointPanel::cmdTM2GP_Click() {
@@ -322,8 +344,8 @@ void OnePointPanel::cmdTM2GP_Click() {
     write(on_.txtBdegPhi, at.Phi, kAngle);
     write(on_.txtBdegLam, at.Lam, kAngle);
     writeHeightText(on_.txtBdegH, H, kHeight);
-    write(on_.txtBdmsPhi, KelvoSub::DegToDms(at.Phi, messages_), kAngle);
-    write(on_.txtBdmsLam, KelvoSub::DegToDms(at.Lam, messages_), kAngle);
+    write(on_.txtBdmsPhi, KelvoSub::DegToDms(at.Phi), kAngle);
+    write(on_.txtBdmsLam, KelvoSub::DegToDms(at.Lam), kAngle);
     writeHeightText(on_.txtBdmsH, H, kHeight);
     write(on_.txtBGeoid, NB, kHeight);
     write(on_.txtBTH, TH, kHeight);
@@ -337,7 +359,8 @@ void OnePointPanel::cmdTM2UTM_Click() {
 
     parameters_.followUtmZone(at.Lam);
     const Ellipsoid utm = ellipsoidOf(read, para_.txtUa, para_.txtUf);
-    const GridPoint grid = KelvoSub::GeoToTM(at.Phi, at.Lam, utm, utmOrigin(read), messages_);
+    const GridPoint grid = told(messages_, KelvoSub::GeoToTM(at.Phi, at.Lam, utm, utmOrigin(read)),
+                                Remark::Kind::NotProjected);
 
     write(on_.txtUX, grid.X, kGrid);
     write(on_.txtUY, grid.Y, kGrid);
@@ -349,16 +372,17 @@ void OnePointPanel::cmdUTM2TM_Click() {
     const double UX = read(on_.txtUX);
     const double UY = read(on_.txtUY);
     const Ellipsoid utm = ellipsoidOf(read, para_.txtUa, para_.txtUf);
-    const Position at = KelvoSub::TMToGeo(UX, UY, utm, utmOrigin(read), messages_);
+    const Position at = told(messages_, KelvoSub::TMToGeo(UX, UY, utm, utmOrigin(read)),
+                             Remark::Kind::NotUnprojected);
 
     // Required: the zone goes by the longitude that stands in the user frame, which may be an
     // older point's, and not by the one just computed.
-    if (para_.optWest.value() || para_.optCenter.value() || para_.optEast.value() ||
-        para_.optEastSea.value())
-        parameters_.followZone(read(on_.txtBdegLam));
+    if (parameters_.followsZone()) parameters_.followZone(read(on_.txtBdegLam));
     const double Lam0 = shiftedLam0(read);
     const Ellipsoid user = ellipsoidOf(read, para_.txta, para_.txtf);
-    const GridPoint grid = KelvoSub::GeoToTM(at.Phi, at.Lam, user, tmOrigin(read, Lam0), messages_);
+    const GridPoint grid =
+        told(messages_, KelvoSub::GeoToTM(at.Phi, at.Lam, user, tmOrigin(read, Lam0)),
+             Remark::Kind::NotProjected);
 
     write(on_.txtX, grid.X, kGrid);
     write(on_.txtY, grid.Y, kGrid);

@@ -3,7 +3,9 @@
 #pragma once
 
 #include <array>
+#include <utility>
 
+#include "batch/trans_para.h"
 #include "form/form.h"
 
 namespace kelvo {
@@ -73,15 +75,53 @@ struct ParameterControls {
     Control& txtUY0 = form.textBox("txtUY0", "Frame16", "Yo");
     Control& txtUS0 = form.textBox("txtUS0", "Frame16", "투영축척계수");
 
-    // The boxes that presets and zones fill and open or close as one.
+    // The options in the order of their zones.
+    [[nodiscard]] std::array<Control*, 6> zoneOptions() const {
+        return {&optWest, &optCenter, &optEast, &optEastSea, &optJeju, &optUser};
+    }
+    [[nodiscard]] std::array<Control*, 3> utmZoneOptions() const {
+        return {&optUTM3, &optUTM9, &optUUser};
+    }
+
+    // Boxes with the fields that they stand for, in the order in which they are stored and shown.
+    using BoxOfField = std::pair<Control*, double TransPara::*>;
+    using P = TransPara;
+    [[nodiscard]] std::array<BoxOfField, 10> datumFields() const {
+        return {{{&txtdX, &P::dX},
+                 {&txtdY, &P::dY},
+                 {&txtdZ, &P::dZ},
+                 {&txtOmega, &P::Omega},
+                 {&txtPhi, &P::Phi},
+                 {&txtKappa, &P::Kappa},
+                 {&txtdPhi, &P::dPhi},
+                 {&txtdLam, &P::dLam},
+                 {&txtdH, &P::dH},
+                 {&txtdS, &P::dS}}};
+    }
+    [[nodiscard]] std::array<BoxOfField, 2> ellipsoidFields() const {
+        return {{{&txta, &P::a}, {&txtf, &P::f}}};
+    }
+    [[nodiscard]] std::array<BoxOfField, 5> originFields() const {
+        return {{{&txtPhi0, &P::Phi0},
+                 {&txtLam0, &P::Lam0},
+                 {&txtX0, &P::X0},
+                 {&txtY0, &P::Y0},
+                 {&txtS0, &P::S0}}};
+    }
+    [[nodiscard]] std::array<BoxOfField, 2> utmEllipsoidFields() const {
+        return {{{&txtUa, &P::Ua}, {&txtUf, &P::Uf}}};
+    }
+    [[nodiscard]] std::array<BoxOfField, 5> utmOriginFields() const {
+        return {{{&txtUPhi0, &P::UPhi0},
+                 {&txtULam0, &P::ULam0},
+                 {&txtUX0, &P::UX0},
+                 {&txtUY0, &P::UY0},
+                 {&txtUS0, &P::US0}}};
+    }
+
+    // The boxes of the shift, which presets fill and open or close as one.
     [[nodiscard]] std::array<Control*, 7> shiftBoxes() const {
         return {&txtdX, &txtdY, &txtdZ, &txtOmega, &txtPhi, &txtKappa, &txtdS};
-    }
-    [[nodiscard]] std::array<Control*, 5> originBoxes() const {
-        return {&txtPhi0, &txtLam0, &txtX0, &txtY0, &txtS0};
-    }
-    [[nodiscard]] std::array<Control*, 5> utmOriginBoxes() const {
-        return {&txtUPhi0, &txtULam0, &txtUX0, &txtUY0, &txtUS0};
     }
 };
 

@@ -1,7 +1,8 @@
 #include "panels/parameter_panels.h"
 
+#include <optional>
 #include <span>
-#include <string>
+#include <string_view>
 
 #include "common/number_text.h"
 #include "panels/entry.h"
@@ -10,27 +11,48 @@ namespace kelvo {
 
 namespace {
 
+using BoxOfField = ParameterControls::BoxOfField;
+
 struct Preset {
     std::string_view name;
-    std::array<std::string_view, 7> texts;  // in the order of the shift boxes
+    ShiftParameters shift;
+    // Required: only the recommended shift chooses its kind; the others leave it as it stands.
+    std::optional<ShiftKind> kind;
 };
 
 // Entry 0 is the user's own and keeps what stands in the boxes.
-constexpr std::array<Preset, 4> kPresets{
-    {{.name = "사용자입력", .texts = {}},
-     {.name = "측량작업기준(2002추천)",
-      .texts = {"115.8", "-474.99", "-674.11", "1.16", "-2.31", "-1.63", "-6.43"}},
-     {.name = "측량작업기준(2001)", .texts = {"146.44", "-507.89", "-681.46", "0", "0", "0", "0"}},
-     {.name = "서가람(3Para)", .texts = {"144.778", "-503.702", "-684.67", "0", "0", "0", "0"}}}};
+constexpr std::array kPresets{
+    Preset{"사용자입력", {}, {}},
+    Preset{"측량작업기준(2002추천)", kRecommendedShift, ShiftKind::Bursa},
+    Preset{"측량작업기준(2001)", {.dX = 146.44, .dY = -507.89, .dZ = -681.46}, {}},
+    Preset{"서가람(3Para)", {.dX = 144.778, .dY = -503.702, .dZ = -684.67}, {}},
+};
 constexpr int kOwnPreset = 0;
-constexpr int kPresetOfBursa = 1;
 
-// The Bessel ellipsoid as parameter sets carry it.
-constexpr std::string_view kBesselAxis = "6377397.155";
-constexpr std::string_view kBesselInverseFlattening = "299.1528128";
+// The scale of the fixed TM origins, trailing zeros and all: required.
+constexpr const char* kScaleText = "1.00000";
 
 void enableAll(std::span<Control* const> boxes, bool on) {
     for (Control* box : boxes) box->setEnabled(on);
+}
+
+void enableAll(std::span<const BoxOfField> boxes, bool on) {
+    for (const auto& [box, field] : boxes) box->setEnabled(on);
+}
+
+void show(std::span<const BoxOfField> boxes, const TransPara& para) {
+    for (const auto& [box, field] : boxes) box->setText(generalText(para.*field));
+}
+
+void store(std::span<const BoxOfField> boxes, TransPara& para) {
+    for (const auto& [box, field] : boxes) para.*field = strictNumberOf(*box);
+}
+
+// The place of the option that is on, counted from 1; none if all are off.
+std::optional<std::int16_t> optionThatIsOn(std::span<Control* const> options) {
+    for (std::size_t i = 0; i < options.size(); ++i)
+        if (options[i]->value()) return static_cast<std::int16_t>(i + 1);
+    return std::nullopt;
 }
 
 }  // namespace
@@ -59,18 +81,20 @@ void ParameterPanels::bindReactions() {
     on_.optUTM9.onClick = [this] { optUTM9_Click(); };
     on_.optUUser.onClick = [this] { optUUser_Click(); };
 
-    const auto bindBox = [this](Control& box) {
-        box.onChange = [this] { markChanged(); };
-        box.onFocus = [&box] { r(box); };
+    const auto bind = [this](std::span<const BoxOfField> boxes) {
+        for (const auto& [box, field] : boxes) {
+            box->onChange = [this] { markChanged(); };
+            box->onFocus = [entered = box] { r(*entered); };
+        }
     };
-    for (Control* box : on_.shiftBoxes()) bindBox(*box);
-    for (Control* box : on_.originBoxes()) bindBox(*box);
-    for (Control* box : on_.utmOriginBoxes()) bindBox(*box);
-    for (Control* box : {&on_.txta, &on_.txtf, &on_.txtUa, &on_.txtUf}) bindBox(*box);
+    bind(on_.datumFields());
+    bind(on_.ellipsoidFields());
+    bind(on_.originFields());
+    bind(on_.utmEllipsoidFields());
+    bind(on_.utmOriginFields());
     // The first adjustment doesn't select itself on entry: the caret stays where the click put
     // it (required).
-    for (Control* box : {&on_.txtdPhi, &on_.txtdLam, &on_.txtdH})
-        box->onChange = [this] { markChanged(); };
+    for (Control* box : {&on_.txtdPhi, &on_.txtdLam, &on_.txtdH}) box->onFocus = nullptr;
 }
 
 void ParameterPanels::markChanged() {
@@ -85,20 +109,20 @@ void ParameterPanels::fillPresetList() {
 }
 
 void ParameterPanels::showFlags() {
-    (state_.Cfg.AddFlag == 1 ? on_.optAdd : on_.optNotAdd).switchOn();
-    (state_.Cfg.CorrFlag == 1 ? on_.OptCorr : on_.OptNoCorr).switchOn();
+    (state_.Cfg.AddFlag == Flag::On ? on_.optAdd : on_.optNotAdd).switchOn();
+    (state_.Cfg.CorrFlag == Flag::On ? on_.OptCorr : on_.OptNoCorr).switchOn();
 }
 
-// Only the first preset chooses the kind of shift; the other two leave it as it stands
-// (required).
 void ParameterPanels::cmb7Para_Click() {
     const int index = on_.cmb7Para.index();
     if (index < 0 || static_cast<std::size_t>(index) >= kPresets.size()) return;
     const auto boxes = on_.shiftBoxes();
-    if (index == kPresetOfBursa) on_.optBursa.switchOn();
     if (index != kOwnPreset) {
-        const Preset& preset = kPresets[static_cast<std::size_t>(index)];
-        for (std::size_t i = 0; i < boxes.size(); ++i) boxes[i]->setText(preset.texts[i]);
+        const auto& [name, shift, kind] = kPresets[static_cast<std::size_t>(index)];
+        if (kind) (*kind == ShiftKind::Bursa ? on_.optBursa : on_.optMolod).switchOn();
+        const std::array values{shift.dX,  shift.dY,    shift.dZ, shift.Omega,
+                                shift.Phi, shift.Kappa, shift.dS};
+        for (std::size_t i = 0; i < boxes.size(); ++i) boxes[i]->setText(generalText(values[i]));
     }
     enableAll(boxes, index == kOwnPreset);
 }
@@ -113,48 +137,47 @@ void ParameterPanels::optBursa_Click() {
 
 // The one parameter that goes into the stored set at once.
 void ParameterPanels::OptCorr_Click() {
-    state_.Cfg.CorrFlag = 1;
+    state_.Cfg.CorrFlag = Flag::On;
     markChanged();
 }
 
 void ParameterPanels::OptNoCorr_Click() {
-    state_.Cfg.CorrFlag = 0;
+    state_.Cfg.CorrFlag = Flag::Off;
     markChanged();
 }
 
-void ParameterPanels::showFixedOrigin(std::string_view Lam0, std::string_view X0) {
-    on_.txtPhi0.setText("38");
-    on_.txtLam0.setText(Lam0);
-    on_.txtX0.setText(X0);
-    on_.txtY0.setText("200000");
-    on_.txtS0.setText("1.00000");
-    on_.txta.setText(kBesselAxis);
-    on_.txtf.setText(kBesselInverseFlattening);
-    enableAll(on_.originBoxes(), false);
+void ParameterPanels::showFixedOrigin(TmZone zone) {
+    TransPara origin;
+    setTmOrigin(origin, originOf(zone));
+    setUserEllipsoid(origin, kBesselOfParameters);
+    for (const auto& [box, field] : on_.originFields())
+        box->setText(box == &on_.txtS0 ? kScaleText : generalText(origin.*field));
+    show(on_.ellipsoidFields(), origin);
+    enableAll(on_.originFields(), false);
 }
 
 void ParameterPanels::optWest_Click() {
-    showFixedOrigin("125", "500000");
+    showFixedOrigin(TmZone::West);
 }
 
 void ParameterPanels::optCenter_Click() {
-    showFixedOrigin("127", "500000");
+    showFixedOrigin(TmZone::Centre);
 }
 
 void ParameterPanels::optEast_Click() {
-    showFixedOrigin("129", "500000");
+    showFixedOrigin(TmZone::East);
 }
 
 void ParameterPanels::optEastSea_Click() {
-    showFixedOrigin("131", "500000");
+    showFixedOrigin(TmZone::EastSea);
 }
 
 void ParameterPanels::optJeju_Click() {
-    showFixedOrigin("127", "550000");
+    showFixedOrigin(TmZone::Jeju);
 }
 
 void ParameterPanels::optUser_Click() {
-    enableAll(on_.originBoxes(), true);
+    enableAll(on_.originFields(), true);
 }
 
 void ParameterPanels::optAdd_Click() {
@@ -165,156 +188,86 @@ void ParameterPanels::optNotAdd_Click() {
     markChanged();
 }
 
-void ParameterPanels::showFixedUtmOrigin(std::string_view ULam0) {
-    on_.txtUPhi0.setText("0");
-    on_.txtULam0.setText(ULam0);
-    on_.txtUX0.setText("0");
-    on_.txtUY0.setText("500000");
-    on_.txtUS0.setText("0.9996");
-    enableAll(on_.utmOriginBoxes(), false);
+void ParameterPanels::showFixedUtmOrigin(UtmZone zone) {
+    TransPara origin;
+    setUtmOrigin(origin, originOf(zone));
+    show(on_.utmOriginFields(), origin);
+    enableAll(on_.utmOriginFields(), false);
 }
 
 void ParameterPanels::optUTM3_Click() {
-    showFixedUtmOrigin("123");
+    showFixedUtmOrigin(UtmZone::West);
 }
 
 void ParameterPanels::optUTM9_Click() {
-    showFixedUtmOrigin("129");
+    showFixedUtmOrigin(UtmZone::East);
 }
 
 void ParameterPanels::optUUser_Click() {
-    enableAll(on_.utmOriginBoxes(), true);
+    enableAll(on_.utmOriginFields(), true);
+}
+
+bool ParameterPanels::followsZone() const {
+    return on_.optWest.value() || on_.optCenter.value() || on_.optEast.value() ||
+           on_.optEastSea.value();
 }
 
 void ParameterPanels::followZone(double longitude) {
-    if (!on_.optWest.value() && !on_.optCenter.value() && !on_.optEast.value() &&
-        !on_.optEastSea.value())
-        return;
-    if (longitude < 126.0)
-        on_.optWest.switchOn();
-    else if (longitude <= 128.0)
-        on_.optCenter.switchOn();
-    else if (longitude <= 130.0)
-        on_.optEast.switchOn();
-    else
-        on_.optEastSea.switchOn();
+    if (!followsZone()) return;
+    const auto zone = static_cast<std::size_t>(tmZoneAt(longitude));
+    on_.zoneOptions()[zone - 1]->switchOn();
 }
 
 void ParameterPanels::followUtmZone(double longitude) {
     if (!on_.optUTM3.value() && !on_.optUTM9.value()) return;
-    if (longitude < 126.0) on_.optUTM3.switchOn();
-    if (longitude > 126.0) on_.optUTM9.switchOn();
+    if (longitude == kWestLimit) return;
+    (utmZoneAt(longitude) == UtmZone::West ? on_.optUTM3 : on_.optUTM9).switchOn();
 }
 
 void ParameterPanels::SaveCfg() {
     TransPara& Cfg = state_.Cfg;
-    const auto number = [](const Control& box) { return strictNumberOf(box); };
-
-    Cfg.Kind = on_.optMolod.value() ? 1 : 2;
-    Cfg.dX = number(on_.txtdX);
-    Cfg.dY = number(on_.txtdY);
-    Cfg.dZ = number(on_.txtdZ);
-    Cfg.Omega = number(on_.txtOmega);
-    Cfg.Phi = number(on_.txtPhi);
-    Cfg.Kappa = number(on_.txtKappa);
-    Cfg.dPhi = number(on_.txtdPhi);
-    Cfg.dLam = number(on_.txtdLam);
-    Cfg.dH = number(on_.txtdH);
-    Cfg.dS = number(on_.txtdS);
-    Cfg.CorrFlag = on_.OptCorr.value() ? 1 : 0;
-
-    const std::array zones{&on_.optWest,    &on_.optCenter, &on_.optEast,
-                           &on_.optEastSea, &on_.optJeju,   &on_.optUser};
-    for (std::size_t i = 0; i < zones.size(); ++i)
-        if (zones[i]->value()) Cfg.Zone = static_cast<std::int16_t>(i + 1);
-    Cfg.Phi0 = number(on_.txtPhi0);
-    Cfg.Lam0 = number(on_.txtLam0);
-    Cfg.X0 = number(on_.txtX0);
-    Cfg.Y0 = number(on_.txtY0);
-    Cfg.S0 = number(on_.txtS0);
-    // Off is 2 here and 0 in data files; every test is for 1.
-    Cfg.AddFlag = on_.optAdd.value() ? 1 : 2;
-    Cfg.a = number(on_.txta);
-    Cfg.f = number(on_.txtf);
-
-    if (on_.optUTM3.value()) Cfg.UZone = 1;
-    if (on_.optUTM9.value()) Cfg.UZone = 2;
+    Cfg.Kind = on_.optMolod.value() ? ShiftKind::Molodensky : ShiftKind::Bursa;
+    store(on_.datumFields(), Cfg);
+    Cfg.CorrFlag = on_.OptCorr.value() ? Flag::On : Flag::Off;
+    if (const auto zone = optionThatIsOn(on_.zoneOptions())) Cfg.Zone = TmZone{*zone};
+    store(on_.originFields(), Cfg);
+    Cfg.AddFlag = on_.optAdd.value() ? Flag::On : kNotAdded;
+    store(on_.ellipsoidFields(), Cfg);
+    if (on_.optUTM3.value()) Cfg.UZone = UtmZone::West;
+    if (on_.optUTM9.value()) Cfg.UZone = UtmZone::East;
     // Required: this looks at the user origin of the TM panel, so a user UTM origin alone
     // leaves UZone as it was.
-    if (on_.optUser.value()) Cfg.UZone = 3;
-    Cfg.UPhi0 = number(on_.txtUPhi0);
-    Cfg.ULam0 = number(on_.txtULam0);
-    Cfg.UX0 = number(on_.txtUX0);
-    Cfg.UY0 = number(on_.txtUY0);
-    Cfg.US0 = number(on_.txtUS0);
-    Cfg.Ua = number(on_.txtUa);
-    Cfg.Uf = number(on_.txtUf);
+    if (on_.optUser.value()) Cfg.UZone = UtmZone::User;
+    store(on_.utmOriginFields(), Cfg);
+    store(on_.utmEllipsoidFields(), Cfg);
 }
 
 void ParameterPanels::FillDefault() {
     const TransPara& Cfg = state_.Cfg;
-    const auto show = [](Control& box, double value) { box.setText(generalText(value)); };
-
-    (Cfg.Kind == 1 ? on_.optMolod : on_.optBursa).switchOn();
-    show(on_.txtdX, Cfg.dX);
-    show(on_.txtdY, Cfg.dY);
-    show(on_.txtdZ, Cfg.dZ);
-    show(on_.txtOmega, Cfg.Omega);
-    show(on_.txtPhi, Cfg.Phi);
-    show(on_.txtKappa, Cfg.Kappa);
-    show(on_.txtdPhi, Cfg.dPhi);
-    show(on_.txtdLam, Cfg.dLam);
-    show(on_.txtdH, Cfg.dH);
-    show(on_.txtdS, Cfg.dS);
-    (Cfg.CorrFlag == 1 ? on_.OptCorr : on_.OptNoCorr).switchOn();
+    (Cfg.Kind == ShiftKind::Molodensky ? on_.optMolod : on_.optBursa).switchOn();
+    show(on_.datumFields(), Cfg);
+    (Cfg.CorrFlag == Flag::On ? on_.OptCorr : on_.OptNoCorr).switchOn();
     on_.cmb7Para.choose(kOwnPreset);
-    show(on_.txta, Cfg.a);
-    show(on_.txtf, Cfg.f);
+    show(on_.ellipsoidFields(), Cfg);
 
-    switch (Cfg.Zone) {
-        case 1:
-            on_.optWest.switchOn();
-            break;
-        case 2:
-            on_.optCenter.switchOn();
-            break;
-        case 3:
-            on_.optEast.switchOn();
-            break;
-        case 4:
-            on_.optEastSea.switchOn();
-            break;
-        case 5:
-            on_.optJeju.switchOn();
-            break;
-        default:
-            on_.optUser.switchOn();
-            show(on_.txtPhi0, Cfg.Phi0);
-            show(on_.txtLam0, Cfg.Lam0);
-            show(on_.txtX0, Cfg.X0);
-            show(on_.txtY0, Cfg.Y0);
-            show(on_.txtS0, Cfg.S0);
-            enableAll(on_.originBoxes(), true);
+    if (Cfg.Zone >= TmZone::West && Cfg.Zone <= TmZone::Jeju) {
+        on_.zoneOptions()[static_cast<std::size_t>(Cfg.Zone) - 1]->switchOn();
+    } else {
+        on_.optUser.switchOn();
+        show(on_.originFields(), Cfg);
+        enableAll(on_.originFields(), true);
     }
-    if (Cfg.AddFlag == 1) on_.optAdd.switchOn();
-    show(on_.txtUa, Cfg.Ua);
-    show(on_.txtUf, Cfg.Uf);
+    if (Cfg.AddFlag == Flag::On) on_.optAdd.switchOn();
+    show(on_.utmEllipsoidFields(), Cfg);
 
-    switch (Cfg.UZone) {
-        case 1:
-            on_.optUTM3.switchOn();
-            break;
-        case 2:
-            on_.optUTM9.switchOn();
-            break;
-        default:
-            on_.optUUser.switchOn();
-            show(on_.txtUPhi0, Cfg.UPhi0);
-            show(on_.txtULam0, Cfg.ULam0);
-            show(on_.txtUX0, Cfg.UX0);
-            show(on_.txtUY0, Cfg.UY0);
-            show(on_.txtUS0, Cfg.US0);
-            enableAll(on_.utmOriginBoxes(), true);
+    if (Cfg.UZone == UtmZone::West) {
+        on_.optUTM3.switchOn();
+    } else if (Cfg.UZone == UtmZone::East) {
+        on_.optUTM9.switchOn();
+    } else {
+        on_.optUUser.switchOn();
+        show(on_.utmOriginFields(), Cfg);
+        enableAll(on_.utmOriginFields(), true);
     }
 }
 

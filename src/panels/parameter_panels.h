@@ -4,9 +4,6 @@
 // set; SaveCfg takes the boxes into it and FillDefault puts it into the boxes.
 #pragma once
 
-#include <array>
-#include <string_view>
-
 #include "panels/parameter_controls.h"
 #include "panels/program_state.h"
 
@@ -18,7 +15,7 @@ public:
     ParameterPanels(const ParameterPanels&) = delete;
     ParameterPanels& operator=(const ParameterPanels&) = delete;
 
-    // The four names of the preset list.
+    // The names of the preset list.
     void fillPresetList();
 
     // Switches on the options for AddFlag and CorrFlag.
@@ -34,6 +31,7 @@ public:
     // The origin by a longitude in degrees, if one of the four zones by longitude is on: below
     // 126 west, up to 128 centre, up to 130 east, above east sea. Fills the origin boxes.
     void followZone(double longitude);
+    [[nodiscard]] bool followsZone() const;
 
     // The UTM origin, if one of the two fixed ones is on: 123 below 126 degrees, 129 above; at
     // 126 sharp it stays (required).
@@ -61,8 +59,8 @@ public:
 private:
     void bindReactions();
     void markChanged();
-    void showFixedOrigin(std::string_view Lam0, std::string_view X0);
-    void showFixedUtmOrigin(std::string_view ULam0);
+    void showFixedOrigin(TmZone zone);
+    void showFixedUtmOrigin(UtmZone zone);
 
     ParameterControls on_;
     ProgramState& state_;

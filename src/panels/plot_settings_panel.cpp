@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "batch/wording.h"
 #include "common/checked_arithmetic.h"
 #include "common/code_page.h"
 #include "common/fixed_width.h"
@@ -42,9 +43,22 @@ PlotSettingsPanel::PlotSettingsPanel(Form& form, ProgramState& state, Disk& disk
     on_.txtFontSize.onFocus = [this] { r(on_.txtFontSize); };
 }
 
-void PlotSettingsPanel::showScale(const std::array<std::string, 4>& texts) {
-    const auto boxes = on_.scaleBoxes();
-    for (std::size_t i = 0; i < boxes.size(); ++i) boxes[i]->setText(texts[i]);
+void PlotSettingsPanel::takeScale(PointPlot drawn, const std::array<std::string, 4>& texts) {
+    if (chosenKind() == drawn) {
+        const auto boxes = on_.scaleBoxes();
+        for (std::size_t i = 0; i < boxes.size(); ++i) boxes[i]->setText(texts[i]);
+        SavePcfgFile();
+        return;
+    }
+    PlotScale* scale = state_.plotCfg.scaleOf(drawn);
+    for (std::size_t i = 0; scale != nullptr && i < texts.size(); ++i)
+        scale->*kFields[i] = valueOf(strictNumber(texts[i]), drawn);
+}
+
+// A box as the settings hold it: metres, or decimal degrees for the ddd.mmss of the angle plots.
+float PlotSettingsPanel::valueOf(double number, PointPlot kind) {
+    if (kind == PointPlot::XY) return toSingle(number);
+    return toSingle(toldDegrees(messages_, number, KelvoSub::DmsToDeg(number)));
 }
 
 void PlotSettingsPanel::showAngles(const PlotScale& scale) {
@@ -52,7 +66,7 @@ void PlotSettingsPanel::showAngles(const PlotScale& scale) {
     on_.lblY.setCaption("경도(ddd.mmss)");
     const auto boxes = on_.scaleBoxes();
     for (std::size_t i = 0; i < boxes.size(); ++i) {
-        const double dms = KelvoSub::DegToDms(double{scale.*kFields[i]}, messages_);
+        const double dms = KelvoSub::DegToDms(double{scale.*kFields[i]});
         boxes[i]->setText(genSub::FormatNum(dms, 3, 4));
     }
 }
@@ -98,7 +112,7 @@ void PlotSettingsPanel::SavePcfgFile() {
     const auto boxes = on_.scaleBoxes();
     for (std::size_t i = 0; i < boxes.size(); ++i) {
         const double number = strictNumberOf(*boxes[i]);
-        if (scale != nullptr) scale->*kFields[i] = scaleValueOf(number, cfg.PlotKind, messages_);
+        if (scale != nullptr) scale->*kFields[i] = valueOf(number, cfg.PlotKind);
     }
     cfg.PlotManual = on_.optAuto.value() ? 0 : 1;
     cfg.PlotFontSize = toSingle(strictNumberOf(on_.txtFontSize));

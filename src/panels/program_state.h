@@ -4,9 +4,9 @@
 #include <array>
 #include <string>
 
+#include "batch/conversion_state.h"
+#include "batch/trans_para.h"
 #include "common/disk.h"
-#include "common/trans_para.h"
-#include "correction/run_report.h"
 #include "plot/plot_cfg.h"
 
 namespace kelvo {

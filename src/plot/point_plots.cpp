@@ -5,7 +5,6 @@
 
 #include "common/checked_arithmetic.h"
 #include "common/fixed_width.h"
-#include "common/number_text.h"
 #include "common/text_constants.h"
 #include "common/utf8.h"
 #include "geodesy/angle_forms.h"
@@ -49,24 +48,10 @@ void scaleAutomatically(const PlotFields& fields, PlotSource& source) {
     const std::array<float, 4> values{G.Xb, G.Yb, G.Span, G.Inter};
     for (std::size_t i = 0; i < values.size(); ++i) {
         const auto v = static_cast<double>(values[i]);
-        texts[i] = fields.angles
-                       ? FormatNum(KelvoSub::DegToDms((v + 0.1) / 3600, source.messages), 4, 4)
-                       : FormatNum(v, 7, 0);
+        texts[i] = fields.angles ? FormatNum(KelvoSub::DegToDms((v + 0.1) / 3600), 4, 4)
+                                 : FormatNum(v, 7, 0);
     }
-    const PointPlot kind = source.cfg.PlotKind;
-    if (source.panel.chosenKind() == kind) {
-        source.panel.showScale(texts);
-        source.panel.SavePcfgFile();
-        return;
-    }
-    // The boxes show the scale of another kind, which was chosen and not applied yet.
-    const auto read = [&](const std::string& text) {
-        return scaleValueOf(strictNumber(text), kind, source.messages);
-    };
-    G = {.Xb = read(texts[0]),
-         .Yb = read(texts[1]),
-         .Span = read(texts[2]),
-         .Inter = read(texts[3])};
+    source.panel.takeScale(source.cfg.PlotKind, texts);
 }
 
 // The values of the grid lines from `begin` over the span; nothing if there are too many of them
@@ -87,11 +72,10 @@ std::optional<std::vector<double>> gridValues(float begin, const PlotScale& G, b
     return values;
 }
 
-std::string labelOf(double v, const PlotFields& fields, PlotSource& source) {
+std::string labelOf(double v, const PlotFields& fields) {
     if (!fields.angles) return FormatNum(v, 7, 0);
     // The last four columns of the degrees, the minutes and the whole seconds.
-    return std::string(
-        middleOf(KelvoSub::AngleText(v + 0.00001, kAngleHyphens, source.messages), 5, 10));
+    return std::string(middleOf(KelvoSub::AngleText(v + 0.00001, AngleForm::Hyphens), 5, 10));
 }
 
 void drawGrid(clsplot1& object, const PlotFields& fields, PlotSource& source) {
@@ -106,11 +90,11 @@ void drawGrid(clsplot1& object, const PlotFields& fields, PlotSource& source) {
     for (const double v : *norths) {
         object.pline(Yb - 0.03 * S, v, Yb + 1.03 * S, v, 1);
         const double k = v == Xb ? 0.01 : 0.06;
-        object.ptext(labelOf(v, fields, source), Yb - k * S, v + 0.005 * S, size);
+        object.ptext(labelOf(v, fields), Yb - k * S, v + 0.005 * S, size);
     }
     for (const double v : *easts) {
         object.pline(v, Xb - 0.03 * S, v, Xb + 1.03 * S, 1);
-        object.ptextR(labelOf(v, fields, source), v - 0.03 * S, Xb - 0.06 * S, 90, size);
+        object.ptextR(labelOf(v, fields), v - 0.03 * S, Xb - 0.06 * S, 90, size);
     }
 }
 
@@ -173,10 +157,6 @@ void plotPoints(clsplot1& object, const PlotFields& fields, PlotSource& source) 
 }
 
 }  // namespace
-
-float scaleValueOf(double number, PointPlot kind, MessageBoxes& messages) {
-    return toSingle(kind == PointPlot::XY ? number : KelvoSub::DmsToDeg(number, messages));
-}
 
 void plot(clsplot1& object, SurfaceKind kind, Surface& surface, PlotSource& source) {
     const int number = static_cast<int>(kind);

@@ -14,21 +14,14 @@ class clsplot1;
 class Surface;
 enum class SurfaceKind;
 
-// What a plot asks of the scale panel: the four boxes show an automatic scale, and saving reads
-// them back into the settings (with the rounding of their text).
+// What a plot asks of the scale panel.
 class ScalePanel {
 public:
     virtual ~ScalePanel() = default;
-    // Texts in the order txtXb, txtYb, txtSpan, txtInter.
-    virtual void showScale(const std::array<std::string, 4>& texts) = 0;
-    virtual void SavePcfgFile() = 0;
-    // The kind whose option is on; the boxes belong to it. It may differ from the kind drawn.
-    [[nodiscard]] virtual PointPlot chosenKind() const = 0;
+    // An automatic scale of the kind that is being drawn: the texts for txtXb, txtYb, txtSpan,
+    // txtInter. They go into the settings with the rounding of the texts.
+    virtual void takeScale(PointPlot drawn, const std::array<std::string, 4>& texts) = 0;
 };
-
-// A number of the four boxes as the settings hold it: metres, or decimal degrees for the ddd.mmss
-// of the angle plots.
-[[nodiscard]] float scaleValueOf(double number, PointPlot kind, MessageBoxes& messages);
 
 // What stands in the picture beside the points.
 struct PlotTexts {

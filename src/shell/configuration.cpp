@@ -5,7 +5,7 @@
 #include <string_view>
 #include <variant>
 
-#include "batch/run_batch.h"
+#include "batch/sample_data.h"
 #include "common/checked_arithmetic.h"
 #include "common/code_page.h"
 #include "common/number_text.h"
@@ -22,7 +22,9 @@ constexpr std::size_t kMostRecent = 5;
 
 // A number of the parameter set, and whether its line of the file ends behind it.
 struct StoredNumber {
-    std::variant<double TransPara::*, std::int16_t TransPara::*> field;
+    std::variant<double TransPara::*, ShiftKind TransPara::*, TmZone TransPara::*,
+                 UtmZone TransPara::*>
+        field;
     bool lineEnds = false;
 };
 
@@ -37,6 +39,22 @@ constexpr std::array<StoredNumber, 27> kNumbers{{
     {&TransPara::UZone, true}, {&TransPara::UPhi0},      {&TransPara::ULam0, true},
     {&TransPara::UX0},         {&TransPara::UY0, true},  {&TransPara::US0, true},
 }};
+
+double numberOf(double value) {
+    return value;
+}
+template <class Named>
+double numberOf(Named value) {
+    return static_cast<std::int16_t>(value);
+}
+void assign(double& field, double value) {
+    field = value;
+}
+// Any 16-bit number, also one without a name.
+template <class Named>
+void assign(Named& field, double value) {
+    field = Named{roundedInteger16(value)};
+}
 
 // One line of items, each at the start of a zone.
 class ZonedLine {
@@ -57,16 +75,13 @@ void readParameters(TextReader& file, ProgramState& state) {
     file.readTextItem(Cfg.Editor);
     for (const StoredNumber& stored : kNumbers) {
         const double value = file.readNumber();
-        if (const auto* wide = std::get_if<double TransPara::*>(&stored.field))
-            Cfg.** wide = value;
-        else
-            Cfg.*std::get<std::int16_t TransPara::*>(stored.field) = roundedInteger16(value);
+        std::visit([&](auto field) { assign(Cfg.*field, value); }, stored.field);
     }
     FieldStore& fields = state.conversion.fields;
     file.readLine(fields.LineBuf);
     genSub::ParseFields(fields, 2);
-    Cfg.AddFlag = roundedInteger16(double{fields.FieldSng(1)});
-    Cfg.CorrFlag = roundedInteger16(double{fields.FieldSng(2)});
+    assign(Cfg.AddFlag, double{fields.FieldSng(1)});
+    assign(Cfg.CorrFlag, double{fields.FieldSng(2)});
 }
 
 void readRecentFiles(TextReader& file, ProgramState& state, Disk& disk, int& count) {
@@ -85,17 +100,14 @@ std::string configurationText(const TransPara& Cfg, std::string_view flagGap) {
     std::string text = Cfg.Editor + std::string(kLineEnd);
     ZonedLine line;
     for (const StoredNumber& stored : kNumbers) {
-        if (const auto* wide = std::get_if<double TransPara::*>(&stored.field))
-            line.number(Cfg.**wide);
-        else
-            line.number(Cfg.*std::get<std::int16_t TransPara::*>(stored.field));
+        std::visit([&](auto field) { line.number(numberOf(Cfg.*field)); }, stored.field);
         if (!stored.lineEnds) continue;
         text.append(line.line()).append(kLineEnd);
         line = {};
     }
-    line.number(Cfg.AddFlag);
+    line.number(numberOf(Cfg.AddFlag));
     line.text(flagGap);
-    line.number(Cfg.CorrFlag);
+    line.number(numberOf(Cfg.CorrFlag));
     return text.append(line.line()).append(kLineEnd);
 }
 
@@ -113,27 +125,15 @@ void writeFirstConfiguration(ProgramState& state, Disk& disk) {
 
 void fillFirstStart(TransPara& Cfg) {
     Cfg.Editor = kFileNamesIgnoreCase ? "Notepad.exe" : "xdg-open";
-    Cfg.dX = 115.8;
-    Cfg.dY = -474.99;
-    Cfg.dZ = -674.11;
-    Cfg.Omega = 1.16;
-    Cfg.Phi = -2.31;
-    Cfg.Kappa = -1.63;
-    Cfg.dS = -6.43;
-    Cfg.Kind = 0;
-    Cfg.a = 6377397.155;
-    Cfg.f = 299.1528128;
-    Cfg.Zone = 2;
-    Cfg.Phi0 = 0;
-    Cfg.Lam0 = 129;
-    Cfg.X0 = 0;
-    Cfg.Y0 = 500000;
-    Cfg.S0 = 0.9996;
-    Cfg.Ua = 6377397.155;
-    Cfg.Uf = 299.1528128;
-    Cfg.UZone = 2;
-    Cfg.AddFlag = 1;
-    Cfg.CorrFlag = 0;
+    setShift(Cfg, kRecommendedShift);
+    Cfg.Kind = ShiftKind{0};  // required: what the panel shows as Bursa
+    setUserEllipsoid(Cfg, kBesselOfParameters);
+    Cfg.Zone = TmZone::Centre;
+    setTmOrigin(Cfg, originOf(UtmZone::East));
+    setUtmEllipsoid(Cfg, kBesselOfParameters);
+    Cfg.UZone = UtmZone::East;
+    Cfg.AddFlag = Flag::On;
+    Cfg.CorrFlag = Flag::Off;
 }
 
 int readConfiguration(ProgramState& state, Disk& disk) {

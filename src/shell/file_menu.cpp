@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "batch/run_batch.h"
+#include "batch/sample_data.h"
 #include "common/letter_case.h"
 #include "common/paths.h"
 #include "common/text_constants.h"

@@ -1,5 +1,6 @@
 #include "shell/saved_results.h"
 
+#include "batch/wording.h"
 #include "common/checked_arithmetic.h"
 #include "common/fixed_width.h"
 #include "geodesy/angle_forms.h"
@@ -32,7 +33,8 @@ SavedResults::SavedResults(const MenuControls& menus, const ParameterControls& p
 }
 
 std::string SavedResults::dms(const Control& box) {
-    const DegreesMinutesSeconds angle = KelvoSub::DegToDmsParts(strictNumberOf(box), messages_);
+    const double x = strictNumberOf(box);
+    const DegreesMinutesSeconds angle = toldParts(messages_, x, KelvoSub::DegToDmsParts(x));
     return genSub::FormatNum(static_cast<double>(angle.D), 4, 0) + "-" +
            genSub::FormatNum(static_cast<double>(angle.M), 2, 0) + "-" +
            genSub::FormatNum(angle.S, 2, 4);

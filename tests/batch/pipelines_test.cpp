@@ -17,8 +17,8 @@ constexpr double kAddedSeconds = 10.405 / 3600;
 class Pipelines : public ::testing::Test {
 protected:
     Position fromTm(const PointRec& row, double Lam0) {
-        return KelvoSub::TMToGeo(row.TmX, row.TmY, kUserBessel, {500000, 200000, 38, Lam0, 1},
-                                 bench.messages);
+        return KelvoSub::TMToGeo(row.TmX, row.TmY, kUserBessel, {500000, 200000, 38, Lam0, 1})
+            .value;
     }
     double geoid(const PointRec& row) {
         return KelvoSub::GeoidHeightBessel(bench.state.datum.geoid, row.UserPhi, row.UserLam);

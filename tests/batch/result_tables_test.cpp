@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "batch/batch_run.h"
+#include "batch/run_defaults.h"
 #include "common/fixed_width.h"
 #include "geodesy/transverse_mercator.h"
 #include "support/batch_bench.h"
@@ -36,7 +36,9 @@ protected:
         written.bench.state.points.PointCount = 1;
         fill(written.bench.state.points.row(1));
         TextWriter out(written.bench.disk, "/job/a.out");
-        PrintResultTables(written.bench.state.points, out, 3, written.para, written.bench.messages);
+        int row = 0;
+        PrintResultTables(written.bench.state.points, out, AngleForm::Hyphens, written.para,
+                          written.bench.messages, row);
         out.close();
         return written;
     }
@@ -80,7 +82,7 @@ TEST_F(ResultTables, TheFifthTableComputesUtmOnWgs84) {
     EXPECT_NEAR(row.WgsUtmY, 279006.494235, 0.0005);
     EXPECT_EQ(row.WgsUtmH, 7.25) << "the height of the TM table";
     EXPECT_EQ(written.bench.table(5)[0].substr(48), "       7.2500");
-    EXPECT_EQ(written.para.UZone, 2);
+    EXPECT_EQ(written.para.UZone, UtmZone::East);
 }
 
 TEST_F(ResultTables, TheFifthTableChoosesItsOriginByTheWgsLongitude) {
@@ -89,7 +91,7 @@ TEST_F(ResultTables, TheFifthTableChoosesItsOriginByTheWgsLongitude) {
         row.WgsLam = 125.999;
         row.UserLam = 126.001;
     });
-    EXPECT_EQ(written.para.UZone, 1) << "and leaves it in the parameters";
+    EXPECT_EQ(written.para.UZone, UtmZone::West) << "and leaves it in the parameters";
     EXPECT_EQ(written.para.ULam0, 123);
     EXPECT_GT(written.bench.row(1).WgsUtmY, 700000);
 }
@@ -107,7 +109,8 @@ TEST_F(ResultTables, WithoutPointsTitlesAndHeadingsStillAppear) {
     BatchBench bench;
     TransPara para = runDefaults();
     TextWriter out(bench.disk, "/job/a.out");
-    PrintResultTables(bench.state.points, out, 3, para, bench.messages);
+    int row = 0;
+    PrintResultTables(bench.state.points, out, AngleForm::Hyphens, para, bench.messages, row);
     out.close();
     EXPECT_EQ(bench.out().size(), 17U);
     EXPECT_EQ(bench.out().back(), "");

@@ -1,5 +1,5 @@
 // The sample data file line by line: its fixed lines, its prose, its form as bytes.
-#include "batch/run_batch.h"
+#include "batch/sample_data.h"
 
 #include <gtest/gtest.h>
 

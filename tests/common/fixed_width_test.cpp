@@ -8,6 +8,7 @@
 namespace kelvo {
 namespace {
 
+using genSub::Align;
 using genSub::Blanks;
 using genSub::DisplayLen;
 using genSub::FormatNum;
@@ -96,30 +97,30 @@ TEST(FormatNum, TheAppendingFormGivesTheSameText) {
 }
 
 TEST(FormatText, FillsOrCutsToTheWidth) {
-    EXPECT_EQ(FormatText("abc", 10, 0), "abc       ");
-    EXPECT_EQ(FormatText("abc", 10, 1), "       abc");
-    EXPECT_EQ(FormatText("abc", 10, 2), "abc");
-    EXPECT_EQ(FormatText("abcdefghijk", 10, 0), "abcdefghij");
-    EXPECT_EQ(FormatText("", 4, 1), "    ");
-    EXPECT_EQ(FormatText("abc", 0, 0), "");
+    EXPECT_EQ(FormatText("abc", 10, Align::Left), "abc       ");
+    EXPECT_EQ(FormatText("abc", 10, Align::Right), "       abc");
+    EXPECT_EQ(FormatText("abc", 10, Align{2}), "abc");
+    EXPECT_EQ(FormatText("abcdefghijk", 10, Align::Left), "abcdefghij");
+    EXPECT_EQ(FormatText("", 4, Align::Right), "    ");
+    EXPECT_EQ(FormatText("abc", 0, Align::Left), "");
 }
 
 TEST(FormatText, ASixLetterHangulNameKeepsFiveLettersInTenColumns) {
-    EXPECT_EQ(FormatText("가나다라마바", 10, 0), "가나다라마");
+    EXPECT_EQ(FormatText("가나다라마바", 10, Align::Left), "가나다라마");
 }
 
 TEST(FormatText, ALetterThatWouldCrossTheLimitLeavesABlank) {
-    EXPECT_EQ(FormatText("a가나다라마", 10, 0), "a가나다라 ");
-    EXPECT_EQ(FormatText("a가나다라마", 10, 1), " a가나다라");
-    EXPECT_EQ(FormatText("a가나다라마", 10, 2), "a가나다라");
-    EXPECT_EQ(FormatText("가", 1, 0), " ");
+    EXPECT_EQ(FormatText("a가나다라마", 10, Align::Left), "a가나다라 ");
+    EXPECT_EQ(FormatText("a가나다라마", 10, Align::Right), " a가나다라");
+    EXPECT_EQ(FormatText("a가나다라마", 10, Align{2}), "a가나다라");
+    EXPECT_EQ(FormatText("가", 1, Align::Left), " ");
 }
 
 TEST(FormatText, EveryWidthOfEveryPrefixComesOutExactlyThatWide) {
     const std::string name = "인천No-3부두";
     for (int width = 0; width <= 14; ++width) {
-        EXPECT_EQ(DisplayLen(FormatText(name, width, 0)), width);
-        EXPECT_EQ(DisplayLen(FormatText(name, width, 1)), width);
+        EXPECT_EQ(DisplayLen(FormatText(name, width, Align::Left)), width);
+        EXPECT_EQ(DisplayLen(FormatText(name, width, Align::Right)), width);
     }
 }
 

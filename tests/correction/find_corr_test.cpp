@@ -1,23 +1,19 @@
+#include "correction/find_corr.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
-
-#include "common/number_text.h"
-#include "correction/run_report.h"
-#include "support/faults.h"
-#include "support/memory_disk.h"
-#include "support/recording_messages.h"
+#include <random>
+#include <vector>
 
 namespace kelvo {
 namespace {
 
-using testing::faultOf;
-
 class FindCorr : public ::testing::Test {
 protected:
     void add(double WgsPhi, double WgsLam, double DPhi, double DLam, double DH, float weight = 1) {
-        auto& point = state.known.CorrPoints[static_cast<std::size_t>(++state.known.CorrCount)];
-        point.Name = "known" + std::to_string(state.known.CorrCount);
+        CorrPoint& point = known.emplace_back();
+        point.Name = "known" + std::to_string(known.size());
         point.WgsPhi = WgsPhi;
         point.WgsLam = WgsLam;
         point.DPhi = DPhi;
@@ -25,19 +21,16 @@ protected:
         point.DH = DH;
         point.Weight = weight;
     }
-    Correction at(double Phi, double Lam, int flag = 1, int row = 1) {
-        TextWriter det(disk, "/det");
-        const Correction found = findCorr(state, det, Phi, Lam, 3, row, flag, messages);
-        det.close();
-        return found;
+    [[nodiscard]] Correction at(double Phi, double Lam) const {
+        const FoundCorrection found = findCorr(known, Position{Phi, Lam});
+        EXPECT_EQ(found.failure, NoCorrection::None);
+        return found.value;
     }
-    int faultAt(double Phi, double Lam) {
-        return faultOf([&] { return at(Phi, Lam); });
+    [[nodiscard]] NoCorrection failureAt(double Phi, double Lam) const {
+        return findCorr(known, Position{Phi, Lam}).failure;
     }
 
-    ConversionState state;
-    testing::MemoryDisk disk;
-    testing::RecordingMessages messages;
+    std::vector<CorrPoint> known;
 };
 
 TEST_F(FindCorr, OnAKnownPointItsMissesComeOut) {
@@ -48,7 +41,6 @@ TEST_F(FindCorr, OnAKnownPointItsMissesComeOut) {
     EXPECT_NEAR(found.DPhi, 0.001, 1e-12);
     EXPECT_NEAR(found.DLam, -0.002, 1e-12);
     EXPECT_NEAR(found.DH, 0.5, 1e-10);
-    EXPECT_FLOAT_EQ(state.known.CorrPoints[1].W, 1e16F);
 }
 
 TEST_F(FindCorr, TwoKnownPointsAtOneDistanceGiveThePlainMean) {
@@ -92,21 +84,6 @@ TEST_F(FindCorr, TheWeightIsRoundedToASingleBeforeItIsUsed) {
     const double w1 = weight(static_cast<double>(0.1F), 37.1 - 37, 127.3 - 127);
     const double w2 = weight(static_cast<double>(0.3F), 36.8 - 37, 127.7 - 127);
     EXPECT_EQ(found.DPhi, w1 / (w1 + w2));
-    EXPECT_EQ(state.known.CorrPoints[1].W, static_cast<float>(w1));
-}
-
-TEST_F(FindCorr, WithTheFlagClearAllIsZeroAndNoRowIsWritten) {
-    add(37, 127, 0.001, -0.002, 0.5);
-    const Correction found = at(37, 127, 0);
-    EXPECT_EQ(found.DPhi, 0);
-    EXPECT_EQ(found.DLam, 0);
-    EXPECT_EQ(found.DH, 0);
-    EXPECT_EQ(disk.bytes("/det"), "");
-}
-
-TEST_F(FindCorr, AnyOtherFlagCorrects) {
-    add(37, 127, 0.001, -0.002, 0.5);
-    EXPECT_NEAR(at(37, 127, -3).DPhi, 0.001, 1e-15);
 }
 
 TEST_F(FindCorr, AKnownPointOfWeightZeroHasNoInfluenceEvenAtDistanceZero) {
@@ -118,7 +95,7 @@ TEST_F(FindCorr, AKnownPointOfWeightZeroHasNoInfluenceEvenAtDistanceZero) {
     EXPECT_DOUBLE_EQ(found.DH, 0.5);
 }
 
-TEST_F(FindCorr, AMissOfHeightOfExactlyZeroHasNoSayInTheHeight) {
+TEST_F(FindCorr, AMissOfHeightOfExactlyZeroCountsAsNotKnown) {
     add(37, 126.75, 0.001, 0, 0);
     add(37, 127.25, 0.003, 0, 2);
     const Correction found = at(37, 127);
@@ -126,45 +103,77 @@ TEST_F(FindCorr, AMissOfHeightOfExactlyZeroHasNoSayInTheHeight) {
     EXPECT_DOUBLE_EQ(found.DH, 2);
 }
 
-TEST_F(FindCorr, WithoutAUsableWeightItFaults) {
-    EXPECT_EQ(faultAt(37, 127), 6) << "no known point";
+TEST_F(FindCorr, WithoutAUsableWeightThereIsNone) {
+    EXPECT_EQ(failureAt(37, 127), NoCorrection::NoWeight) << "no known point";
     add(37.2, 127.2, 0.001, 0.002, 0.5, 0);
-    EXPECT_EQ(faultAt(37, 127), 6);
+    EXPECT_EQ(failureAt(37, 127), NoCorrection::NoWeight);
     add(37.3, 127.2, 0.001, 0.002, 0.5, 1e-44F);
-    EXPECT_EQ(faultAt(-60, -127), 6) << "the weight underflows";
+    EXPECT_EQ(failureAt(-60, -127), NoCorrection::NoWeight) << "the weight underflows";
+    EXPECT_EQ(findCorr(known, Position{37, 127}).fault, Fault::Overflow) << "0/0";
 }
 
-TEST_F(FindCorr, WithoutAnyHeightItFaults) {
+TEST_F(FindCorr, WeightsThatCancelAreADivisionByZero) {
+    add(37, 126.75, 0.001, 0, 1, 1);
+    add(37, 127.25, 0.003, 0, 1, -1);
+    const FoundCorrection found = findCorr(known, Position{37, 127});
+    EXPECT_EQ(found.failure, NoCorrection::NoWeight);
+    EXPECT_EQ(found.fault, Fault::DivisionByZero);
+}
+
+TEST_F(FindCorr, WithoutAnyHeightThereIsNone) {
     add(37.2, 127.2, 0.001, 0.002, 0);
-    EXPECT_EQ(faultAt(37, 127), 6);
-    EXPECT_EQ(disk.bytes("/det"), "");
+    EXPECT_EQ(failureAt(37, 127), NoCorrection::NoHeight);
 }
 
-TEST_F(FindCorr, AWeightBeyondASingleFaults) {
+TEST_F(FindCorr, AWeightBeyondASingleIsNamedWithItsPoint) {
+    add(36, 126, 0.001, 0.002, 1);
     add(37, 127, 0.001, 0.002, 1, 3.3e22F);
-    EXPECT_EQ(faultAt(37, 127), 0);
-    state.known.CorrPoints[1].Weight = 3.5e22F;
-    EXPECT_EQ(faultAt(37, 127), 6);
-    state.known.CorrPoints[1].Weight = 1;
-    EXPECT_EQ(faultAt(37, 127 + 1e-10), 6) << "very near, and not on the point";
-    EXPECT_EQ(faultAt(37, 127 + 3e-10), 0);
+    EXPECT_EQ(failureAt(37, 127), NoCorrection::None);
+    known[1].Weight = 3.5e22F;
+    const FoundCorrection found = findCorr(known, Position{37, 127});
+    EXPECT_EQ(found.failure, NoCorrection::WeightTooLarge);
+    EXPECT_EQ(found.known, 1U);
+    EXPECT_NEAR(found.weight, 3.5e38, 1e33);
+    known[1].Weight = 1;
+    EXPECT_EQ(failureAt(37, 127 + 1e-10), NoCorrection::WeightTooLarge)
+        << "very near, and not on the point";
+    EXPECT_EQ(failureAt(37, 127 + 3e-10), NoCorrection::None);
 }
 
-TEST_F(FindCorr, TheRowShowsTheNameOfTheTableRowAndTheCorrection) {
-    state.points.row(7).name = "가나다라마바";
-    add(35, 127, 3.0 / 3600, -4.0 / 3600, -0.5);
-    (void)at(35, 127, 1, 7);
-    // 3 seconds of 30.8136 m and 4 seconds of 25.3548 m
-    const std::string row = disk.text("/det");
-    const std::string head =
-        "가나다라마                    0-00-03.0000      -0-00-04.0000      -0.5000    L =";
-    EXPECT_EQ(row.substr(0, head.size()), head);
-    const double L = std::sqrt(std::pow(3 * 30.8136, 2) + std::pow(4 * 25.3548, 2));
-    EXPECT_NEAR(leadingNumber(row.substr(head.size())), L, 3e-4);
-    EXPECT_EQ(row.size(), head.size() + 9 + 2);
-    (void)at(35, 127, 1, 0);
-    EXPECT_EQ(disk.text("/det").substr(0, 12), "            ");
-    EXPECT_EQ(faultOf([&] { return at(35, 127, 1, 10001); }), 9);
+TEST_F(FindCorr, ADistanceBeyondADoubleIsAWeightTooLargeAndNotANearlyZeroOne) {
+    add(37, 127, 0.001, 0.002, 1);
+    EXPECT_EQ(failureAt(1e78, 127), NoCorrection::WeightTooLarge);
+    EXPECT_EQ(failureAt(37, 1e200), NoCorrection::WeightTooLarge);
+}
+
+TEST_F(FindCorr, AMeanThatOverflowsIsTooLarge) {
+    add(37.1, 127, 1e305, 0, 1);
+    EXPECT_EQ(failureAt(37, 127), NoCorrection::TooLarge);
+}
+
+TEST_F(FindCorr, ManyPositionsAtOnceGiveTheVeryNumbersOfEachByItself) {
+    std::mt19937_64 random(3);
+    std::uniform_real_distribution<double> phi(33, 39);
+    std::uniform_real_distribution<double> lam(124, 132);
+    std::uniform_real_distribution<double> miss(-1e-4, 1e-4);
+    for (int i = 0; i < 200; ++i)
+        add(phi(random), lam(random), miss(random), miss(random), i % 7 == 0 ? 0 : miss(random),
+            static_cast<float>(i % 5));
+    std::vector<Position> positions;
+    for (int i = 0; i < 333; ++i) positions.push_back({phi(random), lam(random)});
+    positions[40] = {known[17].WgsPhi, known[17].WgsLam};
+    positions[41] = {known[18].WgsPhi, known[18].WgsLam + 1e-10};
+    std::vector<FoundCorrection> together(positions.size());
+    findCorr(known, positions, together);
+    for (std::size_t i = 0; i < positions.size(); ++i) {
+        const FoundCorrection alone = findCorr(known, positions[i]);
+        EXPECT_EQ(together[i].failure, alone.failure) << i;
+        EXPECT_EQ(together[i].value.DPhi, alone.value.DPhi) << i;
+        EXPECT_EQ(together[i].value.DLam, alone.value.DLam) << i;
+        EXPECT_EQ(together[i].value.DH, alone.value.DH) << i;
+    }
+    EXPECT_EQ(together[41].failure, NoCorrection::WeightTooLarge);
+    EXPECT_EQ(together[41].known, 18U);
 }
 
 }  // namespace

@@ -22,21 +22,16 @@ public:
     void start(const std::string&) override {}
     void print(const std::string&) override {}
     void setBusy(bool) override {}
-    void showScale(const std::array<std::string, 4>& texts) override { boxes_ = texts; }
-    PointPlot chosenKind() const override { return cfg.PlotKind; }
-    void SavePcfgFile() override {
-        if (boxes_[0].empty()) return;
-        const auto read = [this](const std::string& box) {
-            return scaleValueOf(strictNumber(box), cfg.PlotKind, *this);
+    void takeScale(PointPlot drawn, const std::array<std::string, 4>& texts) override {
+        const auto read = [drawn](const std::string& box) {
+            const double number = strictNumber(box);
+            return static_cast<float>(drawn == PointPlot::XY ? number
+                                                             : KelvoSub::DmsToDeg(number).degrees);
         };
-        *cfg.scaleOf(cfg.PlotKind) = {read(boxes_[0]), read(boxes_[1]), read(boxes_[2]),
-                                      read(boxes_[3])};
+        *cfg.scaleOf(drawn) = {read(texts[0]), read(texts[1]), read(texts[2]), read(texts[3])};
     }
 
     PlotCfg cfg;
-
-private:
-    std::array<std::string, 4> boxes_;
 };
 
 // Points along a coast, in grid metres; the angles are near enough for a picture.

@@ -3,6 +3,7 @@
 #include <array>
 #include <charconv>
 #include <map>
+#include <type_traits>
 #include <utility>
 #include <variant>
 
@@ -29,6 +30,10 @@ std::string text(std::int16_t value) {
 std::string text(const std::string& value) {
     return value;
 }
+template <class Named>
+requires std::is_enum_v<Named> std::string text(Named value) {
+    return std::to_string(static_cast<std::int16_t>(value));
+}
 
 template <class Record, class... Types>
 using Fields = std::map<std::string, std::variant<Types Record::*...>, std::less<>>;
@@ -42,36 +47,37 @@ Value fieldOf(const Record& record, const Fields<Record, Types...>& fields, std:
 
 Value cfgValue(const TransPara& cfg, std::string_view name) {
     using P = TransPara;
-    static const Fields<P, std::string, double, std::int16_t> fields{{"Editor", &P::Editor},
-                                                                     {"dX", &P::dX},
-                                                                     {"dY", &P::dY},
-                                                                     {"dZ", &P::dZ},
-                                                                     {"Omega", &P::Omega},
-                                                                     {"Phi", &P::Phi},
-                                                                     {"Kappa", &P::Kappa},
-                                                                     {"dS", &P::dS},
-                                                                     {"Kind", &P::Kind},
-                                                                     {"dPhi", &P::dPhi},
-                                                                     {"dLam", &P::dLam},
-                                                                     {"dH", &P::dH},
-                                                                     {"a", &P::a},
-                                                                     {"f", &P::f},
-                                                                     {"Zone", &P::Zone},
-                                                                     {"Phi0", &P::Phi0},
-                                                                     {"Lam0", &P::Lam0},
-                                                                     {"X0", &P::X0},
-                                                                     {"Y0", &P::Y0},
-                                                                     {"S0", &P::S0},
-                                                                     {"Ua", &P::Ua},
-                                                                     {"Uf", &P::Uf},
-                                                                     {"UZone", &P::UZone},
-                                                                     {"UPhi0", &P::UPhi0},
-                                                                     {"ULam0", &P::ULam0},
-                                                                     {"UX0", &P::UX0},
-                                                                     {"UY0", &P::UY0},
-                                                                     {"US0", &P::US0},
-                                                                     {"AddFlag", &P::AddFlag},
-                                                                     {"CorrFlag", &P::CorrFlag}};
+    static const Fields<P, std::string, double, ShiftKind, TmZone, UtmZone, Flag> fields{
+        {"Editor", &P::Editor},
+        {"dX", &P::dX},
+        {"dY", &P::dY},
+        {"dZ", &P::dZ},
+        {"Omega", &P::Omega},
+        {"Phi", &P::Phi},
+        {"Kappa", &P::Kappa},
+        {"dS", &P::dS},
+        {"Kind", &P::Kind},
+        {"dPhi", &P::dPhi},
+        {"dLam", &P::dLam},
+        {"dH", &P::dH},
+        {"a", &P::a},
+        {"f", &P::f},
+        {"Zone", &P::Zone},
+        {"Phi0", &P::Phi0},
+        {"Lam0", &P::Lam0},
+        {"X0", &P::X0},
+        {"Y0", &P::Y0},
+        {"S0", &P::S0},
+        {"Ua", &P::Ua},
+        {"Uf", &P::Uf},
+        {"UZone", &P::UZone},
+        {"UPhi0", &P::UPhi0},
+        {"ULam0", &P::ULam0},
+        {"UX0", &P::UX0},
+        {"UY0", &P::UY0},
+        {"US0", &P::US0},
+        {"AddFlag", &P::AddFlag},
+        {"CorrFlag", &P::CorrFlag}};
     return fieldOf(cfg, fields, name);
 }
 

@@ -48,7 +48,7 @@ const Routines kRoutines = {
      [](RoutineBench&, Arguments& in, AnswerLine& out) {
          const std::string text = in.text();
          const int width = in.integer();
-         out.text(genSub::FormatText(text, width, in.integer()));
+         out.text(genSub::FormatText(text, width, genSub::Align{in.integer()}));
      }},
     {"FileExtensionOf", [](RoutineBench&, Arguments& in,
                            AnswerLine& out) { out.text(genSub::FileExtensionOf(in.text())); }},

@@ -1,10 +1,13 @@
 // The routines of KelvoSub, by name. An ellipsoid is a, f; a projection X0, Y0, Phi0, Lam0, S0.
+#include "batch/wording.h"
+#include "common/checked_arithmetic.h"
 #include "drivers/routine_bench.h"
 #include "geodesy/angle_forms.h"
 #include "geodesy/datum_shift.h"
 #include "geodesy/ellipsoid.h"
 #include "geodesy/geoid.h"
 #include "geodesy/transverse_mercator.h"
+#include "geodesy/zones.h"
 
 namespace kelvo::testing {
 
@@ -56,57 +59,71 @@ void shifted(RoutineBench& bench, Arguments& in, AnswerLine& out) {
     answer(out, shiftRoutine(bench.datum.shift, geocentric(in)));
 }
 
-template <Geographic (*chain)(const DatumShift&, double, double, double, MessageBoxes&)>
-void chained(RoutineBench& bench, Arguments& in, AnswerLine& out) {
-    const Geographic g = geographic(in);
-    answer(out, chain(bench.datum.shift, g.Phi, g.Lam, g.h, bench.messages));
+void answer(RoutineBench& bench, AnswerLine& out, const Guarded<Geographic>& result) {
+    answer(out, told(bench.messages, result, Remark::Kind::NotGeographic));
 }
 
-template <Geographic (*chain)(const DatumShift&, double, double, double, const Ellipsoid&,
-                              MessageBoxes&)>
+void answer(RoutineBench& bench, AnswerLine& out, const Guarded<GridPoint>& result) {
+    const GridPoint& grid = told(bench.messages, result, Remark::Kind::NotProjected);
+    out.number(grid.X).number(grid.Y);
+}
+
+void answer(RoutineBench& bench, AnswerLine& out, const Guarded<Position>& result) {
+    const Position& position = told(bench.messages, result, Remark::Kind::NotUnprojected);
+    out.number(position.Phi).number(position.Lam);
+}
+
+template <Guarded<Geographic> (*chain)(const DatumShift&, double, double, double)>
+void chained(RoutineBench& bench, Arguments& in, AnswerLine& out) {
+    const Geographic g = geographic(in);
+    answer(bench, out, chain(bench.datum.shift, g.Phi, g.Lam, g.h));
+}
+
+template <Guarded<Geographic> (*chain)(const DatumShift&, double, double, double, const Ellipsoid&)>
 void chainedWithEllipsoid(RoutineBench& bench, Arguments& in, AnswerLine& out) {
     const Geographic g = geographic(in);
-    answer(out, chain(bench.datum.shift, g.Phi, g.Lam, g.h, ellipsoid(in), bench.messages));
+    answer(bench, out, chain(bench.datum.shift, g.Phi, g.Lam, g.h, ellipsoid(in)));
 }
 
 void geoToTM(RoutineBench& bench, Arguments& in, AnswerLine& out) {
     const double Phi = in.number();
     const double Lam = in.number();
     const Ellipsoid e = ellipsoid(in);
-    const GridPoint grid = GeoToTM(Phi, Lam, e, projection(in), bench.messages);
-    out.number(grid.X).number(grid.Y);
+    answer(bench, out, GeoToTM(Phi, Lam, e, projection(in)));
 }
 
 void tmToGeo(RoutineBench& bench, Arguments& in, AnswerLine& out) {
     const double X = in.number();
     const double Y = in.number();
     const Ellipsoid e = ellipsoid(in);
-    const Position position = TMToGeo(X, Y, e, projection(in), bench.messages);
-    out.number(position.Phi).number(position.Lam);
+    answer(bench, out, TMToGeo(X, Y, e, projection(in)));
 }
 
 void besselToTM(RoutineBench& bench, Arguments& in, AnswerLine& out) {
     const double Phi = in.number();
     const double Lam = in.number();
     int zone = in.integer();
-    const GridPoint grid = BesselToTM(Phi, Lam, zone, in.number(), bench.messages);
-    out.integer(zone).number(grid.X).number(grid.Y);
+    const auto grid = BesselToTM(Phi, Lam, zone, in.number());
+    out.integer(zone);
+    answer(bench, out, grid);
 }
 
 void tmToBessel(RoutineBench& bench, Arguments& in, AnswerLine& out) {
     const double X = in.number();
     const double Y = in.number();
     int zone = in.integer();
-    const Position position = TMToBessel(X, Y, zone, in.number(), bench.messages);
-    out.integer(zone).number(position.Phi).number(position.Lam);
+    const auto position = TMToBessel(X, Y, zone, in.number());
+    out.integer(zone);
+    answer(bench, out, position);
 }
 
 void wgsToTM(RoutineBench& bench, Arguments& in, AnswerLine& out) {
     const Geographic g = geographic(in);
     int zone = in.integer();
-    const GridHeight grid =
-        WgsToTM(bench.datum.shift, g.Phi, g.Lam, g.h, zone, in.number(), bench.messages);
-    out.number(grid.X).number(grid.Y).number(grid.h);
+    const auto grid = WgsToTM(bench.datum.shift, g.Phi, g.Lam, g.h, zone, in.number());
+    tell(bench.messages, Remark::Kind::NotGeographic, grid.notGeographic ? 1 : 0);
+    tell(bench.messages, Remark::Kind::NotProjected, grid.notProjected ? 1 : 0);
+    out.number(grid.value.X).number(grid.value.Y).number(grid.value.h);
 }
 
 void tmToWgs(RoutineBench& bench, Arguments& in, AnswerLine& out) {
@@ -114,14 +131,17 @@ void tmToWgs(RoutineBench& bench, Arguments& in, AnswerLine& out) {
     const double Y = in.number();
     const double h = in.number();
     int zone = in.integer();
-    const Geographic g = TMToWgs(bench.datum.shift, X, Y, h, zone, in.number(), bench.messages);
-    answer(out, g);
+    const auto wgs = TMToWgs(bench.datum.shift, X, Y, h, zone, in.number());
+    tell(bench.messages, Remark::Kind::NotUnprojected, wgs.notProjected ? 1 : 0);
+    tell(bench.messages, Remark::Kind::NotGeographic, wgs.notGeographic ? 1 : 0);
+    answer(out, wgs.value);
 }
 
 void setDatumPara(RoutineBench& bench, Arguments& in, AnswerLine&) {
     double p[7];
     for (double& value : p) value = in.number();
-    SetDatumPara(bench.datum, p[0], p[1], p[2], p[3], p[4], p[5], p[6], in.integer());
+    const auto kind = ShiftKind{static_cast<std::int16_t>(in.integer())};
+    SetDatumPara(bench.datum, {p[0], p[1], p[2], p[3], p[4], p[5], p[6]}, kind);
 }
 
 void meridianArc(RoutineBench&, Arguments& in, AnswerLine& out) {
@@ -171,7 +191,7 @@ const Routines kRoutines = {
     {"XYZToGeo",
      [](RoutineBench& bench, Arguments& in, AnswerLine& out) {
          const Geocentric point = geocentric(in);
-         answer(out, XYZToGeo(point, ellipsoid(in), bench.messages));
+         answer(bench, out, XYZToGeo(point, ellipsoid(in)));
      }},
     {"SetDatumPara", setDatumPara},
     {"BursaForward", shifted<BursaForward>},
@@ -191,11 +211,9 @@ const Routines kRoutines = {
          answer(out, BesselToXYZ(g.Phi, g.Lam, g.h));
      }},
     {"XYZToWgs", [](RoutineBench& bench, Arguments& in,
-                    AnswerLine& out) { answer(out, XYZToWgs(geocentric(in), bench.messages)); }},
-    {"XYZToBessel",
-     [](RoutineBench& bench, Arguments& in, AnswerLine& out) {
-         answer(out, XYZToBessel(geocentric(in), bench.messages));
-     }},
+                    AnswerLine& out) { answer(bench, out, XYZToWgs(geocentric(in))); }},
+    {"XYZToBessel", [](RoutineBench& bench, Arguments& in,
+                       AnswerLine& out) { answer(bench, out, XYZToBessel(geocentric(in))); }},
     {"WgsToBessel", chained<WgsToBessel>},
     {"BesselToWgs", chained<BesselToWgs>},
     {"WgsToUser", chainedWithEllipsoid<WgsToUser>},
@@ -212,44 +230,55 @@ const Routines kRoutines = {
          const double Phi = in.number();
          out.number(GeoidHeightBessel(bench.datum.geoid, Phi, in.number()));
      }},
-    {"SplitDeg", [](RoutineBench& bench, Arguments& in,
-                    AnswerLine& out) { parts(out, SplitDeg(in.number(), bench.messages)); }},
-    {"ParseDms", [](RoutineBench& bench, Arguments& in,
-                    AnswerLine& out) { out.number(ParseDms(in.number(), bench.messages)); }},
-    {"DmsToDeg", [](RoutineBench& bench, Arguments& in,
-                    AnswerLine& out) { out.number(DmsToDeg(in.number(), bench.messages)); }},
-    {"DegToDms", [](RoutineBench& bench, Arguments& in,
-                    AnswerLine& out) { out.number(DegToDms(in.number(), bench.messages)); }},
-    {"DegToDmsParts",
-     [](RoutineBench& bench, Arguments& in, AnswerLine& out) {
-         parts(out, DegToDmsParts(in.number(), bench.messages));
-     }},
-    {"AngleText",
+    {"SplitDeg",
      [](RoutineBench& bench, Arguments& in, AnswerLine& out) {
          const double x = in.number();
-         out.text(AngleText(x, in.integer(), bench.messages));
+         parts(out, toldParts(bench.messages, x, SplitDeg(x)));
+     }},
+    {"ParseDms",
+     [](RoutineBench& bench, Arguments& in, AnswerLine& out) {
+         const double x = in.number();
+         out.number(toldDegrees(bench.messages, x, ParseDms(x)));
+     }},
+    {"DmsToDeg",
+     [](RoutineBench& bench, Arguments& in, AnswerLine& out) {
+         const double x = in.number();
+         out.number(toldDegrees(bench.messages, x, DmsToDeg(x)));
+     }},
+    {"DegToDms",
+     [](RoutineBench&, Arguments& in, AnswerLine& out) { out.number(DegToDms(in.number())); }},
+    {"DegToDmsParts",
+     [](RoutineBench& bench, Arguments& in, AnswerLine& out) {
+         const double x = in.number();
+         parts(out, toldParts(bench.messages, x, DegToDmsParts(x)));
+     }},
+    {"AngleText",
+     [](RoutineBench&, Arguments& in, AnswerLine& out) {
+         const double x = in.number();
+         out.text(AngleText(x, AngleForm{in.integer()}));
      }},
     {"ArcSecLen",
      [](RoutineBench& bench, Arguments& in, AnswerLine& out) {
          const double Phi = in.number();
-         const ArcSecLengths second = ArcSecLen(Phi, in.number(), bench.messages);
-         out.number(second.MPhi).number(second.MLam);
+         const ArcSecLengths second = ArcSecLen(Phi, in.number());
+         tell(bench.messages, Remark::Kind::NotProjected, second.unprojected);
+         out.number(finite(second.MPhi)).number(finite(second.MLam));
      }},
     {"chkZone",
      [](RoutineBench&, Arguments& in, AnswerLine& out) {
          const double lam = in.number();
-         auto Zone = static_cast<std::int16_t>(in.integer());
+         auto Zone = TmZone{static_cast<std::int16_t>(in.integer())};
          double Lam0 = in.number();
          chkZone(lam, Zone, Lam0);
-         out.integer(Zone).number(Lam0);
+         out.integer(static_cast<std::int16_t>(Zone)).number(Lam0);
      }},
     {"chkUZone",
      [](RoutineBench&, Arguments& in, AnswerLine& out) {
          const double lam = in.number();
-         auto UZone = static_cast<std::int16_t>(in.integer());
+         auto UZone = UtmZone{static_cast<std::int16_t>(in.integer())};
          double ULam0 = in.number();
          chkUZone(lam, UZone, ULam0);
-         out.integer(UZone).number(ULam0);
+         out.integer(static_cast<std::int16_t>(UZone)).number(ULam0);
      }},
 };
 

@@ -16,9 +16,9 @@ namespace {
 
 void checkCells(const std::string& text) {
     for (const int width : {0, 1, 2, 7, 10}) {
-        const std::string cell = genSub::FormatText(text, width, 0);
+        const std::string cell = genSub::FormatText(text, width, genSub::Align::Left);
         require(genSub::DisplayLen(cell) == width, "a cell has its width");
-        const std::string right = genSub::FormatText(text, width, 1);
+        const std::string right = genSub::FormatText(text, width, genSub::Align::Right);
         require(genSub::DisplayLen(right) == width, "a cell has its width");
     }
 }

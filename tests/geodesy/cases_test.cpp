@@ -35,6 +35,18 @@ TEST(CaseReader, TooFewOrTooManyNumbersFail) {
     EXPECT_EQ(runCases("tolerance 1 mm").complaints.size(), 1U);
 }
 
+TEST(CaseReader, AShiftThatIsIncompleteOrMissesItsPointFails) {
+    const std::string head = "tolerance 0.01 m\n";
+    EXPECT_EQ(runCases(head + "shift 1 2 3 0 0 0 0 1\nshifted 0 0 0 -> 1 2 3").complaints.size(),
+              0U);
+    EXPECT_EQ(runCases(head + "shift 1 2 3 0 0 0 0 1\nshifted 0 0 0 -> 1 2 4").complaints.size(),
+              1U);
+    EXPECT_EQ(runCases(head + "shift 1 2 3 0 0 0 0 1\nunshifted 1 2 3 -> 0 0 1").complaints.size(),
+              1U);
+    EXPECT_EQ(runCases("shift 1 2 3 0 0 0 0").complaints.size(), 1U);
+    EXPECT_EQ(runCases("heights 1 deg").complaints.size(), 1U);
+}
+
 TEST(CaseReader, AToleranceOfTheOtherUnitFails) {
     const std::string head = "ellipsoid 6378137 298.257\norigin 0 0 0 127 1\ntolerance 1 deg\n";
     EXPECT_EQ(runCases(head + "forward 0 127 -> 0 0").complaints.size(), 1U);

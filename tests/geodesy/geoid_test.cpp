@@ -15,7 +15,7 @@ using KelvoSub::GeoidHeightBessel;
 
 GeoidTables filled() {
     DatumState state;
-    KelvoSub::SetDatumPara(state, 0, 0, 0, 0, 0, 0, 0, 1);
+    KelvoSub::SetDatumPara(state, {}, ShiftKind::Molodensky);
     return state.geoid;
 }
 

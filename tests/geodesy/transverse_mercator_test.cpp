@@ -6,36 +6,29 @@
 
 #include <cmath>
 
-#include "support/recording_messages.h"
+#include "geodesy/national_grid.h"
+#include "geodesy/zones.h"
 
 namespace kelvo {
 namespace {
 
 using KelvoSub::GeoToTM;
 using KelvoSub::TMToGeo;
-using testing::RecordingMessages;
-
 constexpr Ellipsoid kUserBessel{6377397.155, 299.1528128};
 constexpr Projection kCentre{500000, 200000, 38, 127, 1};
-constexpr const char* kForwardMessage =
-    "직교좌표로 변환할 수 없는 데이터 입니다. 타원체 제원과 경위도를 확인후 다시 하십시오";
-constexpr const char* kBackwardMessage =
-    "경위도로 변환할 수 없는 직교좌표 입니다. 타원체 제원과 좌표를 확인후 다시 하십시오";
 
 TEST(GeoToTM, TheOriginGivesExactlyItsFalseCoordinates) {
-    RecordingMessages messages;
-    const GridPoint point = GeoToTM(38, 127, kUserBessel, kCentre, messages);
+    const GridPoint point = GeoToTM(38, 127, kUserBessel, kCentre).value;
     EXPECT_EQ(point.X, 500000);
     EXPECT_EQ(point.Y, 200000);
-    const Position back = TMToGeo(500000, 200000, kUserBessel, kCentre, messages);
+    const Position back = TMToGeo(500000, 200000, kUserBessel, kCentre).value;
     EXPECT_NEAR(back.Phi, 38, 1e-13);
     EXPECT_NEAR(back.Lam, 127, 1e-13);
 }
 
 TEST(GeoToTM, AFlatteningAndItsReciprocalGiveTheSame) {
-    RecordingMessages messages;
-    const GridPoint one = GeoToTM(37.5, 127.5, {6377397.155, 299.152813}, kCentre, messages);
-    const GridPoint other = GeoToTM(37.5, 127.5, {6377397.155, 1 / 299.152813}, kCentre, messages);
+    const GridPoint one = GeoToTM(37.5, 127.5, {6377397.155, 299.152813}, kCentre).value;
+    const GridPoint other = GeoToTM(37.5, 127.5, {6377397.155, 1 / 299.152813}, kCentre).value;
     EXPECT_EQ(one.X, other.X);
     EXPECT_EQ(one.Y, other.Y);
 }
@@ -53,56 +46,45 @@ TEST(NormFlat, AFlatteningOfExactlyOneStands) {
 }
 
 TEST(GeoToTM, WithoutALongitudeDifferenceTheEastingIsTheFalseOne) {
-    RecordingMessages messages;
     for (double phi = -80; phi <= 80; phi += 8.25) {
-        EXPECT_EQ(GeoToTM(phi, 127, kUserBessel, kCentre, messages).Y, 200000);
+        EXPECT_EQ(GeoToTM(phi, 127, kUserBessel, kCentre).value.Y, 200000);
     }
 }
 
 TEST(GeoToTM, IsEvenInTheLongitudeDifference) {
-    RecordingMessages messages;
-    const GridPoint east = GeoToTM(37.5, 128.25, kUserBessel, kCentre, messages);
-    const GridPoint west = GeoToTM(37.5, 125.75, kUserBessel, kCentre, messages);
+    const GridPoint east = GeoToTM(37.5, 128.25, kUserBessel, kCentre).value;
+    const GridPoint west = GeoToTM(37.5, 125.75, kUserBessel, kCentre).value;
     EXPECT_NEAR(east.X, west.X, 1e-8);
     EXPECT_NEAR(east.Y - 200000, 200000 - west.Y, 1e-8);
 }
 
-TEST(GeoToTM, AFaultTellsAndGivesTheFalseCoordinates) {
-    RecordingMessages messages;
-    const GridPoint point = GeoToTM(37.5, 127.5, {0, 299}, kCentre, messages);
-    EXPECT_EQ(point.X, 500000);
-    EXPECT_EQ(point.Y, 200000);
-    ASSERT_EQ(messages.texts(), std::vector<std::string>{kForwardMessage});
-    EXPECT_EQ(messages.shown[0].buttons, Buttons::Ok);
-    EXPECT_EQ(messages.shown[0].icon, Icon::None);
-    EXPECT_EQ(messages.shown[0].title, "");
+TEST(GeoToTM, DataThatCannotBeComputedFailsAndGivesTheFalseCoordinates) {
+    const auto point = GeoToTM(37.5, 127.5, {0, 299}, kCentre);
+    EXPECT_TRUE(point.failed);
+    EXPECT_EQ(point.value.X, 500000);
+    EXPECT_EQ(point.value.Y, 200000);
 }
 
-TEST(GeoToTM, AZeroScaleGivesTheFalseCoordinatesWithoutAMessage) {
-    RecordingMessages messages;
-    const GridPoint point =
-        GeoToTM(37.5, 127.5, kUserBessel, {500000, 200000, 38, 127, 0}, messages);
-    EXPECT_EQ(point.X, 500000);
-    EXPECT_EQ(point.Y, 200000);
-    EXPECT_TRUE(messages.shown.empty());
+TEST(GeoToTM, AZeroScaleGivesTheFalseCoordinatesWithoutFailing) {
+    const auto point = GeoToTM(37.5, 127.5, kUserBessel, {500000, 200000, 38, 127, 0});
+    EXPECT_FALSE(point.failed);
+    EXPECT_EQ(point.value.X, 500000);
+    EXPECT_EQ(point.value.Y, 200000);
 }
 
-TEST(TMToGeo, AZeroScaleTellsAndGivesTheOriginAsGiven) {
-    RecordingMessages messages;
-    const Position point =
-        TMToGeo(444627, 244207, kUserBessel, {500000, 200000, 38.25, 127.125, 0}, messages);
-    EXPECT_EQ(point.Phi, 38.25);
-    EXPECT_EQ(point.Lam, 127.125);
-    EXPECT_EQ(messages.texts(), std::vector<std::string>{kBackwardMessage});
+TEST(TMToGeo, AZeroScaleFailsAndGivesTheOriginAsGiven) {
+    const auto point = TMToGeo(444627, 244207, kUserBessel, {500000, 200000, 38.25, 127.125, 0});
+    EXPECT_TRUE(point.failed);
+    EXPECT_EQ(point.value.Phi, 38.25);
+    EXPECT_EQ(point.value.Lam, 127.125);
 }
 
 TEST(GeoToTM, AnyFinitePositionGivesFiniteNumbersOrTheMessage) {
     for (const double phi : {0.0, 45.0, 90.0, 90.5, 180.0, -1e4, 1e6, 1e15, 1e308}) {
         for (const double lam : {0.0, 127.0, -180.0, 1e6, 1e12, 1e200, -1e308}) {
-            RecordingMessages messages;
-            const GridPoint p = GeoToTM(phi, lam, kUserBessel, kCentre, messages);
+            const GridPoint p = GeoToTM(phi, lam, kUserBessel, kCentre).value;
             EXPECT_TRUE(std::isfinite(p.X) && std::isfinite(p.Y)) << phi << ' ' << lam;
-            const Position q = TMToGeo(phi * 1e5, lam * 1e5, kUserBessel, kCentre, messages);
+            const Position q = TMToGeo(phi * 1e5, lam * 1e5, kUserBessel, kCentre).value;
             EXPECT_TRUE(std::isfinite(q.Phi) && std::isfinite(q.Lam)) << phi << ' ' << lam;
         }
     }
@@ -112,11 +94,10 @@ TEST(GeoToTM, EllipsoidsThatMakeNoSenseNeverGiveInfinity) {
     for (const double a : {0.0, -1.0, 1e-300, 1e300, 6377397.155}) {
         for (const double f : {0.0, 1.0, 1e-300, 1e300, -1.0, 0.5, 2.0}) {
             for (const double S0 : {0.0, 1.0, -1.0, 1e-300, 1e300}) {
-                RecordingMessages messages;
                 const Projection p{500000, 200000, 38, 127, S0};
-                const GridPoint g = GeoToTM(37.5, 127.5, {a, f}, p, messages);
+                const GridPoint g = GeoToTM(37.5, 127.5, {a, f}, p).value;
                 EXPECT_TRUE(std::isfinite(g.X) && std::isfinite(g.Y)) << a << ' ' << f << ' ' << S0;
-                const Position q = TMToGeo(444627, 244207, {a, f}, p, messages);
+                const Position q = TMToGeo(444627, 244207, {a, f}, p).value;
                 EXPECT_TRUE(std::isfinite(q.Phi) && std::isfinite(q.Lam))
                     << a << ' ' << f << ' ' << S0;
             }
@@ -124,37 +105,42 @@ TEST(GeoToTM, EllipsoidsThatMakeNoSenseNeverGiveInfinity) {
     }
 }
 
-TEST(TMToGeo, AnOverflowIsNotHiddenByTheDivisionBehindIt) {
+TEST(TMToGeo, AnOverflowIsNotHiddenByTheDivisionAfterIt) {
     // the seventh power of such a radius is beyond a double, and its reciprocal would be 0
-    RecordingMessages messages;
-    const Position point = TMToGeo(444627, 244207, {1e50, 299}, kCentre, messages);
-    EXPECT_EQ(point.Phi, 38);
-    EXPECT_EQ(point.Lam, 127);
-    EXPECT_EQ(messages.texts(), std::vector<std::string>{kBackwardMessage});
-    for (const double S0 : {1e50, 1e-50}) {
-        messages.shown.clear();
-        (void)TMToGeo(444627, 244207, kUserBessel, {500000, 200000, 38, 127, S0}, messages);
-        EXPECT_EQ(messages.shown.size(), 1U) << S0;
-    }
+    const auto point = TMToGeo(444627, 244207, {1e50, 299}, kCentre);
+    EXPECT_TRUE(point.failed);
+    EXPECT_EQ(point.value.Phi, 38);
+    EXPECT_EQ(point.value.Lam, 127);
+    for (const double S0 : {1e50, 1e-50})
+        EXPECT_TRUE(TMToGeo(444627, 244207, kUserBessel, {500000, 200000, 38, 127, S0}).failed)
+            << S0;
 }
 
 TEST(TmGrid, KeptFromPointToPointGivesWhatAFreshOneGives) {
-    RecordingMessages messages;
-    TmGrid kept(kUserBessel, kCentre);
+    const TmGrid kept(kUserBessel, kCentre);
     for (const double Lam0 : {127.0, 129.25, 125.0, 127.0}) {
         Projection projection = kCentre;
         projection.Lam0 = Lam0;
-        kept.setCentralMeridian(Lam0);
-        const GridPoint fresh = GeoToTM(36.25, 128.5, kUserBessel, projection, messages);
-        const GridPoint again = GeoToTM(36.25, 128.5, kept, messages);
+        const GridPoint fresh = GeoToTM(36.25, 128.5, kUserBessel, projection).value;
+        const GridPoint again = GeoToTM(36.25, 128.5, kept, Lam0).value;
         EXPECT_EQ(again.X, fresh.X);
         EXPECT_EQ(again.Y, fresh.Y);
+        const Position back = TMToGeo(fresh.X, fresh.Y, kUserBessel, projection).value;
+        const Position backAgain = TMToGeo(fresh.X, fresh.Y, kept, Lam0).value;
+        EXPECT_EQ(backAgain.Phi, back.Phi);
+        EXPECT_EQ(backAgain.Lam, back.Lam);
     }
-    TmGrid impossible({0, 299}, kCentre);
-    EXPECT_EQ(GeoToTM(36.25, 128.5, impossible, messages).X, 500000);
-    impossible.setCentralMeridian(129);
-    EXPECT_EQ(GeoToTM(36.25, 128.5, impossible, messages).Y, 200000);
-    EXPECT_EQ(messages.texts(), (std::vector<std::string>{kForwardMessage, kForwardMessage}));
+}
+
+TEST(TmGrid, OneThatCannotBeComputedMakesEveryPointFail) {
+    const TmGrid impossible({0, 299}, kCentre);
+    EXPECT_FALSE(impossible.computable());
+    const auto point = GeoToTM(36.25, 128.5, impossible, 127);
+    EXPECT_TRUE(point.failed);
+    EXPECT_EQ(point.value.X, 500000);
+    const auto back = TMToGeo(444627, 244207, impossible, 129.5);
+    EXPECT_TRUE(back.failed);
+    EXPECT_EQ(back.value.Lam, 129.5);
 }
 
 TEST(RadiusN, IsTheAxisAtTheEquatorAndGrowsToThePole) {
@@ -176,9 +162,8 @@ TEST(MeridianArc, AddsTheFiveTermsWithAlternatingSigns) {
 }
 
 TEST(BesselToTM, AZoneBelowOneIsChosenByTheLongitude) {
-    RecordingMessages messages;
     const auto zoneAt = [&](double lam, int zone) {
-        (void)KelvoSub::BesselToTM(37, lam, zone, 10.405, messages);
+        (void)KelvoSub::BesselToTM(37, lam, zone, 10.405).value;
         return zone;
     };
     EXPECT_EQ(zoneAt(125.9, 0), 1);
@@ -190,29 +175,26 @@ TEST(BesselToTM, AZoneBelowOneIsChosenByTheLongitude) {
 }
 
 TEST(BesselToTM, AZoneAboveHasNoLimitUnlikeTheWayBack) {
-    RecordingMessages messages;
     int zone = 5;
-    const GridPoint point = KelvoSub::BesselToTM(37.5, 133, zone, 0, messages);
+    const GridPoint point = KelvoSub::BesselToTM(37.5, 133, zone, 0).value;
     EXPECT_EQ(zone, 5);
     EXPECT_EQ(point.Y, 200000) << "on its own central meridian of 133 degrees";
-    const Position back = KelvoSub::TMToBessel(point.X, point.Y, zone, 0, messages);
+    const Position back = KelvoSub::TMToBessel(point.X, point.Y, zone, 0).value;
     EXPECT_EQ(zone, 3);
     EXPECT_NEAR(back.Lam, 129, 1e-12);
     EXPECT_NEAR(back.Phi, 37.5, 1e-12);
     zone = 4;
-    EXPECT_NEAR(KelvoSub::TMToBessel(point.X, point.Y, zone, 0, messages).Lam, 129, 1e-12);
+    EXPECT_NEAR(KelvoSub::TMToBessel(point.X, point.Y, zone, 0).value.Lam, 129, 1e-12);
     EXPECT_EQ(zone, 3) << "the first one above counts as above";
     zone = 0;
-    (void)KelvoSub::TMToBessel(point.X, point.Y, zone, 0, messages);
+    (void)KelvoSub::TMToBessel(point.X, point.Y, zone, 0).value;
     EXPECT_EQ(zone, 1);
-    EXPECT_TRUE(messages.shown.empty());
 }
 
 TEST(BesselToTM, TheShiftMovesTheCentralMeridianEast) {
-    RecordingMessages messages;
     int zone = 2;
     const GridPoint point =
-        KelvoSub::BesselToTM(37.5, 127 + 10.405 / 3600, zone, kOriginShiftSeconds, messages);
+        KelvoSub::BesselToTM(37.5, 127 + 10.405 / 3600, zone, kOriginShiftSeconds).value;
     EXPECT_NEAR(point.Y, 200000, 1e-7);
 }
 
@@ -232,10 +214,10 @@ TEST(ChkZone, TakesTheZoneByTheLongitudeUpToAndIncludingItsEasternBorder) {
                                                 {1e6, 4, 131},
                                                 {-10, 1, 125}}) {
         for (const int before : {-7, 0, 1, 4}) {
-            auto zone = static_cast<std::int16_t>(before);
+            auto zone = TmZone{static_cast<std::int16_t>(before)};
             double Lam0 = 111;
             KelvoSub::chkZone(lam, zone, Lam0);
-            EXPECT_EQ(zone, expected) << lam;
+            EXPECT_EQ(static_cast<int>(zone), expected) << lam;
             EXPECT_EQ(Lam0, origin) << lam;
         }
     }
@@ -243,28 +225,28 @@ TEST(ChkZone, TakesTheZoneByTheLongitudeUpToAndIncludingItsEasternBorder) {
 
 TEST(ChkZone, LeavesZoneFiveAndAboveAlone) {
     for (const int zone : {5, 6, 32767}) {
-        auto after = static_cast<std::int16_t>(zone);
+        auto after = TmZone{static_cast<std::int16_t>(zone)};
         double Lam0 = 126.5;
         KelvoSub::chkZone(129.5, after, Lam0);
-        EXPECT_EQ(after, zone);
+        EXPECT_EQ(static_cast<int>(after), zone);
         EXPECT_EQ(Lam0, 126.5);
     }
 }
 
 TEST(ChkUZone, OverridesAlsoTheUserOriginOfThree) {
-    std::int16_t zone = 3;
+    UtmZone zone = UtmZone::User;
     double Lam0 = 117;
     KelvoSub::chkUZone(126, zone, Lam0);
-    EXPECT_EQ(zone, 2);
+    EXPECT_EQ(zone, UtmZone::East);
     EXPECT_EQ(Lam0, 129);
-    zone = 3;
+    zone = UtmZone::User;
     KelvoSub::chkUZone(125.9999, zone, Lam0);
-    EXPECT_EQ(zone, 1);
+    EXPECT_EQ(zone, UtmZone::West);
     EXPECT_EQ(Lam0, 123);
-    zone = 4;
+    zone = UtmZone{4};
     Lam0 = 117;
     KelvoSub::chkUZone(126, zone, Lam0);
-    EXPECT_EQ(zone, 4);
+    EXPECT_EQ(zone, UtmZone{4});
     EXPECT_EQ(Lam0, 117);
 }
 

@@ -347,7 +347,7 @@ TEST_F(OnePoint, NumberTooLargeIsToldAndCountsAsZero) {
     EXPECT_EQ(messages.texts(),
               std::vector<std::string>{"입력항 1e999 에 오류가 있습니다. 수정후 다시 하십시오"});
     EXPECT_EQ(state.conversion.datum.shift.dX, 0);
-    EXPECT_EQ(state.conversion.datum.shift.Kind, 1);
+    EXPECT_EQ(state.conversion.datum.shift.Kind, ShiftKind::Molodensky);
 }
 
 TEST_F(OnePoint, AngleBeyondItsTypeIsAnOverflow) {

@@ -52,8 +52,7 @@ protected:
     }
     [[nodiscard]] const DatumState& datum() const { return state.conversion.datum; }
     [[nodiscard]] Correction correctionAt(double Phi, double Lam) {
-        TextWriter det(disk, "/app/other.det");
-        return findCorr(state.conversion, det, Phi, Lam, kAngleHyphens, 1, 1, messages);
+        return findCorr(state.conversion.known.inUse(), {.Phi = Phi, .Lam = Lam}).value;
     }
     [[nodiscard]] double number(const char* box) { return leadingNumber(text(box)); }
 };
@@ -89,8 +88,7 @@ TEST_F(PanelAgainstBatch, PanelAdjustsBeforeTheGeoidAndTheRunAfterIt) {
     type("txtdPhi", "-7200");
     type("txtdH", "2.5");
     clickWgs();
-    const Geographic shifted =
-        KelvoSub::WgsToUser(datum().shift, kPhi, kLam, kHeight, kUser, messages);
+    const Geographic shifted = KelvoSub::WgsToUser(datum().shift, kPhi, kLam, kHeight, kUser).value;
     const double adjusted =
         KelvoSub::GeoidHeightBessel(datum().geoid, shifted.Phi - 2, shifted.Lam);
     EXPECT_EQ(text("txtBGeoid"), FormatNum(adjusted, 4, 5));
@@ -98,8 +96,7 @@ TEST_F(PanelAgainstBatch, PanelAdjustsBeforeTheGeoidAndTheRunAfterIt) {
     EXPECT_EQ(text("txtBdegH"), FormatNum(shifted.h + 2.5 - adjusted, 4, 5));
 
     const PointRec& row = runWgs("1st -7200 0 2.5\r\n");
-    const Geographic inRun =
-        KelvoSub::WgsToUser(datum().shift, kPhi, kLam, kHeight, kUser, messages);
+    const Geographic inRun = KelvoSub::WgsToUser(datum().shift, kPhi, kLam, kHeight, kUser).value;
     const double unadjusted = KelvoSub::GeoidHeightBessel(datum().geoid, inRun.Phi, inRun.Lam);
     EXPECT_NE(adjusted, unadjusted);
     EXPECT_NEAR(row.UserH, inRun.h - unadjusted + 2.5, 1e-9);
@@ -110,8 +107,7 @@ TEST_F(PanelAgainstBatch, PanelCorrectsTheOrthometricHeightOnly) {
     clickWgs();
     const Correction c = correctionAt(kPhi, kLam);
     ASSERT_NE(c.DH, 0);
-    const Geographic shifted =
-        KelvoSub::WgsToUser(datum().shift, kPhi, kLam, kHeight, kUser, messages);
+    const Geographic shifted = KelvoSub::WgsToUser(datum().shift, kPhi, kLam, kHeight, kUser).value;
     const double geoid = KelvoSub::GeoidHeightBessel(datum().geoid, shifted.Phi, shifted.Lam);
     EXPECT_EQ(text("txtBTH"), FormatNum(shifted.h, 4, 5));
     EXPECT_EQ(text("txtBdegH"), FormatNum(shifted.h - geoid + c.DH, 4, 5));
@@ -134,7 +130,7 @@ TEST_F(PanelAgainstBatch, CorrectionCancelsOutOfTheOrthometricHeightOnTheWayBack
     typeUser("37.5", "127.25", "50");
     click("cmdB2W");
     const double E = KelvoSub::GeoidHeightBessel(datum().geoid, kPhi, kLam) + 50;
-    const Geographic wgs = KelvoSub::UserToWgs(datum().shift, kPhi, kLam, E, kUser, messages);
+    const Geographic wgs = KelvoSub::UserToWgs(datum().shift, kPhi, kLam, E, kUser).value;
     const Correction c = correctionAt(wgs.Phi, wgs.Lam);
     ASSERT_NE(c.DH, 0);
     const double wp = wgs.Phi - c.DPhi;

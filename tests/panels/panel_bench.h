@@ -24,12 +24,12 @@ namespace kelvo::testing {
     cfg.Phi = -2.31;
     cfg.Kappa = -1.63;
     cfg.dS = -6.43;
-    cfg.Kind = 2;
+    cfg.Kind = ShiftKind::Bursa;
     cfg.a = cfg.Ua = 6377397.155;
     cfg.f = cfg.Uf = 299.1528128;
-    cfg.Zone = 2;
-    cfg.UZone = 2;
-    cfg.AddFlag = 1;
+    cfg.Zone = TmZone::Centre;
+    cfg.UZone = UtmZone::East;
+    cfg.AddFlag = Flag::On;
     return cfg;
 }
 

@@ -211,16 +211,16 @@ TEST_F(ParameterPanel, ZoneMarksAChangeByItsTextsOnly) {
 
 TEST_F(ParameterPanel, CorrectionGoesIntoTheStoredSetAtOnce) {
     click("OptCorr");
-    EXPECT_EQ(state.Cfg.CorrFlag, 1);
+    EXPECT_EQ(state.Cfg.CorrFlag, Flag::On);
     click("OptNoCorr");
-    EXPECT_EQ(state.Cfg.CorrFlag, 0);
+    EXPECT_EQ(state.Cfg.CorrFlag, Flag::Off);
 }
 
 TEST_F(ParameterPanel, NothingElseGoesIntoTheStoredSetBeforeItIsSaved) {
     at("cmb7Para").choose(2);
     click("optJeju");
     EXPECT_EQ(state.Cfg.dX, 115.8);
-    EXPECT_EQ(state.Cfg.Zone, 2);
+    EXPECT_EQ(state.Cfg.Zone, TmZone::Centre);
 }
 
 TEST_F(ParameterPanel, SavesEveryBoxIntoItsField) {
@@ -247,36 +247,36 @@ TEST_F(ParameterPanel, SavesZonesAndKindsByTheOptionThatIsOn) {
          {"optWest", "optCenter", "optEast", "optEastSea", "optJeju", "optUser"}) {
         click(name);
         parameters.SaveCfg();
-        EXPECT_EQ(state.Cfg.Zone, ++zone) << name;
+        EXPECT_EQ(static_cast<std::int16_t>(state.Cfg.Zone), ++zone) << name;
     }
     click("optMolod");
     parameters.SaveCfg();
-    EXPECT_EQ(state.Cfg.Kind, 1);
+    EXPECT_EQ(state.Cfg.Kind, ShiftKind::Molodensky);
     click("optBursa");
     parameters.SaveCfg();
-    EXPECT_EQ(state.Cfg.Kind, 2);
+    EXPECT_EQ(state.Cfg.Kind, ShiftKind::Bursa);
 }
 
 TEST_F(ParameterPanel, SavesTheAdditionThatIsOffAsTwo) {
     click("optNotAdd");
     parameters.SaveCfg();
-    EXPECT_EQ(state.Cfg.AddFlag, 2);
+    EXPECT_EQ(state.Cfg.AddFlag, kNotAdded);
     click("optAdd");
     parameters.SaveCfg();
-    EXPECT_EQ(state.Cfg.AddFlag, 1);
+    EXPECT_EQ(state.Cfg.AddFlag, Flag::On);
 }
 
 TEST_F(ParameterPanel, SavesTheUserUtmZoneByTheOptionOfTheTmPanel) {
     click("optUTM3");
     parameters.SaveCfg();
-    EXPECT_EQ(state.Cfg.UZone, 1);
+    EXPECT_EQ(state.Cfg.UZone, UtmZone::West);
     click("optUUser");  // alone, it leaves the zone as it was
     parameters.SaveCfg();
-    EXPECT_EQ(state.Cfg.UZone, 1);
+    EXPECT_EQ(state.Cfg.UZone, UtmZone::West);
     click("optUTM9");
     click("optUser");
     parameters.SaveCfg();
-    EXPECT_EQ(state.Cfg.UZone, 3);
+    EXPECT_EQ(state.Cfg.UZone, UtmZone::User);
 }
 
 TEST_F(ParameterPanel, SavingThatFailsLeavesTheFieldsBeforeTheBadOneChanged) {
@@ -292,10 +292,10 @@ TEST_F(ParameterPanel, SavingThatFailsLeavesTheFieldsBeforeTheBadOneChanged) {
 TEST_F(ParameterPanel, ShowsTheStoredOriginForAUserZoneOnly) {
     state.Cfg.Phi0 = 37.5;
     state.Cfg.Lam0 = 128.25;
-    state.Cfg.Zone = 3;
+    state.Cfg.Zone = TmZone::East;
     load();
     EXPECT_EQ(text("txtLam0"), "129");
-    state.Cfg.Zone = 6;
+    state.Cfg.Zone = TmZone::User;
     load();
     EXPECT_TRUE(on("optUser"));
     EXPECT_EQ(text("txtPhi0"), "37.5");
@@ -305,8 +305,8 @@ TEST_F(ParameterPanel, ShowsTheStoredOriginForAUserZoneOnly) {
 }
 
 TEST_F(ParameterPanel, ShowsAnUnknownZoneAsTheUsers) {
-    state.Cfg.Zone = 17;
-    state.Cfg.UZone = -4;
+    state.Cfg.Zone = TmZone{17};
+    state.Cfg.UZone = UtmZone{-4};
     state.Cfg.US0 = 0.9996;
     load();
     EXPECT_TRUE(on("optUser"));
@@ -316,8 +316,8 @@ TEST_F(ParameterPanel, ShowsAnUnknownZoneAsTheUsers) {
 }
 
 TEST_F(ParameterPanel, ShowsTheFlagsThatWereStored) {
-    state.Cfg.AddFlag = 2;
-    state.Cfg.CorrFlag = 1;
+    state.Cfg.AddFlag = kNotAdded;
+    state.Cfg.CorrFlag = Flag::On;
     load();
     EXPECT_TRUE(on("optNotAdd"));
     EXPECT_TRUE(on("OptCorr"));
@@ -326,10 +326,10 @@ TEST_F(ParameterPanel, ShowsTheFlagsThatWereStored) {
 
 TEST_F(ParameterPanel, SelectsBursaForAKindThatIsNotOne) {
     click("optMolod");
-    state.Cfg.Kind = 0;
+    state.Cfg.Kind = ShiftKind{0};
     load();
     EXPECT_TRUE(on("optBursa"));
-    state.Cfg.Kind = 1;
+    state.Cfg.Kind = ShiftKind::Molodensky;
     load();
     EXPECT_TRUE(on("optMolod"));
 }

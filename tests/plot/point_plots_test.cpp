@@ -12,34 +12,26 @@
 namespace kelvo::testing {
 namespace {
 
-// The scale panel without its form: four boxes that are read back into the group of the kind.
+// The scale panel without its form: the texts are read back into the group of the kind drawn.
 class PanelDouble final : public ScalePanel {
 public:
-    PanelDouble(PlotCfg& cfg, MessageBoxes& messages, Lines& record)
-        : cfg_(cfg), messages_(messages), lines_(record), kind(cfg.PlotKind) {}
+    PanelDouble(PlotCfg& cfg, Lines& record) : cfg_(cfg), lines_(record) {}
 
-    void showScale(const std::array<std::string, 4>& texts) override { boxes = texts; }
-
-    PointPlot chosenKind() const override { return kind; }
-
-    void SavePcfgFile() override {
-        lines_.emplace_back("SavePcfgFile");
-        cfg_.PlotKind = kind;
-        const auto read = [&](const std::string& box) {
-            if (kind == PointPlot::XY) return strictSingle(box);
-            return static_cast<float>(KelvoSub::DmsToDeg(strictNumber(box), messages_));
+    void takeScale(PointPlot drawn, const std::array<std::string, 4>& texts) override {
+        lines_.emplace_back("takeScale");
+        boxes = texts;
+        const auto read = [drawn](const std::string& box) {
+            if (drawn == PointPlot::XY) return strictSingle(box);
+            return static_cast<float>(KelvoSub::DmsToDeg(strictNumber(box)).degrees);
         };
-        *cfg_.scaleOf(kind) = {read(boxes[0]), read(boxes[1]), read(boxes[2]), read(boxes[3])};
+        *cfg_.scaleOf(drawn) = {read(boxes[0]), read(boxes[1]), read(boxes[2]), read(boxes[3])};
     }
+
+    std::array<std::string, 4> boxes;
 
 private:
     PlotCfg& cfg_;
-    MessageBoxes& messages_;
     Lines& lines_;
-
-public:
-    PointPlot kind;  // by the option buttons
-    std::array<std::string, 4> boxes;
 };
 
 class PointPlots : public PlotTest {
@@ -62,12 +54,12 @@ protected:
 
     // Draws and gives the calls, those of the panel taken out of them.
     Lines draw(SurfaceKind kind = SurfaceKind::Screen) {
-        PanelDouble panel(cfg, messages, recorded);
+        PanelDouble panel(cfg, recorded);
         PlotSource source{points, cfg, panel, texts, messages};
         kelvo::plot(object, kind, kind == SurfaceKind::Screen ? screen : printer, source);
         boxes = panel.boxes;
         Lines calls = told();
-        saves = std::erase(calls, "SavePcfgFile");
+        saves = std::erase(calls, "takeScale");
         return calls;
     }
 
@@ -253,28 +245,13 @@ TEST_F(PointPlots, ManualScaleAfterAnAutomaticPlotDrawsTheSamePicture) {
 
 TEST_F(PointPlots, BindingComesFirstThenTheScaleThenTheDrawing) {
     addPoint("A", 453211.376, 198765.432);
-    PanelDouble panel(cfg, messages, recorded);
+    PanelDouble panel(cfg, recorded);
     PlotSource source{points, cfg, panel, texts, messages};
     kelvo::plot(object, SurfaceKind::Screen, screen, source);
     const auto lines = told();
     ASSERT_GT(lines.size(), 5U);
     EXPECT_EQ(Lines(lines.begin(), lines.begin() + 4),
-              (Lines{"ForeColor = 0", "Font = 굴림체", "SavePcfgFile", "Cls"}));
-}
-
-TEST_F(PointPlots, ScaleOfAKindThatIsNotTheChosenOneGoesStraightIntoItsGroup) {
-    addPoint("A", 453211.376, 198765.432);
-    PanelDouble panel(cfg, messages, recorded);
-    panel.kind = PointPlot::WGS;  // the option button says otherwise
-    PlotSource source{points, cfg, panel, texts, messages};
-    kelvo::plot(object, SurfaceKind::Screen, screen, source);
-    EXPECT_EQ(cfg.PlotKind, PointPlot::XY);
-    EXPECT_EQ(cfg.XY.Inter, 5);
-    EXPECT_EQ(cfg.WGS.Inter, 0);
-    EXPECT_EQ(panel.boxes[0], "");
-    const Lines lines = told();
-    EXPECT_EQ(countOf(lines, "SavePcfgFile"), 0);
-    EXPECT_GT(countOf(lines, "print  4532"), 0);
+              (Lines{"ForeColor = 0", "Font = 굴림체", "takeScale", "Cls"}));
 }
 
 TEST_F(PointPlots, UnknownKindDrawsNothing) {

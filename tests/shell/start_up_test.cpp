@@ -20,8 +20,8 @@ TEST_F(StartUp, FirstStartWritesSampleAndConfigurationAndReadsThem) {
     Program& kelvo = start();
     EXPECT_TRUE(disk.has("/app/data/test.dat"));
     EXPECT_EQ(kelvo.cfg().dX, 115.8);
-    EXPECT_EQ(kelvo.cfg().Kind, 0);
-    EXPECT_EQ(kelvo.cfg().Zone, 2);
+    EXPECT_EQ(kelvo.cfg().Kind, ShiftKind{0});
+    EXPECT_EQ(kelvo.cfg().Zone, TmZone::Centre);
     EXPECT_EQ(kelvo.cfg().Lam0, 129);
     EXPECT_EQ(kelvo.cfg().US0, 0);
     EXPECT_EQ(kelvo.recent(1), "/app/data/test.dat");
@@ -82,7 +82,7 @@ TEST_F(StartUp, DamagedNumberIsReplaced) {
 TEST_F(StartUp, EmptyConfigurationAndBareLineEndsAreReplaced) {
     for (const char* bad : {"", "\r\n\r\n\r\n", "editor", "\"", "1,2,3"}) {
         putCfg(bad);
-        EXPECT_EQ(start().cfg().Kind, 0) << bad;
+        EXPECT_EQ(start().cfg().Kind, ShiftKind{0}) << bad;
     }
 }
 
@@ -90,7 +90,7 @@ TEST_F(StartUp, IntegerBeyondItsTypeIsReplaced) {
     std::string text = kUsualCfg;
     text.replace(text.find("\r\n 2 \r\n"), 7, "\r\n 40000 \r\n");
     putCfg(text);
-    EXPECT_EQ(start().cfg().Kind, 0);
+    EXPECT_EQ(start().cfg().Kind, ShiftKind{0});
 }
 
 TEST_F(StartUp, NumbersAreReadAsAStreamPartedByBlanksCommasAndLineEnds) {
@@ -104,14 +104,14 @@ TEST_F(StartUp, NumbersAreReadAsAStreamPartedByBlanksCommasAndLineEnds) {
     EXPECT_EQ(kelvo.cfg().dH, 0.3);
     EXPECT_EQ(kelvo.cfg().US0, 0.9996);
     // What stands behind the 27th number is the line of the flags.
-    EXPECT_EQ(kelvo.cfg().AddFlag, 2);
-    EXPECT_EQ(kelvo.cfg().CorrFlag, 1);
+    EXPECT_EQ(kelvo.cfg().AddFlag, kNotAdded);
+    EXPECT_EQ(kelvo.cfg().CorrFlag, Flag::On);
     EXPECT_EQ(kelvo.recent(1), "/app/data/a.dat");
 }
 
 TEST_F(StartUp, EditorWithACommaIsSplitAndItsRestTakenForANumber) {
     putCfg("my,editor" + kUsualCfg.substr(10));
-    EXPECT_EQ(start().cfg().Kind, 0);  // "editor" is no number: replaced
+    EXPECT_EQ(start().cfg().Kind, ShiftKind{0});  // "editor" is no number: replaced
 }
 
 TEST_F(StartUp, EditorLosesBlanksInFrontAndQuotes) {
@@ -181,7 +181,7 @@ TEST_F(StartUp, SixExistingEntriesDoNotGoRoundForEver) {
     // The second replacement resets the count: one entry, read into the first place.
     EXPECT_EQ(kelvo.recent(1), "/app/data/test.dat");
     EXPECT_EQ(kelvo.recent(2), "/app/data/b.dat");
-    EXPECT_EQ(kelvo.cfg().Kind, 0);
+    EXPECT_EQ(kelvo.cfg().Kind, ShiftKind{0});
 }
 
 TEST_F(StartUp, ReplacementDoesNotResetTheCount) {
@@ -239,8 +239,8 @@ TEST_F(StartUp, FlagsAreRoundedHalvesToEven) {
     state.applicationFolder = "/app";
     state.CfgPath = "/app/kelvo.cfg";
     readConfiguration(state, disk);
-    EXPECT_EQ(state.Cfg.AddFlag, 2);
-    EXPECT_EQ(state.Cfg.CorrFlag, 2);
+    EXPECT_EQ(state.Cfg.AddFlag, kNotAdded);
+    EXPECT_EQ(state.Cfg.CorrFlag, Flag{2});
 }
 
 TEST_F(StartUp, PlacesTheWindowByTheScreen) {

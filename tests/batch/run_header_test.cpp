@@ -1,9 +1,9 @@
-#include "correction/run_report.h"
+#include "batch/run_header.h"
 
 #include <gtest/gtest.h>
 
+#include "batch/report_bench.h"
 #include "common/fixed_width.h"
-#include "correction/report_bench.h"
 
 namespace kelvo {
 namespace {
@@ -14,9 +14,9 @@ using Lines = std::vector<std::string>;
 const std::string kOne = ReportBench::known("기지점", 10, 1.5, -0.25, "10", "60", "12.5");
 const std::string kEnd = "*\n*\n";
 
-TEST(RunReport, WithTheCorrectionOffThereAreTwentyThreeLinesAndNoDetail) {
+TEST(RunHeader, WithTheCorrectionOffThereAreTwentyThreeLinesAndNoDetail) {
     ReportBench bench;
-    bench.para.CorrFlag = 0;
+    bench.para.CorrFlag = Flag::Off;
     EXPECT_EQ(bench.print(""), 0) << "the file of known points isn't opened";
     const Lines out = bench.lines("/out");
     ASSERT_EQ(out.size(), 23U);
@@ -25,10 +25,10 @@ TEST(RunReport, WithTheCorrectionOffThereAreTwentyThreeLinesAndNoDetail) {
     EXPECT_EQ(bench.disk.bytes("/det"), "");
 }
 
-TEST(RunReport, AFlagOtherThanZeroAndOneSaysNoAndCorrectsAllTheSame) {
+TEST(RunHeader, AFlagOtherThanZeroAndOneSaysNoAndCorrectsAllTheSame) {
     for (const int flag : {2, -1}) {
         ReportBench bench;
-        bench.para.CorrFlag = static_cast<std::int16_t>(flag);
+        bench.para.CorrFlag = Flag{static_cast<std::int16_t>(flag)};
         EXPECT_EQ(bench.print(kOne + kEnd), 0);
         EXPECT_EQ(bench.lines("/out")[8], "기존점에 의한 2차 보정 - 보정 안함");
         EXPECT_EQ(bench.state.known.CorrCount, 1);
@@ -36,35 +36,35 @@ TEST(RunReport, AFlagOtherThanZeroAndOneSaysNoAndCorrectsAllTheSame) {
     }
 }
 
-TEST(RunReport, TheAddedSecondsStandOnlyForAFlagOfExactlyOne) {
+TEST(RunHeader, TheAddedSecondsStandOnlyForAFlagOfExactlyOne) {
     ReportBench bench;
-    bench.para.CorrFlag = 0;
+    bench.para.CorrFlag = Flag::Off;
     EXPECT_EQ(bench.print(""), 0);
     EXPECT_EQ(bench.lines("/out")[15], " 경도에가산 =  10.405초");
-    bench.para.AddFlag = 2;
+    bench.para.AddFlag = kNotAdded;
     EXPECT_EQ(bench.print(""), 0);
     EXPECT_EQ(bench.lines("/out")[15], " 경도에가산 =   0.000초");
 }
 
-TEST(RunReport, AnUnknownOutputFormLeavesItsLabelAlone) {
+TEST(RunHeader, AnUnknownOutputFormLeavesItsLabelAlone) {
     ReportBench bench;
-    bench.para.CorrFlag = 0;
+    bench.para.CorrFlag = Flag::Off;
     EXPECT_EQ(bench.print("", 7), 0);
     EXPECT_EQ(bench.lines("/out")[20], "각도출력형태 = ");
 }
 
-TEST(RunReport, TheShiftIsLoadedWhetherOrNotTheCorrectionIsOn) {
+TEST(RunHeader, TheShiftIsLoadedWhetherOrNotTheCorrectionIsOn) {
     ReportBench bench;
-    bench.para.CorrFlag = 0;
+    bench.para.CorrFlag = Flag::Off;
     bench.para.dX = 12.5;
-    bench.para.Kind = 2;
+    bench.para.Kind = ShiftKind::Bursa;
     EXPECT_EQ(bench.print(""), 0);
     EXPECT_EQ(bench.state.datum.shift.dX, 12.5);
-    EXPECT_EQ(bench.state.datum.shift.Kind, 2);
+    EXPECT_EQ(bench.state.datum.shift.Kind, ShiftKind::Bursa);
     EXPECT_EQ(bench.state.datum.geoid.bessel.rows[1].latitude, 34);
 }
 
-TEST(RunReport, TheDetailBlockOfOnePointComesOutLineByLine) {
+TEST(RunHeader, TheDetailBlockOfOnePointComesOutLineByLine) {
     ReportBench bench;
     ASSERT_EQ(bench.print(kOne + kEnd, 3), 0);
     const Lines det = bench.lines("/det");
@@ -107,7 +107,7 @@ TEST(RunReport, TheDetailBlockOfOnePointComesOutLineByLine) {
     EXPECT_EQ(det[21], "");
 }
 
-TEST(RunReport, ANameOfFiveSyllablesFillsItsFieldAndASixthIsCut) {
+TEST(RunHeader, ANameOfFiveSyllablesFillsItsFieldAndASixthIsCut) {
     ReportBench bench;
     ASSERT_EQ(bench.print(ReportBench::known("가나다라마", 10, 1, 1, "1", "1", "1") +
                           ReportBench::known("가나다라마바", 20, 1, 1, "1", "1", "1") + kEnd),
@@ -117,7 +117,7 @@ TEST(RunReport, ANameOfFiveSyllablesFillsItsFieldAndASixthIsCut) {
     EXPECT_EQ(det[10].substr(0, std::string("가나다라마 WGS ").size()), "가나다라마 WGS ");
 }
 
-TEST(RunReport, TheLinesOfAllFormsAreOfOneWidth) {
+TEST(RunHeader, TheLinesOfAllFormsAreOfOneWidth) {
     for (const int form : {1, 2, 3, 4}) {
         ReportBench bench;
         ASSERT_EQ(bench.print(kOne + kEnd, form), 0);

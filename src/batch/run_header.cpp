@@ -1,8 +1,8 @@
-#include "correction/run_report.h"
+#include "batch/run_header.h"
 
+#include "batch/corr_file.h"
 #include "common/fixed_width.h"
-#include "correction/corr_statistics.h"
-#include "geodesy/angle_forms.h"
+#include "geodesy/zones.h"
 
 namespace kelvo {
 
@@ -10,28 +10,27 @@ namespace {
 
 using genSub::FormatNum;
 
-std::string_view inputFormText(int AngleIn) {
-    return AngleIn == kAngleDegrees ? " deg 형태 (예 128.426667)     "
-                                    : " ddd.mmssss 형태 (예 128.25361253)     ";
+std::string_view inputFormText(AngleForm AngleIn) {
+    return AngleIn == AngleForm::Degrees ? " deg 형태 (예 128.426667)     "
+                                         : " ddd.mmssss 형태 (예 128.25361253)     ";
 }
 
-std::string_view outputFormText(int AngleOut) {
+std::string_view outputFormText(AngleForm AngleOut) {
     switch (AngleOut) {
-        case kAngleDegrees:
+        case AngleForm::Degrees:
             return " deg 형태 (예 128.426667)     ";
-        case kAngleBlanks:
+        case AngleForm::Blanks:
             return " ddd mm ss.ss 형태 (예 128 25 36.1253) ";
-        case kAngleHyphens:
+        case AngleForm::Hyphens:
             return " ddd-mm-ss.ss 형태 (예 128-25-36.1253)     ";
-        case kAngleDms:
+        case AngleForm::Dms:
             return " ddd.mmssss 형태 (예 128.25361253)     ";
-        default:
-            return "";
     }
+    return "";
 }
 
-void writeRunHeader(TextWriter& out, int AngleIn, int AngleOut, const TransPara& p) {
-    const double added = p.AddFlag == 1 ? kOriginShiftSeconds : 0;
+void writeRunHeader(TextWriter& out, AngleForm AngleIn, AngleForm AngleOut, const TransPara& p) {
+    const double added = p.AddFlag == Flag::On ? kOriginShiftSeconds : 0;
     out.line("WGS -> GP 변환하는 파라미터");
     out.line("     dx  = " + FormatNum(p.dX, 5, 3) + "     dy  = " + FormatNum(p.dY, 5, 3) +
              "       dz  = " + FormatNum(p.dZ, 5, 3));
@@ -44,9 +43,9 @@ void writeRunHeader(TextWriter& out, int AngleIn, int AngleOut, const TransPara&
              "       dh  = " + FormatNum(p.dH, 3, 5));
     out.line("    ");
     out.line(std::string("기존점에 의한 2차 보정") +
-             (p.CorrFlag == 1 ? " - 보정함" : " - 보정 안함"));
+             (p.CorrFlag == Flag::On ? " - 보정함" : " - 보정 안함"));
     out.line("");
-    out.line("경위도 -> 직교좌료로 변환하는 파라미터");
+    out.line("경위도 -> 직교좌료로 변환하는 파라미터");  // required, as it is spelt
     out.line("     장반경 = " + FormatNum(p.a, 8, 4) + "    편평도 = 1/" + FormatNum(p.f, 3, 8));
     out.line("   원점위도 = " + FormatNum(p.Phi0, 3, 5) +
              "      원점경도 = " + FormatNum(p.Lam0, 3, 5));
@@ -63,26 +62,15 @@ void writeRunHeader(TextWriter& out, int AngleIn, int AngleOut, const TransPara&
     out.line("");
 }
 
-void writeHeadOfCorrections(TextWriter& det) {
-    det.line("");
-    det.line(" 각 좌표점 별 보정량");
-    det.line("");
-    det.line(
-        "명칭                           위도보정량         경도보정량      표고보정      보정거리");
-    det.line("");
-}
-
 }  // namespace
 
-void PrintRunHeader(ConversionState& state, const RunFiles& files, int AngleIn, int AngleOut,
-                    const TransPara& para, Disk& disk, MessageBoxes& messages) {
+void PrintRunHeader(ConversionState& state, const RunFiles& files, AngleForm AngleIn,
+                    AngleForm AngleOut, const TransPara& para, Disk& disk, MessageBoxes& messages) {
     writeRunHeader(files.out, AngleIn, AngleOut, para);
-    KelvoSub::SetDatumPara(state.datum, para.dX, para.dY, para.dZ, para.Omega, para.Phi, para.Kappa,
-                           para.dS, para.Kind);
-    if (para.CorrFlag == 0) return;
+    KelvoSub::SetDatumPara(state.datum, shiftOf(para), para.Kind);
+    if (para.CorrFlag == Flag::Off) return;
     ReadCorrFile(state.known, files.CorPath, state.fields, disk, messages);
-    CorrStatistics(state.known, files.det, AngleOut, para, state.datum, messages);
-    writeHeadOfCorrections(files.det);
+    CorrStatistics(state, files, AngleOut, para, messages);
 }
 
 }  // namespace kelvo

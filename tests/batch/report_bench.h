@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "correction/run_report.h"
+#include "batch/run_header.h"
 #include "support/faults.h"
 #include "support/memory_disk.h"
 #include "support/recording_messages.h"
@@ -25,8 +25,8 @@ public:
         para.X0 = 500000;
         para.Y0 = 200000;
         para.S0 = 1;
-        para.AddFlag = 1;
-        para.CorrFlag = 1;
+        para.AddFlag = Flag::On;
+        para.CorrFlag = Flag::On;
     }
 
     // A known point at 35 degrees of latitude (in ddd.mmssss with ten decimals), its misses in
@@ -47,8 +47,8 @@ public:
         TextWriter out(disk, "/out");
         TextWriter det(disk, "/det");
         const int fault = faultOf([&] {
-            PrintRunHeader(state, {.out = out, .det = det, .CorPath = "/kelvo.cor"}, 4, AngleOut,
-                           para, disk, messages);
+            PrintRunHeader(state, {.out = out, .det = det, .CorPath = "/kelvo.cor"}, AngleForm::Dms,
+                           AngleForm{AngleOut}, para, disk, messages);
         });
         out.close();
         det.close();

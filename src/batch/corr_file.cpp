@@ -1,8 +1,7 @@
-#include "correction/corr_points.h"
+#include "batch/corr_file.h"
 
-#include "common/letter_case.h"
+#include "batch/wording.h"
 #include "common/run_time_fault.h"
-#include "common/text_file.h"
 #include "geodesy/angle_forms.h"
 
 namespace kelvo {
@@ -17,7 +16,10 @@ bool isCommentOrBlank(const FieldStore& fields) {
 }
 
 void fillSlot(CorrPoint& point, const FieldStore& fields, MessageBoxes& messages) {
-    const auto degrees = [&](int n) { return KelvoSub::DmsToDeg(fields.FieldNum(n), messages); };
+    const auto degrees = [&](int n) {
+        const double given = fields.FieldNum(n);
+        return toldDegrees(messages, given, KelvoSub::DmsToDeg(given));
+    };
     point.Name = fields.FieldStr(1);
     point.WgsH = fields.FieldNum(4);
     point.UserH = fields.FieldNum(7);
@@ -35,11 +37,12 @@ void readPoints(CorrPointTable& table, TextReader& file, FieldStore& fields,
     while (!file.atEnd()) {
         genSub::ParseFields(fields, kCorrFields);
         while (!isCommentOrBlank(fields)) {
-            ++table.CorrCount;
-            if (table.CorrCount > kMostCorrPoints)
+            if (table.CorrCount >= kMostCorrPoints)
                 raise(Fault::Subscript,
-                      "보정점은 " + std::to_string(kMostCorrPoints) + "개까지 다룰 수 있습니다");
-            fillSlot(table.CorrPoints[static_cast<std::size_t>(table.CorrCount)], fields, messages);
+                      std::to_string(table.CorrCount + 1) + "번째 보정점입니다. 보정점은 " +
+                          std::to_string(kMostCorrPoints) + "개까지 다룰 수 있습니다");
+            ++table.CorrCount;
+            fillSlot(table.inUse().back(), fields, messages);
             file.readLine(fields.LineBuf);
             genSub::ParseFields(fields, kCorrFields);
         }

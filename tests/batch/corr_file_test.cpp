@@ -1,4 +1,4 @@
-#include "correction/corr_points.h"
+#include "batch/corr_file.h"
 
 #include <gtest/gtest.h>
 

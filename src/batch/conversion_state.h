@@ -1,0 +1,20 @@
+// What a conversion works on and leaves. The application has one, whoever runs it: a batch run or
+// a click.
+#pragma once
+
+#include "common/fields.h"
+#include "common/point_table.h"
+#include "correction/corr_points.h"
+#include "geodesy/datum_shift.h"
+
+namespace kelvo {
+
+struct ConversionState {
+    PointTable points;
+    CorrPointTable known;
+    DatumState datum;
+    FieldStore fields;
+    bool ParaDirty = false;  // a run header is due before the next point
+};
+
+}  // namespace kelvo

@@ -1,0 +1,14 @@
+// What a routine under a guard gives.
+#pragma once
+
+namespace kelvo {
+
+// A result; or, for data that can't be computed, the stand-in that the routine states, and that
+// it failed. Whoever called tells the user.
+template <class T>
+struct Guarded {
+    T value{};
+    bool failed = false;
+};
+
+}  // namespace kelvo
