@@ -5,8 +5,8 @@
 #include <string>
 
 #include "form/services.h"
-#include "panels/print_mode_panel.h"
 #include "panels/plot_settings_panel.h"
+#include "panels/print_mode_panel.h"
 #include "shell/plot_place.h"
 
 namespace kelvo {
