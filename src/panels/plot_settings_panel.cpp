@@ -58,7 +58,7 @@ void PlotSettingsPanel::takeScale(PointPlot drawn, const std::array<std::string,
 // A box as the settings hold it: metres, or decimal degrees for the ddd.mmss of the angle plots.
 float PlotSettingsPanel::valueOf(double number, PointPlot kind) {
     if (kind == PointPlot::XY) return toSingle(number);
-    return toSingle(toldDegrees(messages_, number, KelvoSub::DmsToDeg(number)));
+    return toSingle(reportedDegrees(messages_, number, KelvoSub::DmsToDeg(number)));
 }
 
 void PlotSettingsPanel::showAngles(const PlotScale& scale) {
