@@ -175,7 +175,8 @@ TEST_P(ChosenButNotApplied, KindLeavesPanelFileAndTheOtherScalesAlone) {
         EXPECT_EQ(same(now.XY, before.XY), drawn != 3);
         EXPECT_EQ(disk.bytes(kPlotCfg), fileOf(drawn));
     }
-    // One second of arc, and 20 m for its 31 m, as the boxes of the kind drawn would have shown them.
+    // One second of arc, and 20 m for its 31 m, as the boxes of the kind drawn would have shown
+    // them.
     const PlotCfg& now = kelvo.plotCfg();
     if (drawn == 1) {
         EXPECT_EQ(now.WGS.Inter, 1.0F / 3600);
