@@ -1,12 +1,20 @@
 // The plot object: draws on a surface in millimetres of a page or in any units of the user.
 //
+// This is a complete drawing object, of which the program's own pictures use a part: the point
+// plots draw with pwindow, pline, ptext, ptextR and ticmark, printing with ptext and the font. The
+// rest (dashes, arcs, arrow, fills, logarithmic grids, values, stacked text) is kept on purpose.
+//
 // Three systems of coordinates: user (whatever pwindow says), page (millimetres), surface (twips,
 // 56.7 to the millimetre, y growing downward). Call pinitialize first, then pwindow.
 //
 // Numbers are 64-bit. Rounded to 32 bits are only the page x inside cx, where plinemmto leaves
 // the pen, pKind, and the widths of three symbols of ticmark (required; cy isn't rounded).
 // Nothing that isn't finite reaches a surface: a division by zero is fault 11 (0/0 is 6), a value
+<<<<<<< HEAD
 // out of range fault 6. A call stops at its fault; what the surface was given stands, and kept
+=======
+// out of range fault 6. A call stops at its fault; what has reached the surface stands, and kept
+>>>>>>> window
 // values aren't put back. Drawing without a surface is fault 5, which pline swallows.
 // No call draws without end: plinedot, pcircledot and pgrid stop after kMostStrokes strokes a
 // call, a triangle of a fill after kMostTriangleStrokes.
@@ -24,6 +32,9 @@
 #include "plot/surface.h"
 
 namespace kelvo {
+
+// The kinds that pinitialize takes as numbers.
+enum class SurfaceKind { Printer = 1, Screen = 2 };
 
 class clsplot1 {
 public:
@@ -183,6 +194,10 @@ private:
     struct GridAxis;
 
     [[nodiscard]] Surface& surface() const;
+    [[nodiscard]] bool onPrinter() const { return isKind(SurfaceKind::Printer); }
+    [[nodiscard]] bool onScreen() const { return isKind(SurfaceKind::Screen); }
+    // A caller may bind to a number of its own, which is neither.
+    [[nodiscard]] bool isKind(SurfaceKind kind) const { return pKind_ == static_cast<float>(kind); }
     [[nodiscard]] double surfaceRadius(double r) const;
     [[nodiscard]] bool linearX() const { return WinKind_ == 0 || WinKind_ == 1; }
     [[nodiscard]] bool logarithmicX() const { return WinKind_ == 2 || WinKind_ == 3; }

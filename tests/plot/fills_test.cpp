@@ -35,7 +35,7 @@ TEST_F(PlotFills, ModeOneCopiesThePenOnAPrinterWithColours) {
 
 TEST_F(PlotFills, BoxIsFilledInItsColourAndTheSurfaceIsPutBack) {
     useScreen();
-    screen.setDrawMode(7);
+    screen.setDrawMode(RasterMode::PenXorPaper);
     screen.setForeColor(40000);
     drawn();
     const Lines expected{"FillStyle = 0", "ForeColor = 255",
@@ -144,39 +144,51 @@ TEST_F(PlotFills, StrokesOnPaperStepByThePrintersPixel) {
     EXPECT_EQ(countOf(drawn(), "Line"), 3 + 11);
 }
 
-// The meeting point of a moved side that stands upright takes its y from the slope 1E25, which
-// leaves no digit of it: required. Height, direction, number, width and x of the strokes are
-// those of the triangle slightly turned.
-TEST_F(PlotFills, UprightFirstSideTakesTheStrokesOfTheTriangleSlightlyTurned) {
-    const auto strokes = [this](double lean) {
-        useScreen();
-        object.pline(0, 0, 0, 0, 1);  // the width of the outline, set once only
-        drawn();
-        object.pFillTri(0, 10, lean, 30, 8, 20);
-        return drawn();
-    };
-    const Lines upright = strokes(0);
-    const Lines turned = strokes(1e-6);
-    ASSERT_EQ(upright.size(), turned.size());
-    int compared = 0;
-    for (std::size_t i = 0; i < upright.size(); ++i) {
+// The strokes of two triangles, line by line: the same within rounding.
+void expectNear(const Lines& one, const Lines& other, std::ptrdiff_t strokes) {
+    ASSERT_EQ(one.size(), other.size());
+    std::ptrdiff_t compared = 0;
+    for (std::size_t i = 0; i < one.size(); ++i) {
         double a[4];
         double b[4];
         const auto read = [](const std::string& line, double* v) {
             return std::sscanf(line.c_str(), "Line %lf %lf %lf %lf", &v[0], &v[1], &v[2], &v[3]);
         };
-        if (read(upright[i], a) != 4) {
-            EXPECT_EQ(upright[i], turned[i]);
+        if (read(one[i], a) != 4) {
+            EXPECT_EQ(one[i], other[i]);
             continue;
         }
-        ASSERT_EQ(read(turned[i], b), 4);
-        EXPECT_NEAR(a[0], b[0], 0.001) << i;
-        EXPECT_NEAR(a[2], b[2], 0.001) << i;
+        ASSERT_EQ(read(other[i], b), 4);
+        for (int v = 0; v < 4; ++v) EXPECT_NEAR(a[v], b[v], 0.01) << i << " " << one[i];
         ++compared;
     }
-    EXPECT_EQ(compared, 3 + 10);
-    // Outline and first stroke lie on the side itself and have their y as well.
-    EXPECT_EQ(countOf(upright, "Line 5.5000 567.0000 5.5000 1701.0000"), 1);
+    EXPECT_EQ(compared, strokes);
+}
+
+TEST_F(PlotFills, UprightFirstSideTakesTheStrokesOfTheTriangleSlightlyTurned) {
+    const auto strokes = [this](double side, double lean, double apex) {
+        useScreen();
+        object.pline(0, 0, 0, 0, 1);  // the outline's width is written once only
+        drawn();
+        object.pFillTri(side, 10, side + lean, 30, apex, 20);
+        return drawn();
+    };
+    // On the surface's edge and off it; the apex on either side.
+    for (const double side : {0.0, 40.0}) {
+        for (const double apex : {side + 8, side - 8}) {
+            SCOPED_TRACE(apex);
+            const Lines upright = strokes(side, 0, apex);
+            expectNear(upright, strokes(side, 1e-5, apex), 3 + 10);
+        }
+    }
+}
+
+TEST_F(PlotFills, UprightMovedSideMeetsTheOthersOnTheirLines) {
+    const auto stroke = clsplot1::TriStroke(100, 0, 100, 40, 120, 20, 10, 0);
+    EXPECT_NEAR(stroke.ax, 110, 1e-9);
+    EXPECT_NEAR(stroke.ay, 10, 1e-9);
+    EXPECT_NEAR(stroke.bx, 110, 1e-9);
+    EXPECT_NEAR(stroke.by, 30, 1e-9);
 }
 
 TEST_F(PlotFills, MovedSideLiesBetweenTheOtherTwo) {

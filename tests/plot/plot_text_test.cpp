@@ -65,7 +65,7 @@ TEST_F(PlotText, ErasedTextsWipeAndPrintInTurnWithModeOneBetweenThem) {
                      "DrawMode = 13", "Line 567.0000 1022.0000 727.0000 1150.0000 16777215 38",
                      "FillStyle = 1", "ForeColor = 0", "DrawMode = 13", "CurrentX = 567.0000",
                      "CurrentY = 1006.0000", "print AB", "DrawMode = 1"}));
-    EXPECT_EQ(screen.DrawMode(), 1);
+    EXPECT_EQ(screen.DrawMode(), RasterMode::Black);
     object.ptext("AB", 10, 20, 8);
     EXPECT_EQ(drawn(), first);
 }
