@@ -34,7 +34,7 @@ void print(std::FILE* stream, const std::string& text) {
     std::fwrite(text.data(), 1, text.size(), stream);
 }
 
-// Lines of standard error, each behind the name of its data file if there are several.
+// Lines of standard error, each after the name of its data file if there are several.
 class StandardError {
 public:
     explicit StandardError(ProgressBar& bar) : bar_(bar) {}
@@ -119,7 +119,7 @@ int runAll(const CommandLine& line, const std::string& folder, StandardError& er
         lastEnded = ends([&] { RunBatch(*state, places, noScreen, disk, messages); }, error);
         good &= lastEnded;
     }
-    // As ever, kelvo.det tells of the last run.
+    // As ever, kelvo.det is that of the last run.
     const std::string last = detailBeside(line.dataFiles.back());
     if (several && lastEnded && !disk.sameFile(last, detail))
         good &= ends([&] { copyFile(disk, last, detail); }, error);

@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QIcon>
 #include <QLibraryInfo>
@@ -12,6 +13,7 @@
 
 #include "common/application_folder.h"
 #include "desktop/fault_report.h"
+#include "desktop/help_file.h"
 #include "desktop/look_of_window.h"
 #include "desktop/main_window.h"
 
@@ -19,16 +21,6 @@ using namespace kelvo;
 using namespace kelvo::desktop;
 
 namespace {
-
-// The help text comes with the program; the copy in the application folder is the one shown.
-void provideHelpFile(const QString& folder) {
-    const QString target = QDir(folder).filePath(QStringLiteral("KelvoHelp.txt"));
-    if (QFileInfo::exists(target)) return;
-    if (QFile::copy(QStringLiteral(":/kelvo/KelvoHelp.txt"), target)) {
-        QFile::setPermissions(
-            target, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
-    }
-}
 
 int reportStart(const RuntimeFault& fault) {
     QMessageBox::critical(nullptr, QStringLiteral("Kelvo"),
@@ -41,8 +33,13 @@ int reportStart(const RuntimeFault& fault) {
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("kelvo"));
+<<<<<<< HEAD
     QApplication::setApplicationDisplayName(QStringLiteral("Kelvo"));
+    QApplication::setApplicationVersion(QStringLiteral(KELVO_VERSION));
+=======
+    // No display name: it would stand behind the form's titles.
     QApplication::setApplicationVersion(QStringLiteral("3.5.0"));
+>>>>>>> window
     QApplication::setDesktopFileName(QStringLiteral("kelvo"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/kelvo/icon.png")));
 
@@ -75,9 +72,10 @@ int main(int argc, char** argv) {
         }
         makeApplicationFolder(folder);
         const QString shownFolder = QString::fromStdString(folder);
-        provideHelpFile(shownFolder);
-        const QSettings settings(QDir(shownFolder).filePath(QStringLiteral("window.ini")),
-                                 QSettings::IniFormat);
+        QSettings settings(QDir(shownFolder).filePath(QStringLiteral("window.ini")),
+                           QSettings::IniFormat);
+        QFile help(QStringLiteral(":/kelvo/KelvoHelp.txt"));
+        if (help.open(QIODevice::ReadOnly)) provideHelpFile(shownFolder, help.readAll(), settings);
         setTheme(application, themeNamed(parser.isSet(themeOption)
                                              ? parser.value(themeOption)
                                              : settings.value(QStringLiteral("theme")).toString()));

@@ -6,7 +6,6 @@
 #include <QDir>
 #include <QFile>
 #include <QMenuBar>
-#include <QMimeData>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QToolButton>
@@ -14,6 +13,8 @@
 
 #include "common/code_page.h"
 #include "desktop/fault_report.h"
+#include "desktop/file_drop.h"
+#include "desktop/menu_keys.h"
 #include "desktop/text_viewer.h"
 
 namespace kelvo::desktop {
@@ -22,14 +23,6 @@ namespace {
 
 constexpr double kTwipsPerPixel = 15;
 constexpr int kEntryOpen = 2;  // mnuFileItem(2): 기존파일 열기
-
-QString droppedDataFile(const QMimeData* data) {
-    for (const QUrl& url : data->urls()) {
-        QString path = url.toLocalFile();
-        if (path.endsWith(QLatin1String(".dat"), Qt::CaseInsensitive)) return path;
-    }
-    return {};
-}
 
 }  // namespace
 
@@ -40,7 +33,6 @@ MainWindow::MainWindow(const std::string& applicationFolder)
       dialogs_(dialogParent_, [this]() -> QPrinter& { return systemPrinter(); }) {
     setObjectName(QStringLiteral("frmKelvo"));
     setAccessibleDescription(QStringLiteral("frmKelvo"));
-    setAcceptDrops(true);
     dialogParent_ = {this, &lock_};
     gate_.before = [this](EventGate::Event event) { beforeEvent(event); };
     gate_.after = [this](EventGate::Event event) { afterEvent(event); };
@@ -63,7 +55,9 @@ MainWindow::MainWindow(const std::string& applicationFolder)
     buildPanels();
     bindWindow();
     addShortcuts();
+    leadIntoMenus(*menuBar());
     addThemeButton();
+    new FileDrop(*this, [this](const QStringList& paths) { openFiles(paths); });
 }
 
 MainWindow::~MainWindow() {
@@ -84,8 +78,12 @@ void MainWindow::buildPanels() {
     stage_->setUp(*book_, filePanel_);
 
     filePanel_.panel->installEventFilter(this);
-    filePanel_.path->setText(filePanel_.panel->property("caption").toString());
+    filePanel_.path->setWholeText(filePanel_.panel->property("caption").toString());
     connect(book_->viewer(), &TextViewer::modifiedChanged, this, [this] { showUnsavedMark(); });
+    book_->plotView()->placeAt = [this](QPointF twips, double reach) {
+        const PlotPlace place = program_->plotPlaceAt(twips.x(), twips.y(), reach);
+        return std::pair(qt(place.coordinates), qt(place.point));
+    };
     connect(book_->plotView(), &PlotView::saveFailed, this, [this](const QString& path) {
         messages_.show(
             {.text = (path + QStringLiteral(" 파일을 저장할 수 없습니다.")).toStdString(),
@@ -102,10 +100,11 @@ void MainWindow::bindWindow() {
     window->watch([this, window](Property property) {
         if (property == Property::Caption) setWindowTitle(qt(window->caption()));
         if (property == Property::Place && window->width() > 0) {
-            setGeometry(static_cast<int>(std::lround(window->left() / kTwipsPerPixel)),
-                        static_cast<int>(std::lround(window->top() / kTwipsPerPixel)),
-                        static_cast<int>(std::lround(window->width() / kTwipsPerPixel)),
-                        static_cast<int>(std::lround(window->height() / kTwipsPerPixel)));
+            const auto pixels = [](double twips) {
+                return static_cast<int>(std::lround(twips / kTwipsPerPixel));
+            };
+            place_.put({pixels(window->left()), pixels(window->top()), pixels(window->width()),
+                        pixels(window->height())});
         }
     });
 }
@@ -133,8 +132,7 @@ void MainWindow::addThemeButton() {
     connect(button, &QToolButton::clicked, this, [this] {
         const Theme theme = isDark() ? Theme::Light : Theme::Dark;
         setTheme(*static_cast<QApplication*>(QApplication::instance()), theme);
-        QSettings(QDir(qt(applicationFolder_)).filePath(QStringLiteral("window.ini")),
-                  QSettings::IniFormat)
+        QSettings(settingsFile(), QSettings::IniFormat)
             .setValue(QStringLiteral("theme"), nameOf(theme));
     });
     menuBar()->setCornerWidget(button);
@@ -143,8 +141,13 @@ void MainWindow::addThemeButton() {
 bool MainWindow::start() {
     gate_.run([this] { Main(*program_); });
     if (gate_.isClosed()) return false;
+    place_.restore(QSettings(settingsFile(), QSettings::IniFormat));
     show();
     return true;
+}
+
+QString MainWindow::settingsFile() const {
+    return QDir(qt(applicationFolder_)).filePath(QStringLiteral("window.ini"));
 }
 
 void MainWindow::openDataFile(const QString& path) {
@@ -153,6 +156,20 @@ void MainWindow::openDataFile(const QString& path) {
         program_->form().find("mnuFileItem")->clickEntry(kEntryOpen);
     });
     dialogs_.forgetChosen();
+}
+
+void MainWindow::openResultFile(const QString& path) {
+    gate_.run(
+        [this, &path] { program_->OpenRichText(QDir::toNativeSeparators(path).toStdString()); });
+}
+
+void MainWindow::openFiles(const QStringList& paths) {
+    const QString& path = paths.first();
+    if (path.endsWith(QLatin1String(".dat"), Qt::CaseInsensitive)) {
+        openDataFile(path);
+    } else {
+        openResultFile(path);
+    }
 }
 
 void MainWindow::beforeEvent(EventGate::Event event) {
@@ -174,7 +191,7 @@ void MainWindow::afterEvent(EventGate::Event event) {
 }
 
 bool MainWindow::textIsSaved() const {
-    QFile file(filePanel_.path->text());
+    QFile file(filePanel_.path->wholeText());
     if (!file.open(QIODevice::ReadOnly)) return false;
     const std::string bytes = encodeCodePage(book_->viewer()->text());
     if (file.size() != static_cast<qint64>(bytes.size())) return false;
@@ -193,27 +210,18 @@ void MainWindow::showUnsavedMark() {
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     if (watched == filePanel_.panel && event->type() == QEvent::DynamicPropertyChange) {
-        filePanel_.path->setText(filePanel_.panel->property("caption").toString());
+        filePanel_.path->setWholeText(filePanel_.panel->property("caption").toString());
     }
     return QMainWindow::eventFilter(watched, event);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
+    QSettings settings(settingsFile(), QSettings::IniFormat);
+    place_.remember(settings);
     if (!gate_.isClosed()) {
         gate_.run([this] { program_->Form_Close(); });
     }
     event->setAccepted(gate_.isClosed());
-}
-
-void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
-    if (!droppedDataFile(event->mimeData()).isEmpty()) event->acceptProposedAction();
-}
-
-void MainWindow::dropEvent(QDropEvent* event) {
-    const QString path = droppedDataFile(event->mimeData());
-    if (path.isEmpty()) return;
-    event->acceptProposedAction();
-    openDataFile(path);
 }
 
 }  // namespace kelvo::desktop

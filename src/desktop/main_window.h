@@ -14,6 +14,7 @@
 #include "desktop/plot_view.h"
 #include "desktop/screen_services.h"
 #include "desktop/widget_book.h"
+#include "desktop/window_place.h"
 #include "shell/frm_kelvo.h"
 
 namespace kelvo::desktop {
@@ -31,6 +32,11 @@ public:
 
     // Does what choosing this data file in the open dialog does.
     void openDataFile(const QString& path);
+    // Shows what a run has written.
+    void openResultFile(const QString& path);
+
+    // What a printed document is called, and the file that it is printed into: no path, no ending.
+    [[nodiscard]] QString documentName() const;
 
     [[nodiscard]] frmKelvo& program() { return *program_; }
     [[nodiscard]] WidgetBook& book() { return *book_; }
@@ -44,14 +50,13 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
-    void dragEnterEvent(QDragEnterEvent* event) override;
-    void dropEvent(QDropEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     Surface& screen() override;
     Surface& printer() override { return paper_; }
 
+    void openFiles(const QStringList& paths);
     void buildPanels();
     void bindWindow();
     void addShortcuts();
@@ -63,6 +68,7 @@ private:
     void reportFault(int number, const std::string& text);
     void printWaitingSheets();
     [[nodiscard]] QPrinter& systemPrinter();
+    [[nodiscard]] QString settingsFile() const;
 
     std::string applicationFolder_;
     EventGate gate_;
@@ -85,6 +91,7 @@ private:
     std::unique_ptr<frmKelvo> program_;
     std::unique_ptr<WidgetBook> book_;
     PanelStage* stage_ = nullptr;
+    WindowPlace place_{*this};
     FilePanel filePanel_;
 };
 

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDateTime>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -12,6 +13,7 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QScreen>
+#include <QWindow>
 #include <algorithm>
 #include <array>
 #include <chrono>
@@ -69,6 +71,22 @@ QMessageBox::StandardButtons buttonsOf(Buttons buttons) {
     return QMessageBox::Ok;
 }
 
+// The toolkit puts the program's name on a window whose title is empty. Only the window of the
+// display gets the blank: to its user the box stays one without a title.
+class EmptyTitle final : public QObject {
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        auto* box = qobject_cast<QWidget*>(watched);
+        if (event->type() == QEvent::Show && box != nullptr && box->windowHandle() != nullptr) {
+            box->windowHandle()->setTitle(QStringLiteral(" "));
+        }
+        return false;
+    }
+};
+
 }  // namespace
 
 FolderLock::FolderLock(const QString& folder) : file_(QDir(folder).filePath("kelvo.lock")) {
@@ -100,6 +118,7 @@ Answer ScreenMessages::show(const Message& message) {
     for (const auto& [button, word] : words) {
         if (auto* shown = box.button(button)) shown->setText(QString::fromUtf8(word));
     }
+    if (message.title.empty()) box.installEventFilter(new EmptyTitle(&box));
     switch (box.exec()) {
         case QMessageBox::Yes:
             return Answer::Yes;
@@ -179,6 +198,15 @@ std::optional<std::string> ScreenDialogs::show(DialogKind kind,
 std::optional<std::string> ScreenDialogs::showPrinterDialog() {
     const Waiting waiting(parent_);
     QPrintDialog dialog(&printer_(), parent_.window);
+    // Nothing is printed here: the printer is chosen.
+    dialog.setWindowTitle(QStringLiteral("Printer설정"));
+    for (const QDialogButtonBox* box : dialog.findChildren<QDialogButtonBox*>()) {
+        for (QAbstractButton* button : box->buttons()) {
+            if (box->buttonRole(button) == QDialogButtonBox::AcceptRole) {
+                button->setText(QStringLiteral("확인(&O)"));
+            }
+        }
+    }
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     return printer_().printerName().toStdString();
 }

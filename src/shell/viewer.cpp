@@ -43,6 +43,16 @@ void ResultViewer::load(const std::string& path) {
     const std::string text = readWholeText(disk_, path);
     fileName_ = path;
     on_.Richtxt.setText(text);
+    if (onLoaded) onLoaded(path);
+}
+
+void ResultViewer::save(const std::string& path) {
+    saveCopy(path);
+    if (onSaved) onSaved(path);
+}
+
+void ResultViewer::saveOnView() {
+    if (!fileName_.empty()) save(fileName_);
 }
 
 void ResultViewer::OpenRichText(const std::string& Path) {
@@ -79,7 +89,7 @@ void ResultViewer::showRunResult() {
 }
 
 void ResultViewer::cmdSave_Click() {
-    replaceWholeText(disk_, fileName_, on_.Richtxt.text());
+    save(fileName_);
     on_.frmeFile.setVisible(false);
     printMode_.showWhatWasShown();
 }
@@ -97,7 +107,7 @@ void ResultViewer::cmdSaveAs_Click() {
         if (fault.fault() != Fault::DialogCancelled) throw;
         return;
     }
-    replaceWholeText(disk_, name, on_.Richtxt.text());
+    save(name);
     OpenRichText(name);
     if (upperCased(genSub::FileExtensionOf(name)) == "DAT") recent_.UpdateRecentFiles(name);
 }
@@ -109,7 +119,7 @@ void ResultViewer::cmdClose_Click() {
 void ResultViewer::saveAndHide(const std::string& name) {
     on_.Richtxt.setVisible(false);
     fileName_ = name;
-    saveCopy(name);
+    save(name);
 }
 
 void ResultViewer::saveCopy(const std::string& name) {
