@@ -33,13 +33,8 @@ int reportStart(const RuntimeFault& fault) {
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("kelvo"));
-<<<<<<< HEAD
-    QApplication::setApplicationDisplayName(QStringLiteral("Kelvo"));
+    // No display name: it would stand after the form's titles.
     QApplication::setApplicationVersion(QStringLiteral(KELVO_VERSION));
-=======
-    // No display name: it would stand behind the form's titles.
-    QApplication::setApplicationVersion(QStringLiteral("3.5.0"));
->>>>>>> window
     QApplication::setDesktopFileName(QStringLiteral("kelvo"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/kelvo/icon.png")));
 

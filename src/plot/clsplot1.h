@@ -10,11 +10,7 @@
 // Numbers are 64-bit. Rounded to 32 bits are only the page x inside cx, where plinemmto leaves
 // the pen, pKind, and the widths of three symbols of ticmark (required; cy isn't rounded).
 // Nothing that isn't finite reaches a surface: a division by zero is fault 11 (0/0 is 6), a value
-<<<<<<< HEAD
-// out of range fault 6. A call stops at its fault; what the surface was given stands, and kept
-=======
 // out of range fault 6. A call stops at its fault; what has reached the surface stands, and kept
->>>>>>> window
 // values aren't put back. Drawing without a surface is fault 5, which pline swallows.
 // No call draws without end: plinedot, pcircledot and pgrid stop after kMostStrokes strokes a
 // call, a triangle of a fill after kMostTriangleStrokes.
