@@ -233,6 +233,8 @@ constexpr std::array kLines{
     // clang-format on
 };
 static_assert(kLines.size() == 213);
+constexpr std::size_t kFirstEnd = 7;
+static_assert(kLines[kFirstEnd] == "end");
 
 }  // namespace
 
@@ -240,6 +242,10 @@ std::string sampleDataText() {
     std::string text;
     for (const std::string_view line : kLines) text.append(line).append(kLineEnd);
     return text;
+}
+
+std::span<const std::string_view> sampleManual() {
+    return std::span(kLines).subspan(kFirstEnd + 1);
 }
 
 void WriteSampleData(Disk& disk, const std::string& path) {

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "batch/run_batch.h"
+#include "cli/check_files.h"
 #include "cli/command_line.h"
 #include "cli/progress_bar.h"
 #include "cli/shared_files.h"
@@ -27,6 +28,9 @@ using namespace kelvo;
 constexpr int kRunEnded = 0;
 constexpr int kRunTimeFault = 1;
 constexpr int kWrongUsage = 2;
+constexpr int kNothingFound = 0;
+constexpr int kSomethingFound = 1;
+constexpr int kNotRead = 2;
 
 constexpr std::size_t kManyFiles = 5;  // from so many on a progress bar is worth its line
 
@@ -41,7 +45,7 @@ void printUsage(const std::string& complaint) {
 // Of a line that begins with the name of its data file.
 constexpr std::size_t kLongestPrefix = 500;
 
-// Lines of standard error, each behind the name of its data file if there are several.
+// Lines of standard error, each after the name of its data file if there are several.
 class StandardError {
 public:
     explicit StandardError(ProgressBar& bar) : bar_(bar) {}
@@ -151,6 +155,26 @@ int runAll(const CommandLine& line, const std::string& folder, StandardError& er
     return good ? kRunEnded : kRunTimeFault;
 }
 
+// Findings are what was asked for and go to standard output.
+int checkAll(const CommandLine& line, const std::string& folder) {
+    PlatformDisk disk(Pipes::Wait);
+    const CheckOutput output{
+        .finding = [](const std::string& text) { print(stdout, shownLine(text) + "\n"); },
+        .failure =
+            [](const std::string& text) {
+                print(stderr, shownLine("kelvo-batch: " + text) + "\n");
+            }};
+    switch (checkFiles(line.dataFiles, folder + kPathSeparator + "kelvo.cor", disk, output)) {
+        case CheckResult::Clean:
+            return kNothingFound;
+        case CheckResult::Found:
+            return kSomethingFound;
+        case CheckResult::NotRead:
+            break;
+    }
+    return kNotRead;
+}
+
 int runCommand(int argc, char** argv) {
 #ifdef _WIN32
     SetConsoleOutputCP(CP_UTF8);
@@ -169,17 +193,20 @@ int runCommand(int argc, char** argv) {
         print(stdout, "kelvo-batch " KELVO_VERSION "\n");
         return kRunEnded;
     }
-    ProgressBar bar(line.dataFiles.size(), !line.quiet && line.dataFiles.size() >= kManyFiles &&
+    const bool checks = line.wish == CommandLine::Wish::Check;
+    ProgressBar bar(line.dataFiles.size(), !line.quiet && !checks &&
+                                               line.dataFiles.size() >= kManyFiles &&
                                                standardErrorIsTerminal());
     StandardError error(bar);
     std::string folder;
     const bool folderStands = ends(
         [&] {
             folder = line.applicationFolder ? *line.applicationFolder : findApplicationFolder();
-            if (!line.applicationFolder) makeApplicationFolder(folder);
+            if (!line.applicationFolder && !checks) makeApplicationFolder(folder);
         },
         error);
-    return folderStands ? runAll(line, folder, error, bar) : kRunTimeFault;
+    if (!folderStands) return checks ? kNotRead : kRunTimeFault;
+    return checks ? checkAll(line, folder) : runAll(line, folder, error, bar);
 }
 
 }  // namespace

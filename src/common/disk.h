@@ -50,7 +50,7 @@ public:
     // that it has (see replace) is emptied at once and written as it goes.
     virtual std::unique_ptr<ByteWriter> openForWriting(const std::string& path) = 0;
 
-    // Writes behind what the file holds; creates it if it is missing.
+    // Writes after what the file holds; creates it if it is missing.
     virtual std::unique_ptr<ByteWriter> openForAppending(const std::string& path) = 0;
 
     // Replaces the content of the file as a whole: afterwards it holds either the old bytes or the

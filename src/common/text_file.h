@@ -8,6 +8,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "common/disk.h"
 
@@ -20,6 +21,8 @@ class TextReader {
 public:
     // Faults as Disk::openForReading.
     TextReader(Disk& disk, const std::string& path);
+    // Of bytes from anywhere.
+    explicit TextReader(std::unique_ptr<ByteReader> bytes) : file_(std::move(bytes)) {}
 
     [[nodiscard]] bool atEnd();
 

@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QIcon>
 #include <QLibraryInfo>
@@ -14,6 +15,7 @@
 #include "common/standard_streams.h"
 #include "desktop/end_signals.h"
 #include "desktop/fault_report.h"
+#include "desktop/help_file.h"
 #include "desktop/look_of_window.h"
 #include "desktop/main_window.h"
 #include "desktop/native_paths.h"
@@ -22,16 +24,6 @@ using namespace kelvo;
 using namespace kelvo::desktop;
 
 namespace {
-
-// The help text comes with the program; the copy in the application folder is the one shown.
-void provideHelpFile(const QString& folder) {
-    const QString target = QDir(folder).filePath(QStringLiteral("KelvoHelp.txt"));
-    if (QFileInfo::exists(target)) return;
-    if (QFile::copy(QStringLiteral(":/kelvo/KelvoHelp.txt"), target)) {
-        QFile::setPermissions(
-            target, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
-    }
-}
 
 // The toolkit would wait for the other end of a pipe.
 void setAsideIfNoFile(const QString& path) {
@@ -51,7 +43,7 @@ int main(int argc, char** argv) {
     secureStandardStreams();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("kelvo"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Kelvo"));
+    // No display name: it would stand after the form's titles.
     QApplication::setApplicationVersion(QStringLiteral(KELVO_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("kelvo"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/kelvo/icon.png")));
@@ -85,10 +77,11 @@ int main(int argc, char** argv) {
         }
         makeApplicationFolder(folder);
         const QString shownFolder = QString::fromStdString(folder);
-        provideHelpFile(shownFolder);
         const QString settingsFile = QDir(shownFolder).filePath(QStringLiteral("window.ini"));
         setAsideIfNoFile(settingsFile);
-        const QSettings settings(settingsFile, QSettings::IniFormat);
+        QSettings settings(settingsFile, QSettings::IniFormat);
+        QFile help(QStringLiteral(":/kelvo/KelvoHelp.txt"));
+        if (help.open(QIODevice::ReadOnly)) provideHelpFile(shownFolder, help.readAll(), settings);
         setTheme(application, themeNamed(parser.isSet(themeOption)
                                              ? parser.value(themeOption)
                                              : settings.value(QStringLiteral("theme")).toString()));

@@ -5,7 +5,6 @@
 #include <QCloseEvent>
 #include <QDir>
 #include <QMenuBar>
-#include <QMimeData>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QStatusBar>
@@ -13,7 +12,8 @@
 #include <chrono>
 #include <cmath>
 
-#include "desktop/native_paths.h"
+#include "desktop/file_drop.h"
+#include "desktop/menu_keys.h"
 #include "desktop/text_viewer.h"
 
 namespace kelvo::desktop {
@@ -22,14 +22,6 @@ namespace {
 
 constexpr double kTwipsPerPixel = 15;
 constexpr int kEntryOpen = 2;  // mnuFileItem(2): 기존파일 열기
-
-std::string droppedDataFile(const QMimeData* data) {
-    for (const QUrl& url : data->urls()) {
-        std::string path = fileOfUrl(url);
-        if (qt(path).endsWith(QLatin1String(".dat"), Qt::CaseInsensitive)) return path;
-    }
-    return {};
-}
 
 }  // namespace
 
@@ -43,7 +35,6 @@ MainWindow::MainWindow(const std::string& applicationFolder)
       unsavedTextBar_(new UnsavedTextBar(this)) {
     setObjectName(QStringLiteral("frmKelvo"));
     setAccessibleDescription(QStringLiteral("frmKelvo"));
-    setAcceptDrops(true);
     dialogParent_.window = this;
     gate_.before = [this](EventGate::Event event) { beforeEvent(event); };
     gate_.after = [this](EventGate::Event event) { afterEvent(event); };
@@ -68,9 +59,11 @@ MainWindow::MainWindow(const std::string& applicationFolder)
     buildPanels();
     bindWindow();
     addShortcuts();
+    leadIntoMenus(*menuBar());
     addThemeButton();
     watchUnsavedText();
     addBringBack();
+    new FileDrop(*this, [this](const std::vector<std::string>& paths) { openFiles(paths); });
 }
 
 MainWindow::~MainWindow() {
@@ -91,9 +84,13 @@ void MainWindow::buildPanels() {
     stage_->setUp(*book_, filePanel_);
 
     filePanel_.panel->installEventFilter(this);
-    filePanel_.path->setText(filePanel_.panel->property("caption").toString());
+    filePanel_.path->setWholeText(filePanel_.panel->property("caption").toString());
     connect(book_->viewer(), &TextViewer::modifiedChanged, filePanel_.unsavedMark,
             &QWidget::setVisible);
+    book_->plotView()->placeAt = [this](QPointF twips, double reach) {
+        const PlotPlace place = program_->plotPlaceAt(twips.x(), twips.y(), reach);
+        return std::pair(qt(place.coordinates), qt(place.point));
+    };
     connect(book_->plotView(), &PlotView::saveFailed, this, [this](const QString& path) {
         messages_.show(
             {.text = (path + QStringLiteral(" 파일을 저장할 수 없습니다.")).toStdString(),
@@ -110,10 +107,11 @@ void MainWindow::bindWindow() {
     window->watch([this, window](Property property) {
         if (property == Property::Caption) setWindowTitle(qt(window->caption()));
         if (property == Property::Place && window->width() > 0) {
-            setGeometry(static_cast<int>(std::lround(window->left() / kTwipsPerPixel)),
-                        static_cast<int>(std::lround(window->top() / kTwipsPerPixel)),
-                        static_cast<int>(std::lround(window->width() / kTwipsPerPixel)),
-                        static_cast<int>(std::lround(window->height() / kTwipsPerPixel)));
+            const auto pixels = [](double twips) {
+                return static_cast<int>(std::lround(twips / kTwipsPerPixel));
+            };
+            place_.put({pixels(window->left()), pixels(window->top()), pixels(window->width()),
+                        pixels(window->height())});
         }
     });
 }
@@ -141,8 +139,7 @@ void MainWindow::addThemeButton() {
     connect(button, &QToolButton::clicked, this, [this] {
         const Theme theme = isDark() ? Theme::Light : Theme::Dark;
         setTheme(*static_cast<QApplication*>(QApplication::instance()), theme);
-        QSettings(QDir(qt(applicationFolder_)).filePath(QStringLiteral("window.ini")),
-                  QSettings::IniFormat)
+        QSettings(settingsFile(), QSettings::IniFormat)
             .setValue(QStringLiteral("theme"), nameOf(theme));
     });
     menuBar()->setCornerWidget(button);
@@ -151,9 +148,14 @@ void MainWindow::addThemeButton() {
 bool MainWindow::start() {
     gate_.run([this] { Main(*program_); });
     if (gate_.isClosed()) return false;
+    place_.restore(QSettings(settingsFile(), QSettings::IniFormat));
     offerUnsavedText();
     show();
     return true;
+}
+
+QString MainWindow::settingsFile() const {
+    return QDir(qt(applicationFolder_)).filePath(QStringLiteral("window.ini"));
 }
 
 void MainWindow::openDataFile(const std::string& path) {
@@ -162,6 +164,19 @@ void MainWindow::openDataFile(const std::string& path) {
         program_->form().find("mnuFileItem")->clickEntry(kEntryOpen);
     });
     dialogs_.forgetChosen();
+}
+
+void MainWindow::openResultFile(const std::string& path) {
+    gate_.run([this, &path] { program_->OpenRichText(path); });
+}
+
+void MainWindow::openFiles(const std::vector<std::string>& paths) {
+    const std::string& path = paths.front();
+    if (qt(path).endsWith(QLatin1String(".dat"), Qt::CaseInsensitive)) {
+        openDataFile(path);
+    } else {
+        openResultFile(path);
+    }
 }
 
 void MainWindow::beforeEvent(EventGate::Event event) {
@@ -201,27 +216,18 @@ void MainWindow::showUnsavedMark() {
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     if (watched == filePanel_.panel && event->type() == QEvent::DynamicPropertyChange) {
-        filePanel_.path->setText(filePanel_.panel->property("caption").toString());
+        filePanel_.path->setWholeText(filePanel_.panel->property("caption").toString());
     }
     return QMainWindow::eventFilter(watched, event);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
+    QSettings settings(settingsFile(), QSettings::IniFormat);
+    place_.remember(settings);
     if (!gate_.isClosed()) {
         gate_.run([this] { program_->Form_Close(); });
     }
     event->setAccepted(gate_.isClosed());
-}
-
-void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
-    if (!droppedDataFile(event->mimeData()).empty()) event->acceptProposedAction();
-}
-
-void MainWindow::dropEvent(QDropEvent* event) {
-    const std::string path = droppedDataFile(event->mimeData());
-    if (path.empty()) return;
-    event->acceptProposedAction();
-    openDataFile(path);
 }
 
 }  // namespace kelvo::desktop

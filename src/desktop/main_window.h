@@ -5,6 +5,7 @@
 #include <QPrinter>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "desktop/event_gate.h"
 #include "desktop/fault_report.h"
@@ -17,6 +18,7 @@
 #include "desktop/timer_alarm.h"
 #include "desktop/unsaved_text_bar.h"
 #include "desktop/widget_book.h"
+#include "desktop/window_place.h"
 #include "shell/frm_kelvo.h"
 #include "shell/journal_folder.h"
 
@@ -36,6 +38,8 @@ public:
     // Does what choosing this data file in the open dialog does. The name is the system's, of any
     // bytes.
     void openDataFile(const std::string& path);
+    // Shows what a run has written.
+    void openResultFile(const std::string& path);
 
     // Ends as closing does, but asks and shows nothing: what is unsaved waits for the next start,
     // and what a box asks is cancelled. For a session that ends and a terminal that goes.
@@ -43,6 +47,9 @@ public:
 
     // Puts away what is unsaved, and the settings as far as they can be, and goes on.
     void prepareForTheEnd();
+
+    // What a printed document is called, and the file that it is printed into: no path, no ending.
+    [[nodiscard]] QString documentName() const;
 
     [[nodiscard]] frmKelvo& program() { return *program_; }
     [[nodiscard]] WidgetBook& book() { return *book_; }
@@ -56,14 +63,13 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
-    void dragEnterEvent(QDragEnterEvent* event) override;
-    void dropEvent(QDropEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     Surface& screen() override;
     Surface& printer() override { return paper_; }
 
+    void openFiles(const std::vector<std::string>& paths);
     void buildPanels();
     void bindWindow();
     void addShortcuts();
@@ -80,6 +86,7 @@ private:
     void reportFault(int number, const std::string& text);
     void printWaitingSheets();
     [[nodiscard]] QPrinter& systemPrinter();
+    [[nodiscard]] QString settingsFile() const;
 
     std::string applicationFolder_;
     EventGate gate_;
@@ -103,6 +110,7 @@ private:
     std::unique_ptr<frmKelvo> program_;
     std::unique_ptr<WidgetBook> book_;
     PanelStage* stage_ = nullptr;
+    WindowPlace place_{*this};
     FilePanel filePanel_;
     UnsavedTextBar* unsavedTextBar_;
     QTimer latestTake_;  // of text typed without a pause

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDateTime>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -13,6 +14,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QStandardPaths>
+#include <QWindow>
 #include <algorithm>
 #include <array>
 
@@ -61,6 +63,22 @@ QMessageBox::StandardButtons buttonsOf(Buttons buttons) {
     return QMessageBox::Ok;
 }
 
+// The toolkit puts the program's name on a window whose title is empty. Only the window of the
+// display gets the blank: to its user the box stays one without a title.
+class EmptyTitle final : public QObject {
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        auto* box = qobject_cast<QWidget*>(watched);
+        if (event->type() == QEvent::Show && box != nullptr && box->windowHandle() != nullptr) {
+            box->windowHandle()->setTitle(QStringLiteral(" "));
+        }
+        return false;
+    }
+};
+
 }  // namespace
 
 Answer ScreenMessages::show(const Message& message) {
@@ -80,6 +98,7 @@ Answer ScreenMessages::show(const Message& message) {
     for (const auto& [button, word] : words) {
         if (auto* shown = box.button(button)) shown->setText(QString::fromUtf8(word));
     }
+    if (message.title.empty()) box.installEventFilter(new EmptyTitle(&box));
     switch (box.exec()) {
         case QMessageBox::Yes:
             return Answer::Yes;
@@ -168,6 +187,15 @@ std::optional<std::string> ScreenDialogs::showPrinterDialog() {
     if (parent_.nobodyAnswers) return std::nullopt;
     const Waiting waiting;
     QPrintDialog dialog(&printer_(), parent_.window);
+    // Nothing is printed here: the printer is chosen.
+    dialog.setWindowTitle(QStringLiteral("Printer설정"));
+    for (const QDialogButtonBox* box : dialog.findChildren<QDialogButtonBox*>()) {
+        for (QAbstractButton* button : box->buttons()) {
+            if (box->buttonRole(button) == QDialogButtonBox::AcceptRole) {
+                button->setText(QStringLiteral("확인(&O)"));
+            }
+        }
+    }
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     return printer_().printerName().toStdString();
 }

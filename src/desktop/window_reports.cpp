@@ -1,5 +1,6 @@
 // What leaves the window: sheets to the printer, and the report of a fault.
 #include <QApplication>
+#include <QFileInfo>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPrintPreviewDialog>
@@ -18,6 +19,12 @@ QPrinter& MainWindow::systemPrinter() {
     return *printer_;
 }
 
+QString MainWindow::documentName() const {
+    const bool plotOnView = program_->form().find("pctPlot")->visible();
+    const QString name = QFileInfo(filePanel_.path->wholeText()).completeBaseName();
+    return plotOnView ? name + QStringLiteral("-그림") : name;
+}
+
 void MainWindow::printWaitingSheets() {
     std::vector<Sheet> sheets = paper_.takeSheets();
     if (onSheets) {
@@ -26,7 +33,7 @@ void MainWindow::printWaitingSheets() {
     }
     // The preview prints through the system's dialog, or into a PDF file without a printer.
     QPrinter& printer = systemPrinter();
-    printer.setDocName(windowTitle());
+    printer.setDocName(documentName());
     QPrintPreviewDialog preview(&printer, this);
     preview.setObjectName(QStringLiteral("printPreview"));
     preview.setWindowTitle(QStringLiteral("인쇄 미리보기"));

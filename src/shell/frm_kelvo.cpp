@@ -5,8 +5,8 @@
 #include "batch/run_batch.h"
 #include "panels/one_point_panel.h"
 #include "panels/parameter_panels.h"
+#include "panels/plot_settings_panel.h"
 #include "panels/print_mode_panel.h"
-#include "panels/scale_panel.h"
 #include "shell/common_dialog.h"
 #include "shell/configuration.h"
 #include "shell/file_menu.h"
@@ -15,6 +15,7 @@
 #include "shell/recent_files.h"
 #include "shell/saved_results.h"
 #include "shell/small_commands.h"
+#include "shell/spoken_commands.h"
 #include "shell/viewer.h"
 
 namespace kelvo {
@@ -32,12 +33,30 @@ ProgramState stateFor(std::string applicationFolder) {
     return state;
 }
 
+Services withMessages(const Services& services, MessageBoxes& messages) {
+    return {.disk = services.disk,
+            .messages = messages,
+            .programs = services.programs,
+            .dialogs = services.dialogs,
+            .rawPrinter = services.rawPrinter,
+            .beeper = services.beeper,
+            .clock = services.clock,
+            .screen = services.screen,
+            .pointer = services.pointer,
+            .surfaces = services.surfaces,
+            .programEnd = services.programEnd,
+            .alarm = services.alarm,
+            .journal = services.journal};
+}
+
 }  // namespace
 
 // Everything in the window, in the order in which it rests on each other.
 struct frmKelvo::Members final : RunView {
     Members(std::string applicationFolder, const Services& theServices)
-        : services(theServices), state(stateFor(std::move(applicationFolder))) {
+        : messages(theServices.messages),
+          services(withMessages(theServices, messages)),
+          state(stateFor(std::move(applicationFolder))) {
         menus.mnuBatchGo.onClick = [this] { mnuBatchGo_Click(); };
     }
 
@@ -48,13 +67,19 @@ struct frmKelvo::Members final : RunView {
     void mnuBatchGo_Click();
 
     // What a run asks of the window.
-    void runBegins() override { frmeOne.setVisible(false); }
+    void runBegins() override {
+        status.runBegins(state.RecentFiles[1]);
+        frmeOne.setVisible(false);
+    }
+    void messageComes(long line, const std::string& text) override { status.add({line, text}); }
     void showResult() override { viewer.showRunResult(); }
 
     void writeCfgFile() { WriteCfgFile(state, services.disk, services.messages); }
 
+    HeardMessages messages;
     Services services;
     ProgramState state;
+    StatusLine status;
     Form form;
     Control& window = form.window("frmKelvo");
     MenuControls menus{form};
@@ -83,6 +108,7 @@ struct frmKelvo::Members final : RunView {
                               viewer, services.disk,         services.messages};
     SmallCommands smallCommands{menus,  frmeOne, viewerControls.frmeFile, state,
                                 viewer, cmd,     services.disk,           services.messages};
+    SpokenCommands spoken{form, state, viewer, messages, status};
 };
 
 void frmKelvo::Members::Form_Load() {
@@ -142,12 +168,25 @@ void frmKelvo::Members::mnuBatchGo_Click() {
                            .detPath = state.inApplicationFolder("kelvo.det"),
                            .CorPath = state.CorPath};
     RunBatch(state.conversion, places, *this, services.disk, services.messages);
+    spoken.sayRun();
 }
 
 frmKelvo::frmKelvo(std::string applicationFolder, const Services& services)
     : members_(std::make_unique<Members>(std::move(applicationFolder), services)) {}
 
 frmKelvo::~frmKelvo() = default;
+
+StatusLine& frmKelvo::status() {
+    return members_->status;
+}
+
+const std::string& frmKelvo::fileOnView() const {
+    return members_->viewer.fileOnView();
+}
+
+void frmKelvo::saveOnView() {
+    members_->viewer.saveOnView();
+}
 
 Form& frmKelvo::form() {
     return members_->form;
@@ -167,6 +206,14 @@ void frmKelvo::Form_Load() {
 
 void frmKelvo::Form_Close() {
     members_->Form_Close();
+}
+
+PlotPlace frmKelvo::plotPlaceAt(double x, double y, double reach) const {
+    return members_->pictures.placeAt(x, y, reach);
+}
+
+void frmKelvo::OpenRichText(const std::string& path) {
+    members_->viewer.OpenRichText(path);
 }
 
 void frmKelvo::UpdateRecentFiles(const std::string& name) {

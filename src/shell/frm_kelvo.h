@@ -12,6 +12,8 @@
 #include "form/form.h"
 #include "form/services.h"
 #include "panels/program_state.h"
+#include "shell/plot_place.h"
+#include "shell/status_line.h"
 
 namespace kelvo {
 
@@ -28,6 +30,9 @@ public:
     [[nodiscard]] ProgramState& state();
     [[nodiscard]] const Services& services() const;
 
+    // What is said without a box.
+    [[nodiscard]] StatusLine& status();
+
     // Places and hides the panels, fills the lists and boxes, restores the plot settings.
     void Form_Load();
 
@@ -37,6 +42,18 @@ public:
 
     // The parameters and plot settings to their files, as at the end. Faults as Form_Close.
     void saveSettings();
+
+    // Shows a text file in the viewer. Fault 53 where there is none.
+    void OpenRichText(const std::string& path);
+
+    // What stands at a place of the plot on the screen, in twips, for a pointer over it; a point
+    // counts as near within `reach`.
+    [[nodiscard]] PlotPlace plotPlaceAt(double x, double y, double reach) const;
+
+    // The file that the text on view belongs to, and saving it there with everything left as it is
+    // on the screen. A fault leaves the old file whole.
+    [[nodiscard]] const std::string& fileOnView() const;
+    void saveOnView();
 
     // Prints a text file in the mode of the print mode panel.
     void PrintFile(const std::string& name);
@@ -74,7 +91,7 @@ private:
 
 // The program's start: reads the configuration (writing a new one and the sample data file
 // where there is none), fills the list of recent files and loads the window. Fault 9 for a list
-// of more than six entries of which none behind the fifth is there (required).
+// of more than six entries of which none after the fifth is there (required).
 void Main(frmKelvo& window);
 
 }  // namespace kelvo

@@ -66,6 +66,7 @@ void ResultViewer::load(const std::string& path) {
     fileName_ = path;
     showText(text);
     journal_.isInItsFile();
+    if (onLoaded) onLoaded(path);
 }
 
 void ResultViewer::showText(const std::string& text) {
@@ -80,6 +81,16 @@ void ResultViewer::showUnsaved(const UnsavedText& text) {
     on_.frmeFile.setCaption(text.path);
     fileName_ = text.path;
     showText(text.text);
+}
+
+void ResultViewer::save(const std::string& path) {
+    saveCopy(path);
+    journal_.isInItsFile();
+    if (onSaved) onSaved(path);
+}
+
+void ResultViewer::saveOnView() {
+    if (!fileName_.empty()) save(fileName_);
 }
 
 void ResultViewer::OpenRichText(const std::string& Path) {
@@ -116,7 +127,7 @@ void ResultViewer::showRunResult() {
 }
 
 void ResultViewer::cmdSave_Click() {
-    saveUnder(fileName_);
+    save(fileName_);
     on_.frmeFile.setVisible(false);
     printMode_.showWhatWasShown();
 }
@@ -134,14 +145,9 @@ void ResultViewer::cmdSaveAs_Click() {
         if (fault.fault() != Fault::DialogCancelled) throw;
         return;
     }
-    saveUnder(name);
+    save(name);
     OpenRichText(name);
     if (upperCased(genSub::FileExtensionOf(name)) == "DAT") recent_.UpdateRecentFiles(name);
-}
-
-void ResultViewer::saveUnder(const std::string& path) {
-    saveCopy(path);
-    journal_.isInItsFile();
 }
 
 void ResultViewer::cmdClose_Click() {
@@ -152,7 +158,7 @@ void ResultViewer::cmdClose_Click() {
 void ResultViewer::saveAndHide(const std::string& name) {
     on_.Richtxt.setVisible(false);
     fileName_ = name;
-    saveUnder(name);
+    save(name);
 }
 
 void ResultViewer::saveCopy(const std::string& name) {

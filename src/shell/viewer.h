@@ -2,6 +2,7 @@
 // plot in the same place.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "panels/print_mode_panel.h"
@@ -64,6 +65,16 @@ public:
     // A copy of the text for printing; the name that the box keeps stays.
     void saveCopy(const std::string& name);
 
+    // The name that the box keeps: where cmdSave writes. Empty before the first text.
+    [[nodiscard]] const std::string& fileOnView() const { return fileName_; }
+
+    // Writes the text to the file on view and leaves everything as it is on the screen.
+    void saveOnView();
+
+    // For whoever speaks of it: called when a text has been loaded from a file or saved to one.
+    std::function<void(const std::string& path)> onLoaded;
+    std::function<void(const std::string& path)> onSaved;
+
     // True while the caption of cmdShow says that the numbers are on view.
     [[nodiscard]] bool numbersOnView() const;
 
@@ -71,7 +82,7 @@ private:
     void showTextPanel();
     void load(const std::string& path);
     void showText(const std::string& text);
-    void saveUnder(const std::string& path);
+    void save(const std::string& path);
 
     const ViewerControls& on_;
     const ScaleControls& scale_;

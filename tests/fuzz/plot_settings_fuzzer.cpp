@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "fuzz/whole_form.h"
-#include "panels/scale_panel.h"
+#include "panels/plot_settings_panel.h"
 #include "plot/clsplot1.h"
 #include "plot/point_plots.h"
 #include "support/recording_messages.h"
@@ -70,14 +70,13 @@ struct SettingsAlone {
                           .texts = texts,
                           .messages = messages};
         try {
-            plot(object, kScreen, screen, source);
+            plot(object, SurfaceKind::Screen, screen, source);
             panel.SavePcfgFile();
         } catch (const RuntimeFault&) {
             // reported to the user, who starts again
         }
     }
 
-    static constexpr int kScreen = 2;
     struct Starts final : public ProgramStarter {
         void start(const std::string& command) override {
             require(command == "control.exe", "only control.exe is started: ", command);

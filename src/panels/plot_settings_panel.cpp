@@ -1,4 +1,4 @@
-#include "panels/scale_panel.h"
+#include "panels/plot_settings_panel.h"
 
 #include <algorithm>
 #include <string>
@@ -28,7 +28,7 @@ std::string numberInFile(float value) {
 
 std::string textOf(const PlotCfg& cfg) {
     std::string text;
-    for (const std::int16_t number : {cfg.PlotKind, cfg.PlotManual})
+    for (const std::int16_t number : {static_cast<std::int16_t>(cfg.PlotKind), cfg.PlotManual})
         text.append(numberInFile(number)).append(kLineEnd);
     text.append(numberInFile(cfg.PlotFontSize)).append(kLineEnd);
     for (const PlotScale* scale : {&cfg.WGS, &cfg.UGS, &cfg.XY}) {
@@ -108,9 +108,22 @@ PlotSettingsPanel::PlotSettingsPanel(Form& form, ProgramState& state, Disk& disk
     on_.txtFontSize.onFocus = [this] { r(on_.txtFontSize); };
 }
 
-void PlotSettingsPanel::showScale(const std::array<std::string, 4>& texts) {
-    const auto boxes = on_.scaleBoxes();
-    for (std::size_t i = 0; i < boxes.size(); ++i) boxes[i]->setText(texts[i]);
+void PlotSettingsPanel::takeScale(PointPlot drawn, const std::array<std::string, 4>& texts) {
+    if (chosenKind() == drawn) {
+        const auto boxes = on_.scaleBoxes();
+        for (std::size_t i = 0; i < boxes.size(); ++i) boxes[i]->setText(texts[i]);
+        SavePcfgFile();
+        return;
+    }
+    PlotScale* scale = state_.plotCfg.scaleOf(drawn);
+    for (std::size_t i = 0; scale != nullptr && i < texts.size(); ++i)
+        scale->*kFields[i] = valueOf(strictNumber(texts[i]), drawn, messages_);
+}
+
+// A box as the settings hold it: metres, or decimal degrees for the ddd.mmss of the angle plots.
+float PlotSettingsPanel::valueOf(double number, PointPlot kind, MessageBoxes& messages) {
+    if (kind == PointPlot::XY) return toSingle(number);
+    return toSingle(reportedDegrees(messages, number, KelvoSub::DmsToDeg(number)));
 }
 
 void PlotSettingsPanel::showAngles(const PlotScale& scale) {
@@ -149,26 +162,25 @@ void PlotSettingsPanel::optManual_Click() {
     on_.frmeManual.setEnabled(true);
 }
 
+PointPlot PlotSettingsPanel::chosenKind() const {
+    if (on_.optWGS.value()) return PointPlot::WGS;
+    if (on_.optUGS.value()) return PointPlot::UGS;
+    if (on_.optXY.value()) return PointPlot::XY;
+    return state_.plotCfg.PlotKind;  // none is on before the settings were restored
+}
+
 void PlotSettingsPanel::SavePcfgFile() {
     takePanel(state_.plotCfg, messages_);
     writePcfgFile();
 }
 
 void PlotSettingsPanel::takePanel(PlotCfg& cfg, MessageBoxes& messages) const {
-    if (on_.optXY.value()) cfg.PlotKind = 3;
-    if (on_.optUGS.value()) cfg.PlotKind = 2;
-    if (on_.optWGS.value()) cfg.PlotKind = 1;
-
+    cfg.PlotKind = chosenKind();
+    PlotScale* scale = cfg.scaleOf(cfg.PlotKind);
     const auto boxes = on_.scaleBoxes();
     for (std::size_t i = 0; i < boxes.size(); ++i) {
         const double number = strictNumberOf(*boxes[i]);
-        if (cfg.PlotKind == 3) {
-            cfg.XY.*kFields[i] = toSingle(number);
-        } else if (cfg.PlotKind == 1 || cfg.PlotKind == 2) {
-            PlotScale& scale = cfg.PlotKind == 1 ? cfg.WGS : cfg.UGS;
-            scale.*kFields[i] =
-                toSingle(reportedDegrees(messages, number, KelvoSub::DmsToDeg(number)));
-        }
+        if (scale != nullptr) scale->*kFields[i] = valueOf(number, cfg.PlotKind, messages);
     }
     cfg.PlotManual = on_.optAuto.value() ? 0 : 1;
     cfg.PlotFontSize = toSingle(strictNumberOf(on_.txtFontSize));
@@ -210,7 +222,7 @@ std::string PlotSettingsPanel::path() const {
 
 void PlotSettingsPanel::readInto(PlotCfg& cfg) const {
     TextReader file(disk_, path());
-    cfg.PlotKind = roundedInteger16(file.readNumber());
+    cfg.PlotKind = static_cast<PointPlot>(roundedInteger16(file.readNumber()));
     cfg.PlotManual = roundedInteger16(file.readNumber());
     cfg.PlotFontSize = toSingle(file.readNumber());
     readScale(file, cfg.WGS);
@@ -223,9 +235,9 @@ void PlotSettingsPanel::showSettings() {
     optWGS_Click();
     optUGS_Click();
     optXY_Click();
-    if (cfg.PlotKind == 1) optWGS_Click();
-    if (cfg.PlotKind == 2) optUGS_Click();
-    if (cfg.PlotKind == 3) optXY_Click();
+    if (cfg.PlotKind == PointPlot::WGS) optWGS_Click();
+    if (cfg.PlotKind == PointPlot::UGS) optUGS_Click();
+    if (cfg.PlotKind == PointPlot::XY) optXY_Click();
     (cfg.PlotManual != 0 ? on_.optManual : on_.optAuto).switchOn();
     on_.txtFontSize.setText(singleText(cfg.PlotFontSize, true));
 }
@@ -241,7 +253,7 @@ void PlotSettingsPanel::RestorePcfgFile() {
         [&](int recovery) {
             // Scales that can't be shown would come back from the new file again and again.
             if (recovery == 2) cfg.WGS = cfg.UGS = cfg.XY = PlotScale{};
-            cfg.PlotKind = 3;
+            cfg.PlotKind = PointPlot::XY;
             cfg.PlotManual = 0;
             cfg.PlotFontSize = 8;
             disk_.replace(path(), textOf(cfg));
