@@ -1,5 +1,4 @@
-// What a conversion works on and leaves. The application has one, whoever runs it: a batch run or
-// a click.
+// What conversions work on and leave. The application has one, for its batch runs and its clicks.
 #pragma once
 
 #include "common/fields.h"

@@ -18,7 +18,7 @@ bool isCommentOrBlank(const FieldStore& fields) {
 void fillSlot(CorrPoint& point, const FieldStore& fields, MessageBoxes& messages) {
     const auto degrees = [&](int n) {
         const double given = fields.FieldNum(n);
-        return toldDegrees(messages, given, KelvoSub::DmsToDeg(given));
+        return reportedDegrees(messages, given, KelvoSub::DmsToDeg(given));
     };
     point.Name = fields.FieldStr(1);
     point.WgsH = fields.FieldNum(4);

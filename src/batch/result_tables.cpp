@@ -97,7 +97,7 @@ void PrintResultTables(PointTable& points, TextWriter& out, AngleForm AngleOut, 
     const WgsUtmGrid wgsGrid(utmOriginOf(para));
     eachPoint([&](PointRec& p) {
         const auto result = wgsGrid.at({.Phi = p.WgsPhi, .Lam = p.WgsLam}, para.UZone, para.ULam0);
-        const GridPoint& grid = told(messages, result, Remark::Kind::NotProjected);
+        const GridPoint& grid = reported(messages, result, Remark::Kind::NotProjected);
         p.WgsUtmX = grid.X;
         p.WgsUtmY = grid.Y;
         p.WgsUtmH = p.TmH;

@@ -28,7 +28,7 @@ public:
 [[nodiscard]] std::string resultFileOf(const std::string& dataFile);
 
 // Runs the data file. Every fault of files and arithmetic ends it, reports standing as far as
-// they were written, except a failure to show the result, which is told in a message.
+// they were written, except a failure to show the result, which is shown in a message.
 void RunBatch(ConversionState& state, const RunPlaces& places, RunView& view, Disk& disk,
               MessageBoxes& messages);
 

@@ -94,13 +94,13 @@ void tell(MessageBoxes& messages, Remark::Kind kind, int times) {
     for (; times > 0; --times) tell(messages, {&remark, 1});
 }
 
-double toldDegrees(MessageBoxes& messages, double given, const ParsedAngle& angle) {
+double reportedDegrees(MessageBoxes& messages, double given, const ParsedAngle& angle) {
     const Remark remark = doubtfulAngle(given, angle);
     tell(messages, {&remark, 1});
     return angle.degrees;
 }
 
-const DegreesMinutesSeconds& toldParts(MessageBoxes& messages, double x, const SplitAngle& split) {
+const DegreesMinutesSeconds& reportedParts(MessageBoxes& messages, double x, const SplitAngle& split) {
     if (!split.rebuilds) messages.tell(badSplit(x, split.parts));
     return split.parts;
 }

@@ -26,15 +26,15 @@ void tell(MessageBoxes& messages, Remark::Kind kind, int times = 1);
 
 // The result, after the box for one that failed.
 template <class T>
-const T& told(MessageBoxes& messages, const Guarded<T>& result, Remark::Kind kind) {
+const T& reported(MessageBoxes& messages, const Guarded<T>& result, Remark::Kind kind) {
     if (result.failed) tell(messages, kind);
     return result.value;
 }
 
 // The degrees of an angle read from ddd.mmssss, after the boxes for a doubtful one.
-double toldDegrees(MessageBoxes& messages, double given, const ParsedAngle& angle);
+double reportedDegrees(MessageBoxes& messages, double given, const ParsedAngle& angle);
 
 // The parts of an angle, after the box for a split that doesn't rebuild it.
-const DegreesMinutesSeconds& toldParts(MessageBoxes& messages, double x, const SplitAngle& split);
+const DegreesMinutesSeconds& reportedParts(MessageBoxes& messages, double x, const SplitAngle& split);
 
 }  // namespace kelvo

@@ -22,7 +22,7 @@ struct FieldStore {
     std::array<std::string, kMostFields + 1> strings;
     std::array<double, kMostFields + 1> doubles{};
     std::array<float, kMostFields + 1> singles{};
-    int filled = 0;  // fields behind this one are empty
+    int filled = 0;  // fields after this one are empty
 };
 
 namespace genSub {
@@ -31,7 +31,7 @@ namespace genSub {
 // run counts as one. Every field of the line before is gone. Fault 9 for more than 100.
 void ParseFields(FieldStore& store, int maxFields);
 
-// Parses with `last` as limit and joins the fields first to last, one blank behind each; stops
+// Parses with `last` as limit and joins the fields first to last, one blank after each; stops
 // at the first empty one.
 [[nodiscard]] std::string JoinFields(FieldStore& store, int first, int last);
 

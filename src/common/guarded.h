@@ -4,7 +4,7 @@
 namespace kelvo {
 
 // A result; or, for data that can't be computed, the stand-in that the routine states, and that
-// it failed. Whoever called tells the user.
+// it failed; the caller reports that.
 template <class T>
 struct Guarded {
     T value{};

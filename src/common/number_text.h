@@ -39,7 +39,7 @@ struct Decimal15 {
 [[nodiscard]] Decimal15 decimal15(double value);
 
 // The general text of a number: at most 15 significant digits, no trailing zeros; without an
-// exponent while it fits into 15 digits, zeros behind the point counted, otherwise as 1.5E-20.
+// exponent while it fits into 15 digits, zeros after the point counted, otherwise as 1.5E-20.
 [[nodiscard]] std::string generalText(double value);
 
 // The same as it stands in a file: no zero in front of the point (".5").

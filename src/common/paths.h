@@ -10,7 +10,7 @@
 
 namespace kelvo::genSub {
 
-// What stands behind the last point, empty if there is none. The last point of the whole path
+// What stands after the last point, empty if there is none. The last point of the whole path
 // counts, also one in a folder's name.
 [[nodiscard]] std::string FileExtensionOf(std::string_view path);
 
@@ -31,10 +31,10 @@ inline constexpr int kFileIsOpen = 3;
 // open; no value for anything else, such as a folder.
 [[nodiscard]] std::optional<int> FileExists(Disk& disk, const std::string& path);
 
-// Starts a program without waiting for it; a failure is told in a message box.
+// Starts a program without waiting for it; a failure is shown in a message box.
 void RunProgram(ProgramStarter& programs, MessageBoxes& messages, const std::string& command);
 
-// Copies a file on disk; a failure is told in a message box.
+// Copies a file on disk; a failure is shown in a message box.
 void CopyFileGuard(Disk& disk, MessageBoxes& messages, const std::string& source,
                    const std::string& target);
 

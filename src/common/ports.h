@@ -10,7 +10,7 @@ enum class Icon { None, Information, Question, Warning };
 enum class Buttons { Ok, OkCancel, YesNoCancel };
 enum class Answer { Ok, Yes, No, Cancel };
 
-// A modal box. Texts are UTF-8; lines inside are parted by CR LF.
+// A modal box. Texts are UTF-8; lines inside are separated by CR LF.
 struct Message {
     std::string text;
     Icon icon = Icon::None;

@@ -7,8 +7,8 @@
 // on the meridian arc in the third flattening n (F. R. Helmert, Die mathematischen und
 // physikalischen Theorieen der höheren Geodäsie I, 1880; DMA TM 8358.2, 2-4).
 //
-// Error: within 4 degrees of the central meridian it agrees with the exact projection to better
-// than kSeriesError; see docs/numbers.md. Left out: grid scale and convergence. No range is
+// Error: within kSeriesWidth degrees of the central meridian it agrees with the exact projection
+// to better than kSeriesError; see docs/numbers.md. Left out: grid scale and convergence. No range is
 // checked: any finite position gives numbers. Terms are added in a fixed order, since printed
 // digits depend on it.
 //
@@ -29,7 +29,7 @@ namespace kelvo {
 // Metres by which the series may differ from the exact projection within kSeriesWidth degrees of
 // the central meridian.
 inline constexpr double kSeriesError = 1e-5;
-inline constexpr double kSeriesWidth = 4;
+inline constexpr double kSeriesWidth = 3;
 
 // Origin and scale of a transverse Mercator grid.
 struct Projection {

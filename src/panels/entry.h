@@ -14,7 +14,7 @@ namespace kelvo {
 void r(Control& Box);
 
 // The number at the front of a text, 0 if there is none. A number that a double can't hold is
-// told in a message box and counts as 0.
+// shown in a message box and counts as 0.
 [[nodiscard]] double v(const std::string& text, MessageBoxes& messages);
 
 // The strict way from a box to a number, which doesn't forgive: the whole text, blanks at its
@@ -22,7 +22,7 @@ void r(Control& Box);
 // the box by its label.
 [[nodiscard]] double strictNumberOf(const Control& Box);
 
-// v for the boxes of one click: a box that is read twice is told of once, as long as its text
+// v for the boxes of one click: a box that is read twice is reported once, as long as its text
 // stays the same.
 class BoxReader {
 public:

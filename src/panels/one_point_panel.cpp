@@ -156,7 +156,7 @@ void OnePointPanel::synchronise(const AnglePair& angles, BoxReader& read) {
         const double given = read(*from[i]);
         const double turned = ofBox(*from[i], [&] {
             return fromDegrees ? KelvoSub::DegToDms(given)
-                               : toldDegrees(messages_, given, KelvoSub::DmsToDeg(given));
+                               : reportedDegrees(messages_, given, KelvoSub::DmsToDeg(given));
         });
         to[i]->setText(generalText(turned));
     }
@@ -207,7 +207,7 @@ void OnePointPanel::cmdW2B_Click() {
     const double l = read(on_.txtWdegLam);
     const double h = read(on_.txtWdegTH);
     const Ellipsoid user = ellipsoidOf(read, para_.txta, para_.txtf);
-    const Geographic shifted = told(messages_, KelvoSub::WgsToUser(datum.shift, p, l, h, user),
+    const Geographic shifted = reported(messages_, KelvoSub::WgsToUser(datum.shift, p, l, h, user),
                                     Remark::Kind::NotGeographic);
     double up = finite(read(para_.txtdPhi) / 3600 + shifted.Phi);
     double ul = finite(read(para_.txtdLam) / 3600 + shifted.Lam);
@@ -247,7 +247,7 @@ void OnePointPanel::cmdB2W_Click() {
     const double NB = KelvoSub::GeoidHeightBessel(datum.geoid, p, l);
     const double E = finite(NB + strictNumberOf(on_.txtBdegH));
     const Ellipsoid user = ellipsoidOf(read, para_.txta, para_.txtf);
-    const Geographic shifted = told(messages_, KelvoSub::UserToWgs(datum.shift, p, l, E, user),
+    const Geographic shifted = reported(messages_, KelvoSub::UserToWgs(datum.shift, p, l, E, user),
                                     Remark::Kind::NotGeographic);
     double wp = finite(shifted.Phi - read(para_.txtdPhi) / 3600);
     double wl = finite(shifted.Lam - read(para_.txtdLam) / 3600);
@@ -311,7 +311,7 @@ void OnePointPanel::cmdGP2TM_Click() {
     parameters_.followZone(l);
     const double Lam0 = shiftedLam0(read);
     const Ellipsoid user = ellipsoidOf(read, para_.txta, para_.txtf);
-    const GridPoint grid = told(messages_, KelvoSub::GeoToTM(p, l, user, tmOrigin(read, Lam0)),
+    const GridPoint grid = reported(messages_, KelvoSub::GeoToTM(p, l, user, tmOrigin(read, Lam0)),
                                 Remark::Kind::NotProjected);
 
     write(on_.txtX, grid.X, kGrid);
@@ -329,7 +329,7 @@ Position OnePointPanel::positionOfTmBoxes(BoxReader& read) {
     const double X = read(on_.txtX);
     const double Y = read(on_.txtY);
     const Ellipsoid user = ellipsoidOf(read, para_.txta, para_.txtf);
-    return told(messages_, KelvoSub::TMToGeo(X, Y, user, tmOrigin(read, Lam0)),
+    return reported(messages_, KelvoSub::TMToGeo(X, Y, user, tmOrigin(read, Lam0)),
                 Remark::Kind::NotUnprojected);
 }
 
@@ -359,7 +359,7 @@ void OnePointPanel::cmdTM2UTM_Click() {
 
     parameters_.followUtmZone(at.Lam);
     const Ellipsoid utm = ellipsoidOf(read, para_.txtUa, para_.txtUf);
-    const GridPoint grid = told(messages_, KelvoSub::GeoToTM(at.Phi, at.Lam, utm, utmOrigin(read)),
+    const GridPoint grid = reported(messages_, KelvoSub::GeoToTM(at.Phi, at.Lam, utm, utmOrigin(read)),
                                 Remark::Kind::NotProjected);
 
     write(on_.txtUX, grid.X, kGrid);
@@ -372,7 +372,7 @@ void OnePointPanel::cmdUTM2TM_Click() {
     const double UX = read(on_.txtUX);
     const double UY = read(on_.txtUY);
     const Ellipsoid utm = ellipsoidOf(read, para_.txtUa, para_.txtUf);
-    const Position at = told(messages_, KelvoSub::TMToGeo(UX, UY, utm, utmOrigin(read)),
+    const Position at = reported(messages_, KelvoSub::TMToGeo(UX, UY, utm, utmOrigin(read)),
                              Remark::Kind::NotUnprojected);
 
     // Required: the zone goes by the longitude that stands in the user frame, which may be an
@@ -381,7 +381,7 @@ void OnePointPanel::cmdUTM2TM_Click() {
     const double Lam0 = shiftedLam0(read);
     const Ellipsoid user = ellipsoidOf(read, para_.txta, para_.txtf);
     const GridPoint grid =
-        told(messages_, KelvoSub::GeoToTM(at.Phi, at.Lam, user, tmOrigin(read, Lam0)),
+        reported(messages_, KelvoSub::GeoToTM(at.Phi, at.Lam, user, tmOrigin(read, Lam0)),
              Remark::Kind::NotProjected);
 
     write(on_.txtX, grid.X, kGrid);

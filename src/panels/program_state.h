@@ -16,7 +16,7 @@ struct ProgramState {
     std::string CfgPath;
     std::string CorPath;
 
-    // Entries 1 to 5; entry 1 is the current data file, empty entries stand behind the others.
+    // Entries 1 to 5; entry 1 is the current data file, empty entries stand after the others.
     std::array<std::string, 6> RecentFiles;
 
     TransPara Cfg;    // the stored parameters; the panels are their working copy

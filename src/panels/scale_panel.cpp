@@ -99,7 +99,7 @@ void PlotSettingsPanel::SavePcfgFile() {
         } else if (cfg.PlotKind == 1 || cfg.PlotKind == 2) {
             PlotScale& scale = cfg.PlotKind == 1 ? cfg.WGS : cfg.UGS;
             scale.*kFields[i] =
-                toSingle(toldDegrees(messages_, number, KelvoSub::DmsToDeg(number)));
+                toSingle(reportedDegrees(messages_, number, KelvoSub::DmsToDeg(number)));
         }
     }
     cfg.PlotManual = on_.optAuto.value() ? 0 : 1;

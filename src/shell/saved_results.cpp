@@ -34,7 +34,7 @@ SavedResults::SavedResults(const MenuControls& menus, const ParameterControls& p
 
 std::string SavedResults::dms(const Control& box) {
     const double x = strictNumberOf(box);
-    const DegreesMinutesSeconds angle = toldParts(messages_, x, KelvoSub::DegToDmsParts(x));
+    const DegreesMinutesSeconds angle = reportedParts(messages_, x, KelvoSub::DegToDmsParts(x));
     return genSub::FormatNum(static_cast<double>(angle.D), 4, 0) + "-" +
            genSub::FormatNum(static_cast<double>(angle.M), 2, 0) + "-" +
            genSub::FormatNum(angle.S, 2, 4);

@@ -48,15 +48,14 @@ def main():
         config.flush()
         os.environ["QT_QPA_PLATFORM"] = "offscreen:configfile=" + config.name
         for name in names:
-            text = (folder / (name + ".transcript")).read_text(encoding="utf-8")
-            expected = seen(text.replace("<free:owner>", goldens.OWNER).splitlines())
+            expected = seen(goldens.stored(folder / (name + ".transcript")))
             found = seen(goldens.run(driver, folder, name))
             if found == expected:
                 continue
             failed += 1
             print("differs: " + name)
-            print("\n".join(difflib.unified_diff(expected, found, "expected", "found",
-                                                 lineterm="")))
+            print("\n".join(difflib.unified_diff(goldens.folded(expected), goldens.folded(found),
+                                                 "expected", "found", lineterm="")))
     print("%d sessions, %d differ" % (len(names), failed))
     return 1 if failed or not names else 0
 

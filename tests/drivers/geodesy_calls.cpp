@@ -60,16 +60,16 @@ void shifted(RoutineBench& bench, Arguments& in, AnswerLine& out) {
 }
 
 void answer(RoutineBench& bench, AnswerLine& out, const Guarded<Geographic>& result) {
-    answer(out, told(bench.messages, result, Remark::Kind::NotGeographic));
+    answer(out, reported(bench.messages, result, Remark::Kind::NotGeographic));
 }
 
 void answer(RoutineBench& bench, AnswerLine& out, const Guarded<GridPoint>& result) {
-    const GridPoint& grid = told(bench.messages, result, Remark::Kind::NotProjected);
+    const GridPoint& grid = reported(bench.messages, result, Remark::Kind::NotProjected);
     out.number(grid.X).number(grid.Y);
 }
 
 void answer(RoutineBench& bench, AnswerLine& out, const Guarded<Position>& result) {
-    const Position& position = told(bench.messages, result, Remark::Kind::NotUnprojected);
+    const Position& position = reported(bench.messages, result, Remark::Kind::NotUnprojected);
     out.number(position.Phi).number(position.Lam);
 }
 
@@ -233,24 +233,24 @@ const Routines kRoutines = {
     {"SplitDeg",
      [](RoutineBench& bench, Arguments& in, AnswerLine& out) {
          const double x = in.number();
-         parts(out, toldParts(bench.messages, x, SplitDeg(x)));
+         parts(out, reportedParts(bench.messages, x, SplitDeg(x)));
      }},
     {"ParseDms",
      [](RoutineBench& bench, Arguments& in, AnswerLine& out) {
          const double x = in.number();
-         out.number(toldDegrees(bench.messages, x, ParseDms(x)));
+         out.number(reportedDegrees(bench.messages, x, ParseDms(x)));
      }},
     {"DmsToDeg",
      [](RoutineBench& bench, Arguments& in, AnswerLine& out) {
          const double x = in.number();
-         out.number(toldDegrees(bench.messages, x, DmsToDeg(x)));
+         out.number(reportedDegrees(bench.messages, x, DmsToDeg(x)));
      }},
     {"DegToDms",
      [](RoutineBench&, Arguments& in, AnswerLine& out) { out.number(DegToDms(in.number())); }},
     {"DegToDmsParts",
      [](RoutineBench& bench, Arguments& in, AnswerLine& out) {
          const double x = in.number();
-         parts(out, toldParts(bench.messages, x, DegToDmsParts(x)));
+         parts(out, reportedParts(bench.messages, x, DegToDmsParts(x)));
      }},
     {"AngleText",
      [](RoutineBench&, Arguments& in, AnswerLine& out) {

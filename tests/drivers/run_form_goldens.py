@@ -7,8 +7,9 @@ NAME.app is the application folder that a session starts with (none: an empty on
 NAME.txt the script, or NAME.1.txt, NAME.2.txt, ... run in turn on one folder, and NAME.transcript
 what they print. "@APP@" in scripts and files stands for the application folder and shows as APP
 in a transcript, the editor of a first start as EDITOR, the owner's line as <free:owner>. Of a
-fault only the number counts. --renew writes the transcripts anew: read the difference before
-committing it. --wine runs a driver built for Windows; the transcripts hold there too, see OnWindows.
+fault only the number counts. A value with line ends inside, a whole report say, stands in a stored
+transcript line by line, each line after the first behind ">> ". --renew writes the transcripts
+again: read the difference before committing it. --wine runs a driver built for Windows; the transcripts hold there too, see OnWindows.
 """
 import difflib
 import os
@@ -21,6 +22,8 @@ import tempfile
 
 OWNER = ""
 TIME_LIMIT = 60
+LINE_END = r"\r\n"  # as a transcript shows one inside a value
+NEXT = ">> "
 
 
 class Here:
@@ -85,6 +88,27 @@ class OnWindows(Here):
         return re.sub(r"APP/[^|\s]*", lambda m: "APP" + m[0][3:].lower(), line)
 
 
+def folded(lines):
+    """Values with line ends inside, line by line."""
+    return [part for line in lines
+            for part in line.replace(LINE_END, LINE_END + "\n" + NEXT).split("\n")]
+
+
+def unfolded(lines):
+    whole = []
+    for line in lines:
+        if line.startswith(NEXT):
+            whole[-1] += line[len(NEXT):]
+        else:
+            whole.append(line)
+    return whole
+
+
+def stored(path):
+    """The lines of a stored transcript as the driver writes them."""
+    return unfolded(path.read_text(encoding="utf-8").replace("<free:owner>", OWNER).splitlines())
+
+
 def prepare(source, folder, platform):
     folder.mkdir()
     if source.is_dir():
@@ -139,15 +163,16 @@ def main():
         expected_path = goldens / (name + ".transcript")
         found = run(driver, goldens, name, platform)
         if renew:
-            expected_path.write_text("".join(line + "\n" for line in found), encoding="utf-8")
+            expected_path.write_text("".join(line + "\n" for line in folded(found)),
+                                     encoding="utf-8")
             continue
-        expected = [platform.expected(without_free_words(line.replace("<free:owner>", OWNER)))
-                    for line in expected_path.read_text(encoding="utf-8").splitlines()]
+        expected = [platform.expected(without_free_words(line)) for line in stored(expected_path)]
         if found == expected:
             continue
         failed += 1
         print("differs: " + name)
-        print("\n".join(difflib.unified_diff(expected, found, "expected", "found", lineterm="")))
+        print("\n".join(difflib.unified_diff(folded(expected), folded(found), "expected", "found",
+                                             lineterm="")))
     print("%d sessions, %d differ" % (len(names), failed))
     return 1 if failed or not names else 0
 

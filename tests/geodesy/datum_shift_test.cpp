@@ -67,6 +67,14 @@ TEST(XYZToGeo, AtTenDegreesTheErrorIsBelowTheResolution) {
     EXPECT_NEAR(back.h, 0, 5e-7);
 }
 
+TEST(XYZToGeo, FailsFromItsNamedLatitudeOn) {
+    const auto failsAt = [](double latitude) {
+        return KelvoSub::XYZToWgs(KelvoSub::WgsToXYZ(latitude, 127, 0)).failed;
+    };
+    EXPECT_TRUE(failsAt(kLatitudeWithoutResult));
+    EXPECT_FALSE(failsAt(kLatitudeWithoutResult - 0.0002));
+}
+
 TEST(XYZToGeo, FailsFromFortyEightDegreesOn) {
     for (const double latitude : {48.0, 50.0, 60.0, 75.0, 85.32, 89.0, -48.0, -70.0}) {
         const auto back = KelvoSub::XYZToWgs(KelvoSub::WgsToXYZ(latitude, 127, 0));

@@ -6,7 +6,8 @@
 PROGRAM is kelvo-batch, behind whatever starts it. A run is NAME.dat with NAME.out, NAME.det and,
 if anything is said, NAME.err; known points stand in NAME.cor or, for all of a folder, in
 kelvo.cor. With --reference the independent calculation takes the program's place. --renew
-writes what the program gives in examples/, but only where the independent calculation agrees.
+writes what the program gives, but only where the independent calculation agrees; a run that ends
+otherwise than before is left to be renewed by hand.
 """
 
 import argparse
@@ -38,11 +39,13 @@ def main():
             known = next((k for k in (data.with_suffix(".cor"), folder / "kelvo.cor") if k.exists()), None)
             files = data.read_bytes(), known.read_bytes() if known else None
             found = run_reference(*files) if options.reference else run_program(options.program, *files)
-            if options.renew and folder == FOLDERS[0]:
-                difference = found.difference(run_reference(*files))
-                if not difference:
-                    data.with_suffix(".out").write_bytes(found.parts["out"])
-                    data.with_suffix(".det").write_bytes(found.parts["det"])
+            if options.renew:
+                difference = (found.difference(run_reference(*files))
+                              or found.difference(stored(data), ("err", "exit code")))
+                for report in ("out", "det"):
+                    target = data.with_suffix("." + report)
+                    if not difference and (target.exists() or found.parts[report] != b"(missing)"):
+                        target.write_bytes(found.parts[report])
             else:
                 difference = found.difference(stored(data))
             count += 1
