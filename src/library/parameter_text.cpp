@@ -38,8 +38,9 @@ private:
         if (rest_.empty()) return false;
         const std::size_t end = rest_.find_first_of("\r\n");
         fields_.LineBuf.assign(rest_.substr(0, end));
-        const std::size_t length =
-            end == std::string_view::npos ? rest_.size() : end + (rest_.substr(end, 2) == "\r\n" ? 2 : 1);
+        const std::size_t length = end == std::string_view::npos
+                                       ? rest_.size()
+                                       : end + (rest_.substr(end, 2) == "\r\n" ? 2 : 1);
         rest_.remove_prefix(length);
         ++line_;
         return true;
@@ -119,13 +120,13 @@ private:
         const long commandLine = line_;
         const std::span<const int> numbers = furtherLines(command);
         std::size_t further = 0;
-        ParameterLines lines{.fields = fields_, .readLine = [&] {
-                                 if (!nextLine())
-                                     refuse(commandLine, "파라미터가 끝까지 있지 않습니다. 이 줄 다음에 " +
-                                                             std::to_string(numbers.size()) +
-                                                             "줄이 있어야 합니다");
-                                 requireNumbers(1, numbers[further++]);
-                             }};
+        ParameterLines lines{
+            .fields = fields_, .readLine = [&] {
+                if (!nextLine())
+                    refuse(commandLine, "파라미터가 끝까지 있지 않습니다. 이 줄 다음에 " +
+                                            std::to_string(numbers.size()) + "줄이 있어야 합니다");
+                requireNumbers(1, numbers[further++]);
+            }};
         static_cast<void>(changeParameters(result_.para, command, lines));
         if (command == Command::Correction) result_.correctionLine = commandLine;
         if (command == Command::TmParameters)
