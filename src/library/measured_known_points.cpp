@@ -51,7 +51,7 @@ void read(ConversionState& state, std::string_view text, const std::string& name
     try {
         ReadCorrFile(state.known, file, state.fields, messages);
     } catch (const RuntimeFault& fault) {
-        throw BadDefinition(name, file.linesRead(), fault.text());
+        throw BadDefinition(name, file.lineInHand(), fault.text());
     }
 }
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "convert/refusal.h"
 
 namespace kelvo {
@@ -24,7 +26,7 @@ TEST(ColumnChoice, ColumnsAreFoundByNumberAndByName) {
 
 TEST(ColumnChoice, TheCaseOfANameCounts) {
     EXPECT_EQ(places("id,LAT,lon", kHeader, true)[1], 4U);
-    EXPECT_THROW((void)places("id,Lat,lon", kHeader, true), Refusal);
+    EXPECT_THROW(std::ignore = places("id,Lat,lon", kHeader, true), Refusal);
 }
 
 TEST(ColumnChoice, NameAndThirdValueMayBeLeftOut) {
@@ -35,27 +37,27 @@ TEST(ColumnChoice, NameAndThirdValueMayBeLeftOut) {
 
 TEST(ColumnChoice, FirstAndSecondValueMayNot) {
     for (const char* text : {"1,-,3", "1,2,-", "1,2", "1"})
-        EXPECT_THROW((void)columnWishesOf(text), Refusal) << text;
+        EXPECT_THROW(std::ignore = columnWishesOf(text), Refusal) << text;
 }
 
 TEST(ColumnChoice, WhatIsNotThereIsRefused) {
     for (const char* text : {"1,2,6", "0,1,2", "1,2,north", "1,2,3,99999999999999999999"})
-        EXPECT_THROW((void)places(text, kHeader, true), Refusal) << text;
+        EXPECT_THROW(std::ignore = places(text, kHeader, true), Refusal) << text;
 }
 
 TEST(ColumnChoice, ANameNeedsAHeader) {
-    EXPECT_THROW((void)places("id,2,3", {"id", "1", "2"}, false), Refusal);
+    EXPECT_THROW(std::ignore = places("id,2,3", {"id", "1", "2"}, false), Refusal);
 }
 
 TEST(ColumnChoice, OneNamedTwiceIsRefused) {
     for (const char* text : {"1,2,2", "1,lat,lat", "1,2,lat", "id,2,3,1"})
-        EXPECT_THROW((void)places(text, kHeader, true), Refusal) << text;
-    EXPECT_THROW((void)places("1,x,2", {"a", "b", "x", "x"}, true), Refusal);
+        EXPECT_THROW(std::ignore = places(text, kHeader, true), Refusal) << text;
+    EXPECT_THROW(std::ignore = places("1,x,2", {"a", "b", "x", "x"}, true), Refusal);
 }
 
 TEST(ColumnChoice, MoreThanFourAndEmptyEntriesAreRefused) {
     for (const char* text : {"1,2,3,4,5", "1,,3", "", "1,2,3,"})
-        EXPECT_THROW((void)columnWishesOf(text), Refusal) << text;
+        EXPECT_THROW(std::ignore = columnWishesOf(text), Refusal) << text;
 }
 
 TEST(ColumnChoice, TheUsualColumnsNeedNotBeThere) {

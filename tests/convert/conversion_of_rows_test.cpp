@@ -2,11 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "convert/delimited_sink.h"
 #include "convert/delimited_source.h"
 #include "convert/refusal.h"
-#include "library/definition_text.h"
 #include "convert/text_reader.h"
+#include "library/definition_text.h"
 
 namespace kelvo {
 namespace {
@@ -105,12 +107,12 @@ TEST(ConversionOfRows, ASourceThatFailsEndsEveryJob) {
     for (const unsigned jobs : {1U, 4U}) {
         Broken source;
         watcher.points = 0;
-        EXPECT_THROW((void)convertRows(source,
-                                       {.converter = converter,
-                                        .system = System::Wgs,
-                                        .angles = AngleForm::Degrees,
-                                        .jobs = jobs},
-                                       sink, watcher),
+        EXPECT_THROW(std::ignore = convertRows(source,
+                                               {.converter = converter,
+                                                .system = System::Wgs,
+                                                .angles = AngleForm::Degrees,
+                                                .jobs = jobs},
+                                               sink, watcher),
                      Refusal);
         EXPECT_FALSE(result.closed);
     }

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "convert/refusal.h"
 #include "convert/text_reader.h"
 
@@ -84,8 +86,8 @@ TEST(DelimitedSource, ColumnsAreThoseThatAreAskedFor) {
 }
 
 TEST(DelimitedSource, ARefusedColumnIsNoticedBeforeTheFirstPoint) {
-    EXPECT_THROW((void)rowsOf("a,1,2\n", "id,2,3"), Refusal);
-    EXPECT_THROW((void)rowsOf("id,lat,lon\n", "id,lat,north"), Refusal);
+    EXPECT_THROW(std::ignore = rowsOf("a,1,2\n", "id,2,3"), Refusal);
+    EXPECT_THROW(std::ignore = rowsOf("id,lat,lon\n", "id,lat,north"), Refusal);
 }
 
 TEST(DelimitedSource, AnEmptyInputHasNoRows) {
@@ -111,7 +113,7 @@ TEST(DelimitedSource, RowsAreTheSameHoweverSmallThePiecesAre) {
 
 TEST(DelimitedSource, ARowWithoutEndIsRefusedWithItsLine) {
     try {
-        (void)rowsOf("a,1,2\n\"" + std::string(kLongestRow + 10, 'x') + "\"");
+        std::ignore = rowsOf("a,1,2\n\"" + std::string(kLongestRow + 10, 'x') + "\"");
         FAIL();
     } catch (const Refusal& refusal) {
         EXPECT_TRUE(std::string(refusal.what()).starts_with("line 2: ")) << refusal.what();

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "library/bad_definition.h"
 #include "library/text_bytes.h"
 
@@ -12,7 +14,7 @@ const std::string kPoint = "기1 37.30 127.00 100 37.2950 127.0008 80 1\n";
 
 std::string complaint(const std::string& parameters, std::optional<std::string> known) {
     try {
-        (void)converterOf({.parameters = parameters, .knownPoints = std::move(known)});
+        std::ignore = converterOf({.parameters = parameters, .knownPoints = std::move(known)});
     } catch (const BadDefinition& bad) {
         return bad.what();
     }

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "batch/run_defaults.h"
 #include "library/bad_definition.h"
 
@@ -15,7 +17,7 @@ TransPara para(const std::string& text) {
 // The line of the first thing wrong; -1 if nothing is.
 long badLine(const std::string& text) {
     try {
-        (void)parametersOf(text, "p");
+        std::ignore = parametersOf(text, "p");
     } catch (const BadDefinition& bad) {
         return bad.line();
     }
@@ -78,7 +80,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(ParameterText, AMessageNamesTextLineAndReason) {
     try {
-        (void)parametersOf("add 1\nutm 117\n", "grid.txt");
+        std::ignore = parametersOf("add 1\nutm 117\n", "grid.txt");
         FAIL();
     } catch (const BadDefinition& bad) {
         EXPECT_TRUE(std::string(bad.what()).starts_with("grid.txt line 2: ")) << bad.what();
