@@ -11,7 +11,11 @@ function(kelvo_compile_options target)
     set_target_properties(${target} PROPERTIES CXX_EXTENSIONS OFF
         POSITION_INDEPENDENT_CODE ON CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
     target_compile_options(${target} PRIVATE
-        -ffp-contract=off -fno-math-errno -Wall -Wextra -Wconversion -Wshadow)
+        -ffp-contract=off -fno-math-errno -Wall -Wextra -Wconversion -Wshadow
+        -Wnon-virtual-dtor -Wold-style-cast
+        # clang has no such warnings. What this g++ says of restrict in an optimised build is about
+        # its own std::string, and wrong.
+        $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond -Wduplicated-branches -Wno-restrict>)
     if(KELVO_WERROR)
         target_compile_options(${target} PRIVATE -Werror)
     endif()

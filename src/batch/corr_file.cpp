@@ -59,7 +59,7 @@ void ReadCorrFile(CorrPointTable& table, const std::string& path, FieldStore& fi
     try {
         readPoints(table, file, fields, messages);
     } catch (RuntimeFault& fault) {
-        fault.addPlace(path + " " + std::to_string(file.linesRead()) + "번째 줄");
+        fault.addPlace(path + " " + std::to_string(file.lineInHand()) + "번째 줄");
         throw;
     }
 }

@@ -100,7 +100,8 @@ double reportedDegrees(MessageBoxes& messages, double given, const ParsedAngle& 
     return angle.degrees;
 }
 
-const DegreesMinutesSeconds& reportedParts(MessageBoxes& messages, double x, const SplitAngle& split) {
+const DegreesMinutesSeconds& reportedParts(MessageBoxes& messages, double x,
+                                           const SplitAngle& split) {
     if (!split.rebuilds) messages.tell(badSplit(x, split.parts));
     return split.parts;
 }

@@ -35,6 +35,7 @@ const T& reported(MessageBoxes& messages, const Guarded<T>& result, Remark::Kind
 double reportedDegrees(MessageBoxes& messages, double given, const ParsedAngle& angle);
 
 // The parts of an angle, after the box for a split that doesn't rebuild it.
-const DegreesMinutesSeconds& reportedParts(MessageBoxes& messages, double x, const SplitAngle& split);
+const DegreesMinutesSeconds& reportedParts(MessageBoxes& messages, double x,
+                                           const SplitAngle& split);
 
 }  // namespace kelvo

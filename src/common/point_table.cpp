@@ -17,8 +17,8 @@ PointRec& PointTable::row(int index) {
     requireRow(index);
     const auto i = static_cast<std::size_t>(index);
     if (i >= rows_.size()) {
-        // Room for all at once, of which only the rows in use become memory: growing by and by would
-        // move them again and again.
+        // Room for all at once, of which only the rows in use become memory: growing by and by
+        // would move them again and again.
         rows_.reserve(kMostPoints + 1);
         rows_.resize(i + 1);
     }

@@ -42,7 +42,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("kelvo"));
     QApplication::setApplicationDisplayName(QStringLiteral("Kelvo"));
-    QApplication::setApplicationVersion(QStringLiteral("3.5.0"));
+    QApplication::setApplicationVersion(QStringLiteral(KELVO_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("kelvo"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/kelvo/icon.png")));
 

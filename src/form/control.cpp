@@ -35,7 +35,7 @@ std::string Control::fullLabel() const {
     std::string text = label().empty() ? name() : label();
     for (const Control* frame = holder_; frame != nullptr; frame = frame->holder_)
         if (frame->kind() == ControlKind::Frame && !frame->caption().empty())
-            text = frame->caption() + " > " + text;
+            text.insert(0, frame->caption() + " > ");
     return text;
 }
 

@@ -24,8 +24,8 @@ struct Geocentric {
 
 // The passes of the latitude iteration: always that many unless it settles before.
 inline constexpr int kLatitudePasses = 31;
-// From this latitude on, at height 0 on WGS84, the iteration runs into the root of a negative number
-// before its last pass.
+// From this latitude on, at height 0 on WGS84, the iteration runs into the root of a negative
+// number before its last pass.
 inline constexpr double kLatitudeWithoutResult = 47.4973;
 
 namespace KelvoSub {

@@ -8,8 +8,8 @@
 // physikalischen Theorieen der höheren Geodäsie I, 1880; DMA TM 8358.2, 2-4).
 //
 // Error: within kSeriesWidth degrees of the central meridian it agrees with the exact projection
-// to better than kSeriesError; see docs/numbers.md. Left out: grid scale and convergence. No range is
-// checked: any finite position gives numbers. Terms are added in a fixed order, since printed
+// to better than kSeriesError; see docs/numbers.md. Left out: grid scale and convergence. No range
+// is checked: any finite position gives numbers. Terms are added in a fixed order, since printed
 // digits depend on it.
 //
 //   northing, X = S0 M + T1..T5        T1 arc of the meridian, T2 dl^2, T3 dl^4, T4 dl^6, T5 dl^8
@@ -103,9 +103,9 @@ private:
     void derive(const TmGrid& grid, double Phi);
 
     bool computable_ = true;
-    double arc_ = 0;   // of the meridian, metres
-    double N_ = 0;     // radius in the prime vertical, metres
-    double c_ = 0;     // cosine, and products of its powers with N and the sine
+    double arc_ = 0;  // of the meridian, metres
+    double N_ = 0;    // radius in the prime vertical, metres
+    double c_ = 0;    // cosine, and products of its powers with N and the sine
     double sNc_ = 0;
     double sNc3_ = 0;
     double sNc5_ = 0;

@@ -208,7 +208,7 @@ void OnePointPanel::cmdW2B_Click() {
     const double h = read(on_.txtWdegTH);
     const Ellipsoid user = ellipsoidOf(read, para_.txta, para_.txtf);
     const Geographic shifted = reported(messages_, KelvoSub::WgsToUser(datum.shift, p, l, h, user),
-                                    Remark::Kind::NotGeographic);
+                                        Remark::Kind::NotGeographic);
     double up = finite(read(para_.txtdPhi) / 3600 + shifted.Phi);
     double ul = finite(read(para_.txtdLam) / 3600 + shifted.Lam);
     const double uTH = finite(read(para_.txtdH) + shifted.h);
@@ -248,7 +248,7 @@ void OnePointPanel::cmdB2W_Click() {
     const double E = finite(NB + strictNumberOf(on_.txtBdegH));
     const Ellipsoid user = ellipsoidOf(read, para_.txta, para_.txtf);
     const Geographic shifted = reported(messages_, KelvoSub::UserToWgs(datum.shift, p, l, E, user),
-                                    Remark::Kind::NotGeographic);
+                                        Remark::Kind::NotGeographic);
     double wp = finite(shifted.Phi - read(para_.txtdPhi) / 3600);
     double wl = finite(shifted.Lam - read(para_.txtdLam) / 3600);
     const double wh = finite(shifted.h - read(para_.txtdH));
@@ -312,7 +312,7 @@ void OnePointPanel::cmdGP2TM_Click() {
     const double Lam0 = shiftedLam0(read);
     const Ellipsoid user = ellipsoidOf(read, para_.txta, para_.txtf);
     const GridPoint grid = reported(messages_, KelvoSub::GeoToTM(p, l, user, tmOrigin(read, Lam0)),
-                                Remark::Kind::NotProjected);
+                                    Remark::Kind::NotProjected);
 
     write(on_.txtX, grid.X, kGrid);
     write(on_.txtY, grid.Y, kGrid);
@@ -330,7 +330,7 @@ Position OnePointPanel::positionOfTmBoxes(BoxReader& read) {
     const double Y = read(on_.txtY);
     const Ellipsoid user = ellipsoidOf(read, para_.txta, para_.txtf);
     return reported(messages_, KelvoSub::TMToGeo(X, Y, user, tmOrigin(read, Lam0)),
-                Remark::Kind::NotUnprojected);
+                    Remark::Kind::NotUnprojected);
 }
 
 void OnePointPanel::cmdTM2GP_Click() {
@@ -359,8 +359,9 @@ void OnePointPanel::cmdTM2UTM_Click() {
 
     parameters_.followUtmZone(at.Lam);
     const Ellipsoid utm = ellipsoidOf(read, para_.txtUa, para_.txtUf);
-    const GridPoint grid = reported(messages_, KelvoSub::GeoToTM(at.Phi, at.Lam, utm, utmOrigin(read)),
-                                Remark::Kind::NotProjected);
+    const GridPoint grid =
+        reported(messages_, KelvoSub::GeoToTM(at.Phi, at.Lam, utm, utmOrigin(read)),
+                 Remark::Kind::NotProjected);
 
     write(on_.txtUX, grid.X, kGrid);
     write(on_.txtUY, grid.Y, kGrid);
@@ -373,7 +374,7 @@ void OnePointPanel::cmdUTM2TM_Click() {
     const double UY = read(on_.txtUY);
     const Ellipsoid utm = ellipsoidOf(read, para_.txtUa, para_.txtUf);
     const Position at = reported(messages_, KelvoSub::TMToGeo(UX, UY, utm, utmOrigin(read)),
-                             Remark::Kind::NotUnprojected);
+                                 Remark::Kind::NotUnprojected);
 
     // Required: the zone goes by the longitude that stands in the user frame, which may be an
     // older point's, and not by the one just computed.
@@ -382,7 +383,7 @@ void OnePointPanel::cmdUTM2TM_Click() {
     const Ellipsoid user = ellipsoidOf(read, para_.txta, para_.txtf);
     const GridPoint grid =
         reported(messages_, KelvoSub::GeoToTM(at.Phi, at.Lam, user, tmOrigin(read, Lam0)),
-             Remark::Kind::NotProjected);
+                 Remark::Kind::NotProjected);
 
     write(on_.txtX, grid.X, kGrid);
     write(on_.txtY, grid.Y, kGrid);

@@ -190,17 +190,15 @@ struct ExportCase {
     VectorFormat format;
 };
 
-class ExportedSystem : public ::testing::TestWithParam<ExportCase> {};
+class ExportedSystem : public testing::NeedsModule<::testing::TestWithParam<ExportCase>> {};
 
 TEST_P(ExportedSystem, LeadsBackToWgs84WithinThreeCentimetresForTheSecondKindOfShift) {
-    KELVO_NEEDS_MODULE();
     const auto [system, format] = GetParam();
     EXPECT_LT(metresOff(usualDefinition(ShiftKind::Bursa), system, format), 0.03);
     EXPECT_LT(metresOff(ownDefinition(ShiftKind::Bursa), system, format), 0.03);
 }
 
 TEST_P(ExportedSystem, LeadsBackToWgs84WithinFifteenCentimetresForTheFirstKindOfShift) {
-    KELVO_NEEDS_MODULE();
     const auto [system, format] = GetParam();
     EXPECT_LT(metresOff(usualDefinition(), system, format), 0.15);
     Definition plain = usualDefinition();

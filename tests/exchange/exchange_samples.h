@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
@@ -13,14 +14,17 @@
 #include "exchange/coordinate_system.h"
 #include "exchange/load_point_files.h"
 
-// Builds without GDAL have no module: these tests say so and pass.
-#ifdef KELVO_EXCHANGE_BUILT
-#define KELVO_NEEDS_MODULE() static_cast<void>(0)
-#else
-#define KELVO_NEEDS_MODULE() GTEST_SKIP() << "built without GDAL (KELVO_EXCHANGE=OFF)"
-#endif
-
 namespace kelvo::testing {
+
+// A build without GDAL has no module: its tests say so and pass.
+template <class Base>
+class NeedsModule : public Base {
+protected:
+    void SetUp() override {
+        if (!std::filesystem::exists(KELVO_BINARY_DIR "/kelvo-exchange.so"))
+            GTEST_SKIP() << "built without GDAL (KELVO_EXCHANGE=OFF)";
+    }
+};
 
 // The parameters of a run as it begins, with either kind of shift.
 inline Definition usualDefinition(ShiftKind kind = ShiftKind::Molodensky) {

@@ -108,7 +108,8 @@ TEST(IndependentProjection, GeoToTMAgreesToItsNamedErrorWithinItsNamedWidth) {
         for (std::size_t i = 0; i < exact.size(); ++i) {
             const double off =
                 std::hypot(sample.found[i].X - exact[i].second, sample.found[i].Y - exact[i].first);
-            ASSERT_LE(off, kSeriesError) << sample.lonLat[i].second << ' ' << sample.lonLat[i].first;
+            ASSERT_LE(off, kSeriesError)
+                << sample.lonLat[i].second << ' ' << sample.lonLat[i].first;
             most = std::max(most, off);
         }
     }
@@ -131,7 +132,8 @@ TEST(IndependentProjection, TMToGeoAgreesToItsNamedErrorWithinItsNamedWidth) {
             const double off =
                 std::hypot(back.Phi - exact[i].second, (back.Lam - exact[i].first) * parallel) *
                 111700;
-            ASSERT_LE(off, kSeriesError) << sample.lonLat[i].second << ' ' << sample.lonLat[i].first;
+            ASSERT_LE(off, kSeriesError)
+                << sample.lonLat[i].second << ' ' << sample.lonLat[i].first;
             most = std::max(most, off);
         }
     }
