@@ -21,7 +21,6 @@ namespace kelvo {
 namespace {
 
 constexpr std::size_t kLongestDbfName = 10;
-constexpr std::size_t kLongestSheetName = 31;
 constexpr std::uint64_t kPointsOfTransaction = 100000;
 // A drawing's texts, 2 m high; on a map in degrees the same on the ground.
 constexpr double kLabelMetres = 2;
