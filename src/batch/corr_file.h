@@ -21,4 +21,8 @@ namespace kelvo {
 void ReadCorrFile(CorrPointTable& table, const std::string& path, FieldStore& fields, Disk& disk,
                   MessageBoxes& messages);
 
+// The same from a file that is open; a fault doesn't name it.
+void ReadCorrFile(CorrPointTable& table, TextReader& file, FieldStore& fields,
+                  MessageBoxes& messages);
+
 }  // namespace kelvo

@@ -16,7 +16,10 @@ constexpr int kEndOfFile = -1;
 
 }  // namespace
 
-TextReader::TextReader(Disk& disk, const std::string& path) : file_(disk.openForReading(path)) {}
+TextReader::TextReader(Disk& disk, const std::string& path)
+    : TextReader(disk.openForReading(path)) {}
+
+TextReader::TextReader(std::unique_ptr<ByteReader> file) : file_(std::move(file)) {}
 
 bool TextReader::fill() {
     if (next_ < end_) return true;
@@ -124,7 +127,10 @@ double TextReader::readNumber() {
 }
 
 TextWriter::TextWriter(Disk& disk, const std::string& path, WriteMode mode)
-    : file_(mode == WriteMode::Append ? disk.openForAppending(path) : disk.openForWriting(path)) {
+    : TextWriter(mode == WriteMode::Append ? disk.openForAppending(path)
+                                           : disk.openForWriting(path)) {}
+
+TextWriter::TextWriter(std::unique_ptr<ByteWriter> file) : file_(std::move(file)) {
     buffer_.reserve(kWriteBuffer + 1024);
 }
 
