@@ -175,6 +175,7 @@ TEST_P(PointFile, WrittenTwiceReplacesTheFirstWhole) {
     } else {
         EXPECT_EQ(readRows().size(), 3U);
     }
+    EXPECT_EQ(filesThere(), format() == VectorFormat::Shapefile ? 5U : 1U);
 }
 
 TEST_P(PointFile, ThatIsCutIsRefusedWithItsName) {

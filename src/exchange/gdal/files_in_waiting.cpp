@@ -79,16 +79,20 @@ FilesInWaiting::~FilesInWaiting() {
     fs::remove_all(folder_, ignored);
 }
 
-void FilesInWaiting::takePlaces() const {
-    std::vector<fs::path> others;
+void FilesInWaiting::takePlaces(bool all) const {
+    std::vector<fs::path> files;
     for (const fs::directory_entry& entry : fs::directory_iterator(folder_)) {
-        settle(entry.path(), given_);
-        if (entry.path().filename() != target_.filename()) others.push_back(entry.path());
+        if (all && entry.path().filename() != target_.filename()) files.push_back(entry.path());
     }
-    others.push_back(folder_ / target_.filename());
+    files.push_back(folder_ / target_.filename());
+    for (const fs::path& file : files) settle(file, given_);
     std::error_code error;
     const fs::path parent = target_.parent_path();
-    for (const fs::path& file : others) {
+    if (all) {
+        for (const char* const index : {".qix", ".sbn", ".sbx"})
+            fs::remove(fs::path(target_).replace_extension(index), error);
+    }
+    for (const fs::path& file : files) {
         const fs::path place = parent / file.filename();
         const fs::file_status old = fs::status(place, error);
         if (fs::exists(old)) fs::permissions(file, old.permissions(), error);

@@ -20,9 +20,10 @@ public:
     [[nodiscard]] std::string name() const { return target_.filename().string(); }
     [[nodiscard]] std::string stem() const { return target_.stem().string(); }
 
-    // Hands all files to the medium and renames them to stand beside the target, the target itself
-    // last. The rights of a file that was there stay.
-    void takePlaces() const;
+    // Hands the target, or all files of the folder, to the medium and renames them to their places,
+    // the target last. The rights of a file that was there stay. Indexes of an old Shapefile, which
+    // would lead into the new one, go.
+    void takePlaces(bool all) const;
 
 private:
     std::string given_;

@@ -74,6 +74,7 @@ CPLStringList layerOptionsOf(VectorFormat format) {
     CPLStringList options;
     if (format == VectorFormat::GeoJson) {
         options.SetNameValue("RFC7946", "YES");
+        options.SetNameValue("SIGNIFICANT_FIGURES", "15");
         // The driver takes a last digit behind noughts for a slip of rounding, up to this many.
         options.SetNameValue("COORDINATE_PRECISION", "13");
     }
@@ -159,7 +160,7 @@ public:
         dataset_.reset();
         if (!committed || errors.failed() || checked_.failure() != 0) fail(errors);
         if (asked_.format == VectorFormat::Shapefile) writeSystemBeside();
-        waiting_.takePlaces();
+        waiting_.takePlaces(asked_.format == VectorFormat::Shapefile);
     }
 
 private:
