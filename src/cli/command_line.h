@@ -15,6 +15,7 @@ struct CommandLine {
     std::optional<std::string> applicationFolder;  // without a trailing separator
     bool quiet = false;
     std::vector<std::string> dataFiles;
+    std::vector<std::string> exports;  // each ends in the name of a vector format
 };
 
 // A command line that is understood, or what is wrong with it, in one sentence.
@@ -24,7 +25,8 @@ struct CommandLineReading {
 };
 
 // Reads the arguments behind the program's name. Refused: no data file, an unknown option, "-"
-// for standard input, two data files that would write the same result file.
+// for standard input, two data files that would write the same result file, an export of several
+// data files or to a file whose ending names no vector format.
 [[nodiscard]] CommandLineReading readCommandLine(std::span<const std::string> arguments);
 
 // The arguments of this process behind the program's name, in UTF-8 on every platform.

@@ -3,14 +3,17 @@
 #include <memory>
 #include <new>
 #include <string>
+#include <vector>
 
 #include "batch/run_batch.h"
 #include "cli/command_line.h"
 #include "cli/progress_bar.h"
+#include "cli/table_export.h"
 #include "common/application_folder.h"
 #include "common/disk.h"
 #include "common/paths.h"
 #include "common/run_time_fault.h"
+#include "exchange/load_point_files.h"
 
 #ifdef _WIN32
 #include <windows.h>
@@ -93,6 +96,36 @@ std::string detailBeside(const std::string& data) {
     return genSub::StripExtension(data) + ".det";
 }
 
+// True if every file that was asked for is written.
+bool exportAll(const PointTable& points, const std::vector<std::string>& paths,
+               StandardError& error) {
+    bool good = true;
+    for (const std::string& path : paths) {
+        try {
+            exportTables(points, path);
+        } catch (const ExchangeFault& fault) {
+            error.line(std::string("export: ") + fault.what());
+            good = false;
+        }
+    }
+    return good;
+}
+
+// Why the exports can't take place, looked at before the run; empty if nothing stands against them.
+std::string complaintOfExports(const CommandLine& line) {
+    PlatformDisk disk;
+    for (const std::string& path : line.exports) {
+        if (disk.sameFile(path, line.dataFiles.front()))
+            return "--export and the data file are the same file (" + path + ")";
+    }
+    try {
+        if (!line.exports.empty()) static_cast<void>(loadPointFiles());
+    } catch (const ExchangeFault& fault) {
+        return fault.what();
+    }
+    return {};
+}
+
 // Every file is a run of its own: nothing of one shows in another.
 int runAll(const CommandLine& line, const std::string& folder, StandardError& error,
            ProgressBar& bar) {
@@ -114,6 +147,7 @@ int runAll(const CommandLine& line, const std::string& folder, StandardError& er
         const auto state = std::make_unique<ConversionState>();
         lastEnded = ends([&] { RunBatch(*state, places, noScreen, disk, messages); }, error);
         good &= lastEnded;
+        if (lastEnded) good &= exportAll(state->points, line.exports, error);
     }
     // As ever, kelvo.det tells of the last run.
     const std::string last = detailBeside(line.dataFiles.back());
@@ -141,6 +175,10 @@ int main(int argc, char** argv) {
     if (line.wish == CommandLine::Wish::Version) {
         print(stdout, "kelvo-batch " KELVO_VERSION "\n");
         return kRunEnded;
+    }
+    if (const std::string complaint = complaintOfExports(line); !complaint.empty()) {
+        print(stderr, "kelvo-batch: " + complaint + "\n");
+        return kWrongUsage;
     }
     ProgressBar bar(line.dataFiles.size(), !line.quiet && line.dataFiles.size() >= kManyFiles &&
                                                standardErrorIsTerminal());

@@ -1,6 +1,6 @@
 """Files that kelvo-convert writes, opened by programs of other families, and read back by itself.
 
-    other_programs.py KELVO_CONVERT
+    other_programs.py KELVO_CONVERT KELVO_BATCH
 
 What isn't installed is left out, with a word.
 """
@@ -19,6 +19,7 @@ import unittest
 
 CONVERT = str(pathlib.Path(sys.argv.pop(1)).resolve())
 POINTS = [("점 1", 37.5, 127.1, 30.0), ("똠뷁", 37.2000000001, 126.9, -12.5), ("007", 36.1, 127.5000000001, 0.0)]
+BATCH = str(pathlib.Path(sys.argv.pop(1)).resolve())
 FORMATS = ("gpkg", "geojson", "shp", "kml", "gpx", "dxf", "xlsx", "ods")
 
 
@@ -178,6 +179,29 @@ class OtherPrograms(unittest.TestCase):
             self.run_in("ogr2ogr", f"s.{ending}", "in.csv", "-oo", "AUTODETECT_TYPE=YES")
             self.convert("--columns", "label,lat,lon", f"s.{ending}", "b.csv")
             self.assertEqual((self.folder / "a.csv").read_bytes(), (self.folder / "b.csv").read_bytes())
+
+    def batch(self, *arguments, code=0):
+        return self.run_in(BATCH, "--app-folder", str(self.folder), *arguments, code=code)
+
+    def test_the_tables_of_a_run_are_exported_as_they_are_printed(self):
+        lines = "INPUT deg\r\nWGS " + "\r\n    ".join(f"{n.replace(' ', '')} {p:.10f} {l:.10f} {h}" for n, p, l, h in POINTS)
+        (self.folder / "run.dat").write_bytes((lines + "\r\nend\r\n\r\n").encode("cp949"))
+        self.batch("--export", "run.kml", "--export", "run.dxf", "--export", "run.csv.xlsx", "--export", "run.gpkg", "run.dat")
+        self.run_in(CONVERT, "--from", "wgs", "run.gpkg", "back.csv")
+        rows = list(csv.DictReader(io.StringIO((self.folder / "back.csv").read_text(encoding="utf-8"))))
+        self.assertEqual([r["name"] for r in rows], [p[0].replace(" ", "") for p in POINTS])
+        self.same_cells(rows)
+        self.run_in(CONVERT, "--from", "tm", "--to", "tm", "run.dxf", "back.csv")
+        rows = list(csv.DictReader(io.StringIO((self.folder / "back.csv").read_text(encoding="utf-8"))))
+        self.same_cells(rows, ("tm_x", "tm_y", "tm_h"))
+        self.assertTrue((self.folder / "run.out").exists())
+
+    def test_an_export_that_cannot_be_is_said_before_the_run(self):
+        (self.folder / "run.dat").write_bytes(b"WGS a 37 127 0\r\nend\r\n\r\n")
+        for arguments in (("--export", "a.txt", "run.dat"), ("--export",), ("--export", "a.kml", "run.dat", "in.csv")):
+            self.batch(*arguments, code=2)
+            self.assertFalse((self.folder / "run.out").exists())
+        self.assertIn("none/a.kml", self.batch("--export", "none/a.kml", "run.dat", code=1).stderr)
 
     def test_more_points_than_a_sheet_holds_are_refused_before_the_first(self):
         with open(self.folder / "many.csv", "w", encoding="ascii") as file:

@@ -74,7 +74,7 @@ CPLStringList layerOptionsOf(VectorFormat format) {
     CPLStringList options;
     if (format == VectorFormat::GeoJson) {
         options.SetNameValue("RFC7946", "YES");
-        options.SetNameValue("SIGNIFICANT_FIGURES", "15");
+        options.SetNameValue("SIGNIFICANT_FIGURES", "16");
         // The driver takes a last digit behind noughts for a slip of rounding, up to this many.
         options.SetNameValue("COORDINATE_PRECISION", "13");
     }
