@@ -263,7 +263,7 @@ class Files(Case):
 
     def test_a_row_without_end_is_refused(self):
         self.write("out.csv", "old")
-        self.assertIn("line 2", self.refused("--from", "wgs", "-", "out.csv", text="A,37,127\n\"" + "x" * 3000000))
+        self.assertIn("line 2", self.refused("--from", "wgs", "-", "out.csv", text="A,37,127\n" + "\"" + "x" * 3000000))
         self.assertEqual(self.read("out.csv"), "old")
 
 
