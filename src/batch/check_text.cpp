@@ -60,8 +60,8 @@ NumberField numberOf(const TextField& field) {
     if (read.tooLarge) return {.state = NumberField::State::TooLarge};
     const std::size_t length = numberLength(field.text);
     if (length == 0) return {.state = NumberField::State::Word};
-    const std::string_view behind = field.text.substr(length);
-    const bool cut = std::any_of(behind.begin(), behind.end(), isDigit);
+    const std::string_view rest = field.text.substr(length);
+    const bool cut = std::any_of(rest.begin(), rest.end(), isDigit);
     return {.state = cut ? NumberField::State::Cut : NumberField::State::Whole,
             .value = read.value};
 }
