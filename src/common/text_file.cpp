@@ -14,6 +14,10 @@ namespace {
 constexpr std::size_t kWriteBuffer = 32768;
 constexpr int kEndOfFile = -1;
 
+bool isLineEnd(char c) {
+    return c == '\r' || c == '\n';
+}
+
 }  // namespace
 
 TextReader::TextReader(Disk& disk, const std::string& path) : file_(disk.openForReading(path)) {}
@@ -60,8 +64,7 @@ void TextReader::readLine(std::string& line) {
     while (fill()) {
         const char* const first = buffer_.data() + next_;
         const char* const last = buffer_.data() + end_;
-        const char* const lineEnd =
-            std::find_if(first, last, [](char c) { return c == '\r' || c == '\n'; });
+        const char* const lineEnd = std::find_if(first, last, isLineEnd);
         raw_.append(first, lineEnd);
         checkLength(raw_.size());
         next_ += static_cast<std::size_t>(lineEnd - first);
@@ -171,9 +174,10 @@ std::string readWholeText(Disk& disk, const std::string& path) {
     text.reserve(bytes.size() + bytes.size() / 2);
     std::string_view rest = bytes;
     while (!rest.empty()) {
-        const std::size_t lineEnd = rest.find_first_of("\r\n");
+        const auto end = std::find_if(rest.begin(), rest.end(), isLineEnd);
+        const auto lineEnd = static_cast<std::size_t>(end - rest.begin());
         decodeCodePage(rest.substr(0, lineEnd), text);
-        if (lineEnd == std::string_view::npos) break;
+        if (end == rest.end()) break;
         text += "\r\n";
         const bool pair = rest.substr(lineEnd, 2) == "\r\n";
         rest.remove_prefix(lineEnd + (pair ? 2 : 1));
