@@ -238,14 +238,14 @@ static_assert(kLines[kFirstEnd] == "end");
 
 }  // namespace
 
+std::span<const std::string_view> sampleManual() {
+    return std::span(kLines).subspan(kFirstEnd + 1);
+}
+
 std::string sampleDataText() {
     std::string text;
     for (const std::string_view line : kLines) text.append(line).append(kLineEnd);
     return text;
-}
-
-std::span<const std::string_view> sampleManual() {
-    return std::span(kLines).subspan(kFirstEnd + 1);
 }
 
 void WriteSampleData(Disk& disk, const std::string& path) {

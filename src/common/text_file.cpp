@@ -22,9 +22,16 @@ void closeQuietly(ByteWriter& file) {
     }
 }
 
+bool isLineEnd(char c) {
+    return c == '\r' || c == '\n';
+}
+
 }  // namespace
 
-TextReader::TextReader(Disk& disk, const std::string& path) : file_(disk.openForReading(path)) {}
+TextReader::TextReader(Disk& disk, const std::string& path)
+    : TextReader(disk.openForReading(path)) {}
+
+TextReader::TextReader(std::unique_ptr<ByteReader> file) : file_(std::move(file)) {}
 
 bool TextReader::fill() {
     if (next_ < end_) return true;
@@ -68,8 +75,7 @@ void TextReader::readLine(std::string& line) {
     while (fill()) {
         const char* const first = buffer_.data() + next_;
         const char* const last = buffer_.data() + end_;
-        const char* const lineEnd =
-            std::find_if(first, last, [](char c) { return c == '\r' || c == '\n'; });
+        const char* const lineEnd = std::find_if(first, last, isLineEnd);
         raw_.append(first, lineEnd);
         checkLength(raw_.size());
         next_ += static_cast<std::size_t>(lineEnd - first);
@@ -148,7 +154,10 @@ double TextReader::readNumber() {
 }
 
 TextWriter::TextWriter(Disk& disk, const std::string& path, WriteMode mode)
-    : file_(mode == WriteMode::Append ? disk.openForAppending(path) : disk.openForWriting(path)) {
+    : TextWriter(mode == WriteMode::Append ? disk.openForAppending(path)
+                                           : disk.openForWriting(path)) {}
+
+TextWriter::TextWriter(std::unique_ptr<ByteWriter> file) : file_(std::move(file)) {
     buffer_.reserve(kWriteBuffer + 1024);
 }
 
@@ -204,9 +213,10 @@ std::string readWholeText(Disk& disk, const std::string& path, std::size_t large
     text.reserve(bytes.size() + bytes.size() / 2);
     std::string_view rest = bytes;
     while (!rest.empty()) {
-        const std::size_t lineEnd = rest.find_first_of("\r\n");
+        const auto end = std::find_if(rest.begin(), rest.end(), isLineEnd);
+        const auto lineEnd = static_cast<std::size_t>(end - rest.begin());
         decodeCodePage(rest.substr(0, lineEnd), text);
-        if (lineEnd == std::string_view::npos) break;
+        if (end == rest.end()) break;
         text += "\r\n";
         const bool pair = rest.substr(lineEnd, 2) == "\r\n";
         rest.remove_prefix(lineEnd + (pair ? 2 : 1));

@@ -21,8 +21,8 @@ class TextReader {
 public:
     // Faults as Disk::openForReading.
     TextReader(Disk& disk, const std::string& path);
-    // Of bytes from anywhere.
-    explicit TextReader(std::unique_ptr<ByteReader> bytes) : file_(std::move(bytes)) {}
+    // Text from wherever the bytes come.
+    explicit TextReader(std::unique_ptr<ByteReader> file);
 
     [[nodiscard]] bool atEnd();
 
@@ -68,6 +68,8 @@ class TextWriter {
 public:
     // Opens at once. Faults as Disk::openForWriting and openForAppending.
     TextWriter(Disk& disk, const std::string& path, WriteMode mode = WriteMode::Replace);
+    // To wherever the bytes go.
+    explicit TextWriter(std::unique_ptr<ByteWriter> file);
     TextWriter(const TextWriter&) = delete;
     TextWriter& operator=(const TextWriter&) = delete;
     // What was written stands in the file, also when the writer goes in the course of a fault.

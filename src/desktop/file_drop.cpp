@@ -6,7 +6,6 @@
 #include <array>
 
 #include "desktop/native_paths.h"
-#include "desktop/widget_book.h"
 
 namespace kelvo::desktop {
 
@@ -14,12 +13,14 @@ std::vector<std::string> openableFiles(const QMimeData& data) {
     constexpr std::array<const char*, 3> endings{".dat", ".out", ".det"};
     std::vector<std::string> paths;
     for (const QUrl& url : data.urls()) {
-        const std::string path = fileOfUrl(url);
-        const bool known = std::any_of(endings.begin(), endings.end(), [&path](const char* ending) {
-            return qt(path).endsWith(QLatin1String(ending), Qt::CaseInsensitive);
-        });
+        std::string path = fileOfUrl(url);
+        const QString shown = QString::fromStdString(path);
+        const bool known =
+            std::any_of(endings.begin(), endings.end(), [&shown](const char* ending) {
+                return shown.endsWith(QLatin1String(ending), Qt::CaseInsensitive);
+            });
         if (!known) return {};
-        paths.push_back(path);
+        paths.push_back(std::move(path));
     }
     return paths;
 }

@@ -10,7 +10,7 @@
 namespace kelvo::desktop {
 
 // The files among what is dragged that the program opens: data files (*.dat) and what runs write
-// (*.out, *.det), by names of any bytes. Empty if there is anything else among it.
+// (*.out, *.det), named in the bytes of the system. Empty if there is anything else among it.
 [[nodiscard]] std::vector<std::string> openableFiles(const QMimeData& data);
 
 // Watches a window and everything in it that takes drops of its own, so that a file dropped on a

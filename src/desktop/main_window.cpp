@@ -12,8 +12,11 @@
 #include <chrono>
 #include <cmath>
 
+#include "common/code_page.h"
+#include "desktop/fault_report.h"
 #include "desktop/file_drop.h"
 #include "desktop/menu_keys.h"
+#include "desktop/native_paths.h"
 #include "desktop/text_viewer.h"
 
 namespace kelvo::desktop {
@@ -61,9 +64,9 @@ MainWindow::MainWindow(const std::string& applicationFolder)
     addShortcuts();
     leadIntoMenus(*menuBar());
     addThemeButton();
+    new FileDrop(*this, [this](const std::vector<std::string>& paths) { openFiles(paths); });
     watchUnsavedText();
     addBringBack();
-    new FileDrop(*this, [this](const std::vector<std::string>& paths) { openFiles(paths); });
 }
 
 MainWindow::~MainWindow() {
@@ -85,8 +88,7 @@ void MainWindow::buildPanels() {
 
     filePanel_.panel->installEventFilter(this);
     filePanel_.path->setWholeText(filePanel_.panel->property("caption").toString());
-    connect(book_->viewer(), &TextViewer::modifiedChanged, filePanel_.unsavedMark,
-            &QWidget::setVisible);
+    connect(book_->viewer(), &TextViewer::modifiedChanged, this, [this] { showUnsavedMark(); });
     book_->plotView()->placeAt = [this](QPointF twips, double reach) {
         const PlotPlace place = program_->plotPlaceAt(twips.x(), twips.y(), reach);
         return std::pair(qt(place.coordinates), qt(place.point));

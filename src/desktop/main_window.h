@@ -5,7 +5,6 @@
 #include <QPrinter>
 #include <memory>
 #include <string>
-#include <vector>
 
 #include "desktop/event_gate.h"
 #include "desktop/fault_report.h"
@@ -41,15 +40,15 @@ public:
     // Shows what a run has written.
     void openResultFile(const std::string& path);
 
+    // What a printed document is called, and the file that it is printed into: no path, no ending.
+    [[nodiscard]] QString documentName() const;
+
     // Ends as closing does, but asks and shows nothing: what is unsaved waits for the next start,
     // and what a box asks is cancelled. For a session that ends and a terminal that goes.
     void endWithoutAsking();
 
     // Puts away what is unsaved, and the settings as far as they can be, and goes on.
     void prepareForTheEnd();
-
-    // What a printed document is called, and the file that it is printed into: no path, no ending.
-    [[nodiscard]] QString documentName() const;
 
     [[nodiscard]] frmKelvo& program() { return *program_; }
     [[nodiscard]] WidgetBook& book() { return *book_; }

@@ -19,9 +19,9 @@ namespace kelvo {
 // a failure to write.
 int readConfiguration(ProgramState& state, Disk& disk);
 
-// Writes the file anew, with what another program has saved since (see configuration_merge.h);
-// where both changed the same, that is told and the other's file kept as kelvo.cfg.old. Any failure
-// is told in a message box, and the old file stands.
+// Rewrites the file, with what another program has saved since (see configuration_merge.h);
+// where both changed the same, that is reported and the other's file kept as kelvo.cfg.old. Any
+// failure is reported in a message box, and the old file stands.
 void WriteCfgFile(ProgramState& state, Disk& disk, MessageBoxes& messages);
 
 // The values of a first start. Required: the TM origin gets the values of the UTM one, whose own

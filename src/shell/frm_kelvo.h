@@ -40,9 +40,6 @@ public:
     // holds no number is fault 13, and the program isn't ended.
     void Form_Close();
 
-    // The parameters and plot settings to their files, as at the end. Faults as Form_Close.
-    void saveSettings();
-
     // Shows a text file in the viewer. Fault 53 where there is none.
     void OpenRichText(const std::string& path);
 
@@ -54,6 +51,9 @@ public:
     // on the screen. A fault leaves the old file whole.
     [[nodiscard]] const std::string& fileOnView() const;
     void saveOnView();
+
+    // The parameters and plot settings to their files, as at the end. Faults as Form_Close.
+    void saveSettings();
 
     // Prints a text file in the mode of the print mode panel.
     void PrintFile(const std::string& name);

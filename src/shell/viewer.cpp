@@ -83,14 +83,8 @@ void ResultViewer::showUnsaved(const UnsavedText& text) {
     showText(text.text);
 }
 
-void ResultViewer::save(const std::string& path) {
-    saveCopy(path);
-    journal_.isInItsFile();
-    if (onSaved) onSaved(path);
-}
-
 void ResultViewer::saveOnView() {
-    if (!fileName_.empty()) save(fileName_);
+    if (!fileName_.empty()) saveUnder(fileName_);
 }
 
 void ResultViewer::OpenRichText(const std::string& Path) {
@@ -127,7 +121,7 @@ void ResultViewer::showRunResult() {
 }
 
 void ResultViewer::cmdSave_Click() {
-    save(fileName_);
+    saveUnder(fileName_);
     on_.frmeFile.setVisible(false);
     printMode_.showWhatWasShown();
 }
@@ -145,9 +139,15 @@ void ResultViewer::cmdSaveAs_Click() {
         if (fault.fault() != Fault::DialogCancelled) throw;
         return;
     }
-    save(name);
+    saveUnder(name);
     OpenRichText(name);
     if (upperCased(genSub::FileExtensionOf(name)) == "DAT") recent_.UpdateRecentFiles(name);
+}
+
+void ResultViewer::saveUnder(const std::string& path) {
+    saveCopy(path);
+    journal_.isInItsFile();
+    if (onSaved) onSaved(path);
 }
 
 void ResultViewer::cmdClose_Click() {
@@ -158,7 +158,7 @@ void ResultViewer::cmdClose_Click() {
 void ResultViewer::saveAndHide(const std::string& name) {
     on_.Richtxt.setVisible(false);
     fileName_ = name;
-    save(name);
+    saveUnder(name);
 }
 
 void ResultViewer::saveCopy(const std::string& name) {

@@ -82,7 +82,7 @@ private:
     void showTextPanel();
     void load(const std::string& path);
     void showText(const std::string& text);
-    void save(const std::string& path);
+    void saveUnder(const std::string& path);
 
     const ViewerControls& on_;
     const ScaleControls& scale_;

@@ -1,15 +1,15 @@
 #!/usr/bin/env python3
 """Drives the real window from outside, as assistive technology does.
 
-    drive_from_outside.py KELVO [work|fault|ends|titles]
+    drive_from_outside.py KELVO [work|fault|titles|ends]
 
 Starts the program on a display of its own. "work" finds every control by its description, does a
 batch run, walks one point there and back, and prints to a PDF file. "fault" asks for
 the plot with a box that holds no number while the viewer holds unsaved text, and looks at the
-report, the rescue file and the exit code. "ends" types a text and ends the program by signals and by
-taking its display away: each time the next start brings the text back. "titles" reads the titles of
-window, box and dialog from the display, under a window manager. Exit code 77 (skipped) with a clear
-word where a package is missing.
+report, the rescue file and the exit code. "titles" reads the titles of window, box and dialog
+from the display, under a window manager. "ends" types a text and ends the program by signals and by
+taking its display away: each time the next start brings the text back. Exit code 77 (skipped) with a
+clear word where a package is missing.
 """
 import os
 import pathlib
@@ -263,6 +263,62 @@ def end_with_a_fault(folder, program):
     print("exit code 1")
 
 
+def titles_on_display():
+    """The titles that the program's windows have on the display, as the display knows them."""
+    found = subprocess.run(["xdotool", "search", "--onlyvisible", "--class", "kelvo"],
+                           capture_output=True, text=True, check=False).stdout.split()
+    titles = []
+    for window in found:
+        line = subprocess.run(["xprop", "-id", window, "-notype", "_NET_WM_NAME"],
+                              capture_output=True, text=True, check=False,
+                              env=dict(os.environ, LC_ALL="C.UTF-8")).stdout
+        if "=" in line:
+            titles.append(line.split("=", 1)[1].strip().strip('"').strip())
+    return titles
+
+
+def outer_place():
+    """Where the frame of the main window stands: x, y, width, height."""
+    tree = subprocess.run(["xwininfo", "-root", "-tree"], capture_output=True, text=True,
+                          check=True, env=dict(os.environ, LC_ALL="C.UTF-8")).stdout
+    line = next(line for line in tree.splitlines() if "좌표변환프로그램" in line)
+    width, height, x, y = map(int, re.search(
+        r"(\d+)x(\d+)\+-?\d+\+-?\d+ +\+(-?\d+)\+(-?\d+)", line).groups())
+    extents = subprocess.run(["xprop", "-id", line.split()[0], "-notype", "_NET_FRAME_EXTENTS"],
+                             capture_output=True, text=True, check=True).stdout
+    left, right, top, bottom = (int(n) for n in extents.split("=")[1].split(","))
+    assert top > 0, "the window manager gives no title bar"
+    return x - left, y - top, width + left + right, height + top + bottom
+
+
+def look_at_titles(folder):
+    data = folder / "data" / "test.DAT"
+    control("frmKelvo")
+    wanted = "좌표변환프로그램 Kelvo "
+    wait_for(lambda: any(title.startswith(wanted) for title in titles_on_display()), "the title")
+    title, = [title for title in titles_on_display() if title]
+    wait_for(lambda: outer_place() == (0, 0, round(1366 * 0.88), round(900 * 0.88)),
+             "the frame in its place, not at %s" % (outer_place(),))
+    print("frame: %s" % (outer_place(),))
+    assert title.endswith(" - " + str(data.with_name("test.dat"))), title
+    print("window: " + title)
+    choose("About")
+    named_ok = lambda: find(lambda node: node.get_name().startswith("확인")
+                            and node.get_role_name() in ("push button", "button")
+                            and not node.get_description().startswith("cmd"), "확인")
+    box = named_ok()
+    wait_for(lambda: len(titles_on_display()) == 2, "the box")
+    wait_for(lambda: sorted(titles_on_display()) == sorted(["", title]),
+             "titles %s" % titles_on_display())
+    act(box, "Press")
+    choose("Editor 설정")
+    wait_for(lambda: "Editor Program 설정" in titles_on_display(), "the dialog's title")
+    press_cancel = find(lambda node: node.get_name() in ("취소", "취소(C)", "Cancel")
+                        and node.get_role_name() in ("push button", "button"), "취소")
+    act(press_cancel, "Press")
+    print("box and dialog have their own titles")
+
+
 def started(folder, **environment):
     """The program, once its window is there."""
     for _ in range(4):  # on a busy machine the display takes its time to come up
@@ -318,8 +374,7 @@ def end_in_every_way(folder):
         try:
             offer = find(lambda node: "저장하지 않고 끝난 글" in (node.get_name() or ""), "the offer")
             assert "test.dat" in offer.get_name(), offer.get_name()
-            act(find(lambda node: node.get_name() == "되살리기"
-                     and node.get_role_name() in ("push button", "button"), "its button"), "Press")
+            act(find(lambda node: node.get_name() == "되살리기", "its button"), "Press")
             wait_for(lambda: text_of("Richtxt") == typed, "the text")
             press("cmdSave")
             wait_for(lambda: not journal(folder), "the journal to go")
@@ -329,61 +384,6 @@ def end_in_every_way(folder):
             program.wait(20)
         print("%s: the text came back and was saved" % way)
 
-
-def titles_on_display():
-    """The titles that the program's windows have on the display, as the display knows them."""
-    found = subprocess.run(["xdotool", "search", "--onlyvisible", "--class", "kelvo"],
-                           capture_output=True, text=True, check=False).stdout.split()
-    titles = []
-    for window in found:
-        line = subprocess.run(["xprop", "-id", window, "-notype", "_NET_WM_NAME"],
-                              capture_output=True, text=True, check=False,
-                              env=dict(os.environ, LC_ALL="C.UTF-8")).stdout
-        if "=" in line:
-            titles.append(line.split("=", 1)[1].strip().strip('"').strip())
-    return titles
-
-
-def outer_place():
-    """Where the frame of the main window stands: x, y, width, height."""
-    tree = subprocess.run(["xwininfo", "-root", "-tree"], capture_output=True, text=True,
-                          check=True, env=dict(os.environ, LC_ALL="C.UTF-8")).stdout
-    line = next(line for line in tree.splitlines() if "좌표변환프로그램" in line)
-    width, height, x, y = map(int, re.search(
-        r"(\d+)x(\d+)\+-?\d+\+-?\d+ +\+(-?\d+)\+(-?\d+)", line).groups())
-    extents = subprocess.run(["xprop", "-id", line.split()[0], "-notype", "_NET_FRAME_EXTENTS"],
-                             capture_output=True, text=True, check=True).stdout
-    left, right, top, bottom = (int(n) for n in extents.split("=")[1].split(","))
-    assert top > 0, "the window manager gives no title bar"
-    return x - left, y - top, width + left + right, height + top + bottom
-
-
-def look_at_titles(folder):
-    data = folder / "data" / "test.DAT"
-    control("frmKelvo")
-    wanted = "좌표변환프로그램 Kelvo "
-    wait_for(lambda: any(title.startswith(wanted) for title in titles_on_display()), "the title")
-    title, = [title for title in titles_on_display() if title]
-    wait_for(lambda: outer_place() == (0, 0, round(1366 * 0.88), round(900 * 0.88)),
-             "the frame in its place, not at %s" % (outer_place(),))
-    print("frame: %s" % (outer_place(),))
-    assert title.endswith(" - " + str(data.with_name("test.dat"))), title
-    print("window: " + title)
-    choose("About")
-    named_ok = lambda: find(lambda node: node.get_name().startswith("확인")
-                            and node.get_role_name() in ("push button", "button")
-                            and not node.get_description().startswith("cmd"), "확인")
-    box = named_ok()
-    wait_for(lambda: len(titles_on_display()) == 2, "the box")
-    wait_for(lambda: sorted(titles_on_display()) == sorted(["", title]),
-             "titles %s" % titles_on_display())
-    act(box, "Press")
-    choose("Editor 설정")
-    wait_for(lambda: "Editor Program 설정" in titles_on_display(), "the dialog's title")
-    press_cancel = find(lambda node: node.get_name() in ("취소", "취소(C)", "Cancel")
-                        and node.get_role_name() in ("push button", "button"), "취소")
-    act(press_cancel, "Press")
-    print("box and dialog have their own titles")
 
 
 def main():

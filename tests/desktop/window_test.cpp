@@ -357,7 +357,7 @@ private slots:
         QVERIFY(window_->book().viewer()->text().find("끌어다 놓은 글") != std::string::npos);
     }
 
-    void aMissingPrintProgramIsToldInTheStatusLine() {
+    void aMissingPrintProgramIsReportedInTheStatusLine() {
         const QByteArray path = qgetenv("PATH");
         qputenv("PATH", "/nowhere");
         hands_->click("mnuBatchGo");
