@@ -88,7 +88,9 @@ void MainWindow::buildPanels() {
 
     filePanel_.panel->installEventFilter(this);
     filePanel_.path->setWholeText(filePanel_.panel->property("caption").toString());
-    connect(book_->viewer(), &TextViewer::modifiedChanged, this, [this] { showUnsavedMark(); });
+    // With the first letter, before the form knows of it.
+    connect(book_->viewer(), &TextViewer::modifiedChanged, filePanel_.unsavedMark,
+            &QWidget::setVisible);
     book_->plotView()->placeAt = [this](QPointF twips, double reach) {
         const PlotPlace place = program_->plotPlaceAt(twips.x(), twips.y(), reach);
         return std::pair(qt(place.coordinates), qt(place.point));
