@@ -57,6 +57,12 @@ void ReadCorrFile(CorrPointTable& table, const std::string& path, FieldStore& fi
                   MessageBoxes& messages) {
     table.CorrCount = 0;
     TextReader file(disk, path);
+    ReadCorrFile(table, file, path, fields, messages);
+}
+
+void ReadCorrFile(CorrPointTable& table, TextReader& file, const std::string& path,
+                  FieldStore& fields, MessageBoxes& messages) {
+    table.CorrCount = 0;
     try {
         ReadCorrFile(table, file, fields, messages);
     } catch (RuntimeFault& fault) {

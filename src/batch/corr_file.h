@@ -21,7 +21,10 @@ namespace kelvo {
 void ReadCorrFile(CorrPointTable& table, const std::string& path, FieldStore& fields, Disk& disk,
                   MessageBoxes& messages);
 
-// The same from a file that is open; a fault doesn't name it.
+// The same of a file that is open; `path` is what a fault names.
+void ReadCorrFile(CorrPointTable& table, TextReader& file, const std::string& path,
+                  FieldStore& fields, MessageBoxes& messages);
+// The same, and a fault names no file.
 void ReadCorrFile(CorrPointTable& table, TextReader& file, FieldStore& fields,
                   MessageBoxes& messages);
 

@@ -24,6 +24,23 @@ void runCommands(CurrentRun& run) {
     writeTablesOnce(run);
 }
 
+// Lets the view know of each box first.
+class AnnouncedMessages final : public MessageBoxes {
+public:
+    AnnouncedMessages(MessageBoxes& messages, RunView& view) : messages_(messages), view_(view) {}
+
+    Answer show(const Message& message) override {
+        view_.messageComes(run == nullptr ? 1 : run->lineNumber, message.text);
+        return messages_.show(message);
+    }
+
+    const CurrentRun* run = nullptr;
+
+private:
+    MessageBoxes& messages_;
+    RunView& view_;
+};
+
 }  // namespace
 
 std::string resultFileOf(const std::string& dataFile) {
@@ -37,18 +54,21 @@ void RunBatch(ConversionState& state, const RunPlaces& places, RunView& view, Di
     view.runBegins();
 
     const std::string outPath = resultFileOf(places.dataFile);
+    TextReader data(disk, places.dataFile);
     requireFilesOfTheirOwn(disk, std::array{outPath, places.detPath},
                            std::array{places.dataFile, places.CorPath});
-    TextReader data(disk, places.dataFile);
     TextWriter out(disk, outPath);
     TextWriter det(disk, places.detPath);
+    view.detailIsOpen();
 
     state.ParaDirty = true;
+    AnnouncedMessages announced(messages, view);
     CurrentRun run{.state = state,
                    .disk = disk,
-                   .messages = messages,
+                   .messages = announced,
                    .data = data,
                    .files = {.out = out, .det = det, .CorPath = places.CorPath}};
+    announced.run = &run;
     try {
         PrintRunNotes(out);
         runCommands(run);

@@ -1,10 +1,9 @@
 #include "cli/command_line.h"
 
-#include <map>
 #include <string_view>
 
-#include "batch/run_batch.h"
 #include "common/disk.h"
+#include "exchange/vector_format.h"
 
 #ifdef _WIN32
 #include <windows.h>
@@ -23,6 +22,17 @@ std::string withoutTrailingSeparator(std::string folder) {
 
 CommandLineReading refused(std::string complaint) {
     return {.line = std::nullopt, .complaint = std::move(complaint)};
+}
+
+// "gpkg, geojson, ... or ods"
+std::string vectorEndings() {
+    std::string endings;
+    for (const FormatLimits& format : vectorFormats()) {
+        if (!endings.empty())
+            endings += format.format == vectorFormats().back().format ? " or " : ", ";
+        endings += format.ending;
+    }
+    return endings;
 }
 
 #ifdef _WIN32
@@ -51,12 +61,18 @@ CommandLineReading readCommandLine(std::span<const std::string> arguments) {
         } else if (argument == "--help" || argument == "--version") {
             line.wish = argument == "--help" ? CommandLine::Wish::Help : CommandLine::Wish::Version;
             return {.line = line, .complaint = {}};
+        } else if (argument == "--check") {
+            line.wish = CommandLine::Wish::Check;
         } else if (argument == "--quiet") {
             line.quiet = true;
         } else if (argument == "--app-folder") {
             if (++i == arguments.size() || arguments[i].empty())
                 return refused("--app-folder needs a folder");
             line.applicationFolder = withoutTrailingSeparator(arguments[i]);
+        } else if (argument == "--export") {
+            if (++i == arguments.size() || !vectorFormatOf(arguments[i]))
+                return refused("--export needs a file whose name ends in " + vectorEndings());
+            line.exports.push_back(arguments[i]);
         } else if (argument == "-") {
             return refused(
                 "standard input can't be converted: the result stands beside the data file and "
@@ -67,13 +83,10 @@ CommandLineReading readCommandLine(std::span<const std::string> arguments) {
     }
     if (line.dataFiles.empty()) return refused("no data file is given");
 
-    std::map<std::string, std::string> writers;
-    for (const std::string& data : line.dataFiles) {
-        const auto [first, fresh] = writers.emplace(resultFileOf(data), data);
-        if (!fresh) {
-            return refused(first->second + " and " + data + " would both write " + first->first);
-        }
-    }
+    if (!line.exports.empty() && line.wish == CommandLine::Wish::Check)
+        return refused("--check writes nothing, --export writes");
+    if (!line.exports.empty() && line.dataFiles.size() > 1)
+        return refused("--export takes the tables of one data file");
     return {.line = line, .complaint = {}};
 }
 
@@ -94,7 +107,7 @@ std::vector<std::string> argumentsOfProcess([[maybe_unused]] int argc,
 }
 
 std::string usageText() {
-    return "usage: kelvo-batch [--app-folder DIR] [--quiet] DATA.dat...\n";
+    return "usage: kelvo-batch [--app-folder DIR] [--quiet] [--check] [--export FILE] DATA.dat...\n";
 }
 
 std::string helpText() {
@@ -107,12 +120,18 @@ std::string helpText() {
            "that fails doesn't stop the others.\n"
            "\n"
            "  --app-folder DIR  use DIR as the application folder\n"
+           "  --check           convert nothing and write nothing: look for slips in the data\n"
+           "                    files and print them to standard output as FILE:LINE: text\n"
+           "  --export FILE     write the tables' points to FILE as well, for other programs; its\n"
+           "                    name ends in gpkg, geojson, shp, kml, gpx, dxf, xlsx or ods\n"
            "  --quiet           print run-time errors only: no messages, no progress bar\n"
            "  --help            print this and end\n"
            "  --version         print the version and end\n"
            "  --                what follows are data files\n"
            "\n"
-           "Exit code: 0 every run ended, 1 a run-time error in one of them, 2 wrong usage.\n";
+           "Exit code: 0 every run ended, 1 a run-time error in one of them, 2 wrong usage.\n"
+           "With --check: 0 nothing found, 1 something found, 2 wrong usage or a file that\n"
+           "can't be read.\n";
 }
 
 }  // namespace kelvo

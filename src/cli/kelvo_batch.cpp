@@ -2,15 +2,23 @@
 #include <cstdio>
 #include <memory>
 #include <new>
+#include <set>
 #include <string>
+#include <vector>
 
 #include "batch/run_batch.h"
+#include "cli/check_files.h"
 #include "cli/command_line.h"
 #include "cli/progress_bar.h"
+#include "cli/shared_files.h"
+#include "cli/table_export.h"
 #include "common/application_folder.h"
 #include "common/disk.h"
 #include "common/paths.h"
 #include "common/run_time_fault.h"
+#include "common/shown_line.h"
+#include "common/standard_streams.h"
+#include "exchange/load_point_files.h"
 
 #ifdef _WIN32
 #include <windows.h>
@@ -23,6 +31,9 @@ using namespace kelvo;
 constexpr int kRunEnded = 0;
 constexpr int kRunTimeFault = 1;
 constexpr int kWrongUsage = 2;
+constexpr int kNothingFound = 0;
+constexpr int kSomethingFound = 1;
+constexpr int kNotRead = 2;
 
 constexpr std::size_t kManyFiles = 5;  // from so many on a progress bar is worth its line
 
@@ -30,16 +41,23 @@ void print(std::FILE* stream, const std::string& text) {
     std::fwrite(text.data(), 1, text.size(), stream);
 }
 
-// Lines of standard error, each behind the name of its data file if there are several.
+void printUsage(const std::string& complaint) {
+    print(stderr, shownLine("kelvo-batch: " + complaint) + "\n" + usageText());
+}
+
+// Of a line that begins with the name of its data file.
+constexpr std::size_t kLongestPrefix = 500;
+
+// Lines of standard error, each after the name of its data file if there are several.
 class StandardError {
 public:
     explicit StandardError(ProgressBar& bar) : bar_(bar) {}
 
-    void setPrefix(std::string prefix) { prefix_ = std::move(prefix); }
+    void setName(const std::string& name) { prefix_ = shownLine(name, kLongestPrefix) + ": "; }
 
     void line(const std::string& text) {
         bar_.clear();
-        print(stderr, prefix_ + text + "\n");
+        print(stderr, prefix_ + shownLine(text, kLongestShownLine - prefix_.size()) + "\n");
     }
 
 private:
@@ -89,8 +107,52 @@ void copyFile(Disk& disk, const std::string& from, const std::string& to) {
     target->close();
 }
 
-std::string detailBeside(const std::string& data) {
-    return genSub::StripExtension(data) + ".det";
+// Sees whether a run came so far that its detail file is of this run.
+class DetailWatch final : public RunView {
+public:
+    void detailIsOpen() override { isOpen = true; }
+
+    bool isOpen = false;
+};
+
+// What killed programs left beside the files of this call.
+void tidyUp(Disk& disk, const CommandLine& line, const std::string& folder) {
+    std::set<std::string> folders{folder};
+    for (const std::string& data : line.dataFiles) {
+        const std::size_t separator = data.rfind(kPathSeparator);
+        folders.insert(separator == std::string::npos ? "." : data.substr(0, separator + 1));
+    }
+    for (const std::string& name : folders) disk.tidy(name);
+}
+
+// True if every file that was asked for is written.
+bool exportAll(const PointTable& points, const std::vector<std::string>& paths,
+               StandardError& error) {
+    bool good = true;
+    for (const std::string& path : paths) {
+        try {
+            exportTables(points, path);
+        } catch (const ExchangeFault& fault) {
+            error.line(std::string("export: ") + fault.what());
+            good = false;
+        }
+    }
+    return good;
+}
+
+// Why the exports can't take place, looked at before the run; empty if nothing stands against them.
+std::string complaintOfExports(const CommandLine& line) {
+    PlatformDisk disk;
+    for (const std::string& path : line.exports) {
+        if (disk.sameFile(path, line.dataFiles.front()))
+            return "--export and the data file are the same file (" + path + ")";
+    }
+    try {
+        if (!line.exports.empty()) static_cast<void>(loadPointFiles());
+    } catch (const ExchangeFault& fault) {
+        return fault.what();
+    }
+    return {};
 }
 
 // Every file is a run of its own: nothing of one shows in another.
@@ -98,39 +160,62 @@ int runAll(const CommandLine& line, const std::string& folder, StandardError& er
            ProgressBar& bar) {
     const bool several = line.dataFiles.size() > 1;
     const std::string detail = folder + kPathSeparator + "kelvo.det";
-    PlatformDisk disk;
-    RunView noScreen;
+    const std::string known = folder + kPathSeparator + "kelvo.cor";
+    PlatformDisk disk(Pipes::Wait);
     StandardErrorMessages messages(error, line.quiet);
+    if (const auto complaint = complaintAboutSharedFiles(disk, line.dataFiles, detail, known)) {
+        printUsage(*complaint);
+        return kWrongUsage;
+    }
+    tidyUp(disk, line, folder);
 
     bool good = true;
-    bool lastEnded = false;
+    DetailWatch last;
     std::size_t done = 0;
     for (const std::string& data : line.dataFiles) {
         bar.show(done++, data);
-        if (several) error.setPrefix(data + ": ");
-        const RunPlaces places{.dataFile = data,
-                               .detPath = several ? detailBeside(data) : detail,
-                               .CorPath = folder + kPathSeparator + "kelvo.cor"};
+        if (several) error.setName(data);
+        const RunPlaces places{
+            .dataFile = data, .detPath = several ? detailBeside(data) : detail, .CorPath = known};
         const auto state = std::make_unique<ConversionState>();
-        lastEnded = ends([&] { RunBatch(*state, places, noScreen, disk, messages); }, error);
-        good &= lastEnded;
+        last = {};
+        const bool ended = ends([&] { RunBatch(*state, places, last, disk, messages); }, error);
+        good &= ended;
+        if (ended) good &= exportAll(state->points, line.exports, error);
     }
-    // As ever, kelvo.det tells of the last run.
-    const std::string last = detailBeside(line.dataFiles.back());
-    if (several && lastEnded && !disk.sameFile(last, detail))
-        good &= ends([&] { copyFile(disk, last, detail); }, error);
+    // As ever, kelvo.det is that of the last run, also where a fault ended it.
+    const std::string lastDetail = detailBeside(line.dataFiles.back());
+    if (several && last.isOpen && !disk.sameFile(lastDetail, detail))
+        good &= ends([&] { copyFile(disk, lastDetail, detail); }, error);
     return good ? kRunEnded : kRunTimeFault;
 }
 
-}  // namespace
+// Findings are what was asked for and go to standard output.
+int checkAll(const CommandLine& line, const std::string& folder) {
+    PlatformDisk disk;
+    const CheckOutput output{.finding = [](const std::string& text) { print(stdout, text + "\n"); },
+                             .failure =
+                                 [](const std::string& text) {
+                                     print(stderr, shownLine("kelvo-batch: " + text) + "\n");
+                                 }};
+    switch (checkFiles(line.dataFiles, folder + kPathSeparator + "kelvo.cor", disk, output)) {
+        case CheckResult::Clean:
+            return kNothingFound;
+        case CheckResult::Found:
+            return kSomethingFound;
+        case CheckResult::NotRead:
+            break;
+    }
+    return kNotRead;
+}
 
-int main(int argc, char** argv) {
+int runCommand(int argc, char** argv) {
 #ifdef _WIN32
     SetConsoleOutputCP(CP_UTF8);
 #endif
     const CommandLineReading reading = readCommandLine(argumentsOfProcess(argc, argv));
     if (!reading.line) {
-        print(stderr, "kelvo-batch: " + reading.complaint + "\n" + usageText());
+        printUsage(reading.complaint);
         return kWrongUsage;
     }
     const CommandLine& line = *reading.line;
@@ -142,15 +227,35 @@ int main(int argc, char** argv) {
         print(stdout, "kelvo-batch " KELVO_VERSION "\n");
         return kRunEnded;
     }
-    ProgressBar bar(line.dataFiles.size(), !line.quiet && line.dataFiles.size() >= kManyFiles &&
+    if (const std::string complaint = complaintOfExports(line); !complaint.empty()) {
+        print(stderr, shownLine("kelvo-batch: " + complaint) + "\n");
+        return kWrongUsage;
+    }
+    const bool checks = line.wish == CommandLine::Wish::Check;
+    ProgressBar bar(line.dataFiles.size(), !line.quiet && !checks &&
+                                               line.dataFiles.size() >= kManyFiles &&
                                                standardErrorIsTerminal());
     StandardError error(bar);
     std::string folder;
     const bool folderStands = ends(
         [&] {
             folder = line.applicationFolder ? *line.applicationFolder : findApplicationFolder();
-            if (!line.applicationFolder) makeApplicationFolder(folder);
+            if (!line.applicationFolder && !checks) makeApplicationFolder(folder);
         },
         error);
-    return folderStands ? runAll(line, folder, error, bar) : kRunTimeFault;
+    if (!folderStands) return checks ? kNotRead : kRunTimeFault;
+    return checks ? checkAll(line, folder) : runAll(line, folder, error, bar);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    secureStandardStreams();
+    try {
+        return runCommand(argc, argv);
+    } catch (const std::bad_alloc&) {
+        // Memory may have ended before there was a line to say so in.
+        std::fputs("run-time error 7: 메모리가 모자랍니다\n", stderr);
+        return kRunTimeFault;
+    }
 }

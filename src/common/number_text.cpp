@@ -67,7 +67,7 @@ bool vanishes(std::string_view mantissa, std::string_view exponent) {
     const auto [end, error] =
         std::from_chars(exponent.data(), exponent.data() + exponent.size(), power);
     if (error != std::errc{} && !exponent.empty()) return exponent.front() == '-';
-    return place + power < 0;
+    return power < -place;  // the sum of the two could leave the range of an integer
 }
 
 // The usual number: digits, a point, an exponent introduced by E. Nothing for any other.
@@ -228,6 +228,14 @@ NumberRead readNumber(std::string_view text) {
     const DecimalShape shape = decimalShape(text);
     if (shape.length == 0) return {};
     return readDecimal(text, shape);
+}
+
+std::size_t numberLength(std::string_view text) {
+    const std::string_view number = withoutBlanksInFront(text);
+    unsigned base = 0;
+    std::size_t length = radixLength(number, base);
+    if (length == 0) length = decimalShape(number).length;
+    return length == 0 ? 0 : text.size() - number.size() + length;
 }
 
 double leadingNumber(std::string_view text) {

@@ -7,18 +7,18 @@
 #include <vector>
 
 #include "desktop/widget_book.h"
+#include "panels/coordinate_text.h"
 
 namespace kelvo::desktop {
 
-// The boxes' texts without their blanks, parted by tabs: a row for a spreadsheet.
-[[nodiscard]] QString coordinatesOf(const std::vector<std::string>& texts);
+struct CoordinateGroup {
+    CoordinateForm form;
+    std::vector<std::string> boxes;  // latitude, longitude, height; or X, Y, height
+};
 
-// The first numbers of a text, as they are spelt there: parted by tabs, commas, semicolons,
-// blanks or line ends. At most `most` of them.
-[[nodiscard]] std::vector<std::string> coordinatesIn(const QString& text, std::size_t most);
-
-// Two small buttons that copy the group and paste into it. Pasting types into the boxes that are
-// open to typing, and into none if one of them is closed.
-[[nodiscard]] QWidget* clipboardButtons(WidgetBook& book, const std::vector<std::string>& boxes);
+// Two small buttons that copy the group as a row for a spreadsheet, and paste into it. Pasting
+// types into the boxes, or into none and says why: the group is closed to typing, or the text on
+// the clipboard isn't one point without doubt.
+[[nodiscard]] QWidget* clipboardButtons(WidgetBook& book, const CoordinateGroup& group);
 
 }  // namespace kelvo::desktop

@@ -2,6 +2,7 @@
 
 #include <QFontInfo>
 #include <QFontMetricsF>
+#include <QPainterPath>
 #include <QStringList>
 #include <algorithm>
 #include <array>
@@ -102,28 +103,72 @@ QString TextFace::installedName() const {
     return QFontInfo(font_).family();
 }
 
-void TextFace::draw(QPainter& painter, double x, double y, const QString& text) const {
-    if (text.isEmpty()) return;
-    const QTransform before = painter.transform();
-    painter.translate(x, y);
-    painter.scale(scale_, scale_);
-    painter.setFont(font_);
-    if (fitsCells_) {
-        drawCells(painter, text);
-    } else {
-        painter.drawText(QPointF(0, ascent_), text);
+namespace {
+
+// Moves a painter to the top left of a text cell and to the units of the font, and back.
+class AtCell {
+public:
+    AtCell(QPainter& painter, double x, double y, double scale)
+        : painter_(painter), before_(painter.transform()) {
+        painter_.translate(x, y);
+        painter_.scale(scale, scale);
     }
-    painter.setTransform(before);
+    ~AtCell() { painter_.setTransform(before_); }
+    AtCell(const AtCell&) = delete;
+    AtCell& operator=(const AtCell&) = delete;
+
+private:
+    QPainter& painter_;
+    QTransform before_;
+};
+
+// Calls with each word and the place of its first letter.
+template <class Action>
+void eachWord(const QString& text, const Action& action) {
+    for (qsizetype at = 0; at < text.size();) {
+        qsizetype end = at;
+        while (end < text.size() && text[end] != QLatin1Char(' ')) ++end;
+        if (end > at) action(text.mid(at, end - at), at);
+        at = end + 1;
+    }
 }
 
-void TextFace::drawCells(QPainter& painter, const QString& text) const {
-    const QFontMetricsF metrics(font_);
-    const QTransform start = painter.transform();
-    // Lines under and through the text run on from cell to cell, so they are drawn whole.
+}  // namespace
+
+void TextFace::draw(QPainter& painter, double x, double y, const QString& text) const {
+    if (text.isEmpty()) return;
+    const AtCell cell(painter, x, y, scale_);
+    if (fitsCells_) {
+        drawLines(painter, text);
+        drawCells(painter, text);
+    } else {
+        painter.setFont(font_);
+        painter.drawText(QPointF(0, ascent_), text);
+    }
+}
+
+void TextFace::drawInDocument(QPainter& painter, double x, double y, const QString& text) const {
+    if (text.isEmpty()) return;
+    const AtCell cell(painter, x, y, scale_);
+    drawLines(painter, text);
+    if (fitsCells_) {
+        drawOutlines(painter, text);
+        drawUnseenWords(painter, text);
+    } else {
+        drawWords(painter, text);
+    }
+}
+
+QFont TextFace::withoutLines() const {
     QFont plain = font_;
     plain.setUnderline(false);
     plain.setStrikeOut(false);
-    painter.setFont(plain);
+    return plain;
+}
+
+// Lines under and through the text run on from word to word, so they are drawn whole.
+void TextFace::drawLines(QPainter& painter, const QString& text) const {
+    const QFontMetricsF metrics(font_);
     const double thickness = std::max(metrics.lineWidth(), kFontEm / 20.0);
     const double whole = width(text) / scale_;
     const QColor colour = painter.pen().color();
@@ -135,20 +180,87 @@ void TextFace::drawCells(QPainter& painter, const QString& text) const {
         const double y = ascent_ - metrics.strikeOutPos();
         painter.fillRect(QRectF(0, y, whole, thickness), colour);
     }
+}
+
+// How a letter sits in its cell: squeezed if it is too wide, in the middle otherwise.
+QTransform TextFace::placeInCell(const QFontMetricsF& metrics, QChar letter, double left) const {
+    const double cell = cellWidth(letter);
+    const double advance = metrics.horizontalAdvance(letter);
+    QTransform place;
+    place.translate(advance > cell ? left : left + (cell - advance) / 2, ascent_);
+    if (advance > cell) place.scale(cell / advance, 1);
+    return place;
+}
+
+void TextFace::drawCells(QPainter& painter, const QString& text) const {
+    const QTransform start = painter.transform();
+    const QFontMetricsF metrics(font_);
+    painter.setFont(withoutLines());
     double left = 0;
     for (const QChar letter : text) {
-        const double cell = cellWidth(letter);
-        const double advance = metrics.horizontalAdvance(letter);
-        if (advance > cell) {
-            painter.translate(left, ascent_);
-            painter.scale(cell / advance, 1);
-        } else {
-            painter.translate(left + (cell - advance) / 2, ascent_);
-        }
+        painter.setTransform(placeInCell(metrics, letter, left), true);
         painter.drawText(QPointF(0, 0), QString(letter));
         painter.setTransform(start);
-        left += cell;
+        left += cellWidth(letter);
     }
+}
+
+namespace {
+
+QPainterPath outlineOf(QFont font, bool bold) {
+    font.setBold(bold);
+    QPainterPath outline;
+    outline.addText(QPointF(0, 0), font, QStringLiteral("가H"));
+    return outline;
+}
+
+}  // namespace
+
+void TextFace::drawOutlines(QPainter& painter, const QString& text) const {
+    const QFontMetricsF metrics(font_);
+    const QFont plain = withoutLines();
+    QPainterPath outlines;
+    outlines.setFillRule(Qt::WindingFill);
+    double left = 0;
+    for (const QChar letter : text) {
+        QPainterPath outline;
+        outline.addText(QPointF(0, 0), plain, QString(letter));
+        outlines.addPath(placeInCell(metrics, letter, left).map(outline));
+        left += cellWidth(letter);
+    }
+    const QColor colour = painter.pen().color();
+    painter.fillPath(outlines, colour);
+    // Outlines come as the face has them; one without a bold cut is made bold by a pen.
+    if (font_.bold() && outlineOf(font_, false) == outlineOf(font_, true)) {
+        painter.strokePath(
+            outlines, QPen(colour, kFontEm / 24.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    }
+}
+
+void TextFace::drawUnseenWords(QPainter& painter, const QString& text) const {
+    const QPen seen = painter.pen();
+    QFont cells = fixedPitchFont(1);
+    cells.setPixelSize(kFontEm);
+    const QFontMetricsF metrics(cells);
+    painter.setFont(cells);
+    painter.setPen(QColor(0, 0, 0, 0));
+    eachWord(text, [&](const QString& word, qsizetype at) {
+        const double advance = metrics.horizontalAdvance(word);
+        if (!(advance > 0)) return;
+        const QTransform start = painter.transform();
+        painter.translate(width(text.left(at)) / scale_, ascent_);
+        painter.scale(width(word) / scale_ / advance, 1);
+        painter.drawText(QPointF(0, 0), word);
+        painter.setTransform(start);
+    });
+    painter.setPen(seen);
+}
+
+void TextFace::drawWords(QPainter& painter, const QString& text) const {
+    painter.setFont(withoutLines());
+    eachWord(text, [&](const QString& word, qsizetype at) {
+        painter.drawText(QPointF(width(text.left(at)) / scale_, ascent_), word);
+    });
 }
 
 }  // namespace kelvo::desktop

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QFont>
+#include <QFontMetricsF>
 #include <QPainter>
 #include <QString>
 
@@ -40,13 +41,26 @@ public:
     // (x, y) is the top left of the text cell; colour is the painter's pen.
     void draw(QPainter& painter, double x, double y, const QString& text) const;
 
+    // The same for a document, in which a reader finds the text: words stand there as words,
+    // blanks as the room between them (a face's blank can stand for another letter there, and
+    // letters that were fitted into cells would each be a word).
+    void drawInDocument(QPainter& painter, double x, double y, const QString& text) const;
+
     [[nodiscard]] bool fitsCells() const { return fitsCells_; }
 
     // The face that is really drawn with.
     [[nodiscard]] QString installedName() const;
 
 private:
+    // Each draws from the origin, in the units of the font.
     void drawCells(QPainter& painter, const QString& text) const;
+    void drawLines(QPainter& painter, const QString& text) const;
+    void drawWords(QPainter& painter, const QString& text) const;
+    void drawOutlines(QPainter& painter, const QString& text) const;
+    void drawUnseenWords(QPainter& painter, const QString& text) const;
+    [[nodiscard]] QFont withoutLines() const;
+    [[nodiscard]] QTransform placeInCell(const QFontMetricsF& metrics, QChar letter,
+                                         double left) const;
 
     QFont font_;
     double scale_ = 1;  // of the font, which is made at one size, to the look's em

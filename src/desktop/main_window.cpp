@@ -4,16 +4,19 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
-#include <QFile>
 #include <QMenuBar>
-#include <QMimeData>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QStatusBar>
 #include <QToolButton>
+#include <chrono>
 #include <cmath>
 
 #include "common/code_page.h"
 #include "desktop/fault_report.h"
+#include "desktop/file_drop.h"
+#include "desktop/menu_keys.h"
+#include "desktop/native_paths.h"
 #include "desktop/text_viewer.h"
 
 namespace kelvo::desktop {
@@ -23,25 +26,19 @@ namespace {
 constexpr double kTwipsPerPixel = 15;
 constexpr int kEntryOpen = 2;  // mnuFileItem(2): 기존파일 열기
 
-QString droppedDataFile(const QMimeData* data) {
-    for (const QUrl& url : data->urls()) {
-        QString path = url.toLocalFile();
-        if (path.endsWith(QLatin1String(".dat"), Qt::CaseInsensitive)) return path;
-    }
-    return {};
-}
-
 }  // namespace
 
 MainWindow::MainWindow(const std::string& applicationFolder)
     : applicationFolder_(applicationFolder),
-      lock_(qt(applicationFolder)),
       messages_(dialogParent_),
-      dialogs_(dialogParent_, [this]() -> QPrinter& { return systemPrinter(); }) {
+      dialogs_(dialogParent_, [this]() -> QPrinter& { return systemPrinter(); }),
+      rawPrinter_([this](const QString& text) { tellInStatusLine(text); }),
+      alarm_(gate_),
+      journal_(applicationFolder),
+      unsavedTextBar_(new UnsavedTextBar(this)) {
     setObjectName(QStringLiteral("frmKelvo"));
     setAccessibleDescription(QStringLiteral("frmKelvo"));
-    setAcceptDrops(true);
-    dialogParent_ = {this, &lock_};
+    dialogParent_.window = this;
     gate_.before = [this](EventGate::Event event) { beforeEvent(event); };
     gate_.after = [this](EventGate::Event event) { afterEvent(event); };
     gate_.onFault = [this](int number, const std::string& text) { reportFault(number, text); };
@@ -56,14 +53,20 @@ MainWindow::MainWindow(const std::string& applicationFolder)
                                                                       .screen = primaryScreen_,
                                                                       .pointer = pointer_,
                                                                       .surfaces = *this,
-                                                                      .programEnd = end_});
+                                                                      .programEnd = end_,
+                                                                      .alarm = alarm_,
+                                                                      .journal = journal_});
     stage_ = new PanelStage;
     setCentralWidget(stage_);
     book_ = std::make_unique<WidgetBook>(program_->form(), gate_, *menuBar(), stage_);
     buildPanels();
     bindWindow();
     addShortcuts();
+    leadIntoMenus(*menuBar());
     addThemeButton();
+    new FileDrop(*this, [this](const std::vector<std::string>& paths) { openFiles(paths); });
+    watchUnsavedText();
+    addBringBack();
 }
 
 MainWindow::~MainWindow() {
@@ -84,8 +87,12 @@ void MainWindow::buildPanels() {
     stage_->setUp(*book_, filePanel_);
 
     filePanel_.panel->installEventFilter(this);
-    filePanel_.path->setText(filePanel_.panel->property("caption").toString());
+    filePanel_.path->setWholeText(filePanel_.panel->property("caption").toString());
     connect(book_->viewer(), &TextViewer::modifiedChanged, this, [this] { showUnsavedMark(); });
+    book_->plotView()->placeAt = [this](QPointF twips, double reach) {
+        const PlotPlace place = program_->plotPlaceAt(twips.x(), twips.y(), reach);
+        return std::pair(qt(place.coordinates), qt(place.point));
+    };
     connect(book_->plotView(), &PlotView::saveFailed, this, [this](const QString& path) {
         messages_.show(
             {.text = (path + QStringLiteral(" 파일을 저장할 수 없습니다.")).toStdString(),
@@ -102,10 +109,11 @@ void MainWindow::bindWindow() {
     window->watch([this, window](Property property) {
         if (property == Property::Caption) setWindowTitle(qt(window->caption()));
         if (property == Property::Place && window->width() > 0) {
-            setGeometry(static_cast<int>(std::lround(window->left() / kTwipsPerPixel)),
-                        static_cast<int>(std::lround(window->top() / kTwipsPerPixel)),
-                        static_cast<int>(std::lround(window->width() / kTwipsPerPixel)),
-                        static_cast<int>(std::lround(window->height() / kTwipsPerPixel)));
+            const auto pixels = [](double twips) {
+                return static_cast<int>(std::lround(twips / kTwipsPerPixel));
+            };
+            place_.put({pixels(window->left()), pixels(window->top()), pixels(window->width()),
+                        pixels(window->height())});
         }
     });
 }
@@ -133,8 +141,7 @@ void MainWindow::addThemeButton() {
     connect(button, &QToolButton::clicked, this, [this] {
         const Theme theme = isDark() ? Theme::Light : Theme::Dark;
         setTheme(*static_cast<QApplication*>(QApplication::instance()), theme);
-        QSettings(QDir(qt(applicationFolder_)).filePath(QStringLiteral("window.ini")),
-                  QSettings::IniFormat)
+        QSettings(settingsFile(), QSettings::IniFormat)
             .setValue(QStringLiteral("theme"), nameOf(theme));
     });
     menuBar()->setCornerWidget(button);
@@ -143,26 +150,47 @@ void MainWindow::addThemeButton() {
 bool MainWindow::start() {
     gate_.run([this] { Main(*program_); });
     if (gate_.isClosed()) return false;
+    place_.restore(QSettings(settingsFile(), QSettings::IniFormat));
+    offerUnsavedText();
     show();
     return true;
 }
 
-void MainWindow::openDataFile(const QString& path) {
+QString MainWindow::settingsFile() const {
+    return QDir(qt(applicationFolder_)).filePath(QStringLiteral("window.ini"));
+}
+
+void MainWindow::openDataFile(const std::string& path) {
     gate_.run([this, &path] {
-        dialogs_.chooseNext(QDir::toNativeSeparators(path).toStdString());
+        dialogs_.chooseNext(path);
         program_->form().find("mnuFileItem")->clickEntry(kEntryOpen);
     });
     dialogs_.forgetChosen();
 }
 
+void MainWindow::openResultFile(const std::string& path) {
+    gate_.run([this, &path] { program_->OpenRichText(path); });
+}
+
+void MainWindow::openFiles(const std::vector<std::string>& paths) {
+    const std::string& path = paths.front();
+    if (qt(path).endsWith(QLatin1String(".dat"), Qt::CaseInsensitive)) {
+        openDataFile(path);
+    } else {
+        openResultFile(path);
+    }
+}
+
 void MainWindow::beforeEvent(EventGate::Event event) {
     if (event == EventGate::Event::Typing) return;
     book_->takeViewerText();
-    lock_.take();
 }
 
-void MainWindow::afterEvent(EventGate::Event event) {
-    if (event == EventGate::Event::Command) lock_.release();
+void MainWindow::afterEvent(EventGate::Event /*event*/) {
+    if (dialogParent_.nobodyAnswers && !end_.hasEnded()) {
+        // The end was wanted while this event was on its way.
+        QMetaObject::invokeMethod(this, &MainWindow::endWithoutAsking, Qt::QueuedConnection);
+    }
     if (end_.hasEnded()) {
         gate_.close();
         QApplication::exit(0);
@@ -173,47 +201,35 @@ void MainWindow::afterEvent(EventGate::Event event) {
     if (paper_.sheetsAreWaiting()) printWaitingSheets();
 }
 
-bool MainWindow::textIsSaved() const {
-    QFile file(filePanel_.path->text());
-    if (!file.open(QIODevice::ReadOnly)) return false;
-    const std::string bytes = encodeCodePage(book_->viewer()->text());
-    if (file.size() != static_cast<qint64>(bytes.size())) return false;
-    return file.readAll() ==
-           QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
+void MainWindow::tellInStatusLine(const QString& text) {
+    constexpr std::chrono::milliseconds kLongEnoughToRead{20'000};
+    statusBar()->showMessage(text, static_cast<int>(kLongEnoughToRead.count()));
 }
 
 // The mark says that the text differs from the file it came from; nothing is ever asked.
 void MainWindow::showUnsavedMark() {
     TextViewer* viewer = book_->viewer();
-    if (viewer->isModified() && !viewer->hasUntakenText() && textIsSaved()) {
-        viewer->setModified(false);
+    if (!viewer->hasUntakenText()) {
+        const bool unsaved = program_->textIsUnsaved();
+        if (viewer->isModified() != unsaved) viewer->setModified(unsaved);
     }
     filePanel_.unsavedMark->setVisible(viewer->isModified());
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     if (watched == filePanel_.panel && event->type() == QEvent::DynamicPropertyChange) {
-        filePanel_.path->setText(filePanel_.panel->property("caption").toString());
+        filePanel_.path->setWholeText(filePanel_.panel->property("caption").toString());
     }
     return QMainWindow::eventFilter(watched, event);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
+    QSettings settings(settingsFile(), QSettings::IniFormat);
+    place_.remember(settings);
     if (!gate_.isClosed()) {
         gate_.run([this] { program_->Form_Close(); });
     }
     event->setAccepted(gate_.isClosed());
-}
-
-void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
-    if (!droppedDataFile(event->mimeData()).isEmpty()) event->acceptProposedAction();
-}
-
-void MainWindow::dropEvent(QDropEvent* event) {
-    const QString path = droppedDataFile(event->mimeData());
-    if (path.isEmpty()) return;
-    event->acceptProposedAction();
-    openDataFile(path);
 }
 
 }  // namespace kelvo::desktop

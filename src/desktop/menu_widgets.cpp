@@ -8,8 +8,14 @@ namespace kelvo::desktop {
 
 namespace {
 
-// An entry of the recent list has its access key in front; an "&" in the path is just a letter.
-QString entryText(const std::string& caption) {
+bool isSeparator(const std::string& caption) {
+    return caption == "-";
+}
+
+// An entry of the recent list has its access key in front; an "&" in the path is just a letter. A
+// separator has no text: it would be shown as the title of what follows.
+QString actionText(const std::string& caption) {
+    if (isSeparator(caption)) return {};
     if (caption.size() < 2 || caption.front() != '&') return qt(caption);
     QString rest = qt(std::string_view(caption).substr(1));
     rest.replace(QLatin1Char('&'), QStringLiteral("&&"));
@@ -33,14 +39,14 @@ void WidgetBook::makeMenu(Control& control) {
 
 void WidgetBook::makeMenuItem(Control& control) {
     QMenu* menu = menus_.at(control.parent());
-    auto* action = new QAction(qt(control.caption()), menu);
+    auto* action = new QAction(actionText(control.caption()), menu);
     action->setObjectName(qt(control.name()));
-    action->setSeparator(control.caption() == "-");
+    action->setSeparator(isSeparator(control.caption()));
     menu->addAction(action);
     QObject::connect(action, &QAction::triggered, action,
                      [this, &control] { gate_.run([&] { control.click(); }); });
     control.watch([&control, action](Property) {
-        action->setText(qt(control.caption()));
+        action->setText(actionText(control.caption()));
         action->setEnabled(control.enabled());
         action->setVisible(control.visible());
     });
@@ -57,10 +63,10 @@ void WidgetBook::makeMenuArray(Control& control) {
         }
         for (int index = 0; index <= control.highestIndex(); ++index) {
             const MenuEntry& entry = control.entries()[static_cast<std::size_t>(index)];
-            auto* action = new QAction(entryText(entry.caption), menu);
+            auto* action = new QAction(actionText(entry.caption), menu);
             action->setObjectName(QStringLiteral("%1(%2)").arg(qt(control.name())).arg(index));
             action->setProperty("entry", index);
-            action->setSeparator(entry.caption == "-");
+            action->setSeparator(isSeparator(entry.caption));
             action->setEnabled(entry.enabled);
             if (index == 0) action->setShortcut(QKeySequence::New);
             if (index == 2) action->setShortcut(QKeySequence::Open);

@@ -1,7 +1,9 @@
 // The one-point panel: the four frames as a chain with arrows between them, and below each pair
 // the parameters that their arrows work with.
+#include <QApplication>
 #include <QFont>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QVBoxLayout>
@@ -10,6 +12,7 @@
 
 #include "desktop/box_grid.h"
 #include "desktop/coordinate_clipboard.h"
+#include "desktop/panel_keys.h"
 #include "desktop/panel_layouts.h"
 
 namespace kelvo::desktop {
@@ -37,14 +40,16 @@ QLayout* arrows(WidgetBook& book, std::string_view there, std::string_view words
 
 void layOutWgs(WidgetBook& book) {
     BoxGrid grid(book, "frmeWGS");
-    grid.row(
-        {book.at("optWdeg"), clipboardButtons(book, {"txtWdegPhi", "txtWdegLam", "txtWdegTH"})});
+    grid.row({book.at("optWdeg"),
+              clipboardButtons(
+                  book, {CoordinateForm::Degrees, {"txtWdegPhi", "txtWdegLam", "txtWdegTH"}})});
     grid.boxes({"txtWdegPhi"});
     grid.boxes({"txtWdegLam"});
     grid.boxes({"txtWdegTH"});
     grid.gap();
     grid.row(
-        {book.at("optWdms"), clipboardButtons(book, {"txtWdmsPhi", "txtWdmsLam", "txtWdmsTH"})});
+        {book.at("optWdms"),
+         clipboardButtons(book, {CoordinateForm::Dms, {"txtWdmsPhi", "txtWdmsLam", "txtWdmsTH"}})});
     grid.boxes({"txtWdmsPhi"});
     grid.boxes({"txtWdmsLam"});
     grid.boxes({"txtWdmsTH"});
@@ -56,14 +61,16 @@ void layOutWgs(WidgetBook& book) {
 
 void layOutUser(WidgetBook& book) {
     BoxGrid grid(book, "Frame2");
-    grid.row(
-        {book.at("optBdeg"), clipboardButtons(book, {"txtBdegPhi", "txtBdegLam", "txtBdegH"})});
+    grid.row({book.at("optBdeg"),
+              clipboardButtons(
+                  book, {CoordinateForm::Degrees, {"txtBdegPhi", "txtBdegLam", "txtBdegH"}})});
     grid.boxes({"txtBdegPhi"});
     grid.boxes({"txtBdegLam"});
     grid.boxes({"txtBdegH"});
     grid.gap();
     grid.row(
-        {book.at("optBdms"), clipboardButtons(book, {"txtBdmsPhi", "txtBdmsLam", "txtBdmsH"})});
+        {book.at("optBdms"),
+         clipboardButtons(book, {CoordinateForm::Dms, {"txtBdmsPhi", "txtBdmsLam", "txtBdmsH"}})});
     grid.boxes({"txtBdmsPhi"});
     grid.boxes({"txtBdmsLam"});
     grid.boxes({"txtBdmsH"});
@@ -75,7 +82,7 @@ void layOutUser(WidgetBook& book) {
 
 void layOutGrids(WidgetBook& book) {
     BoxGrid tm(book, "Frame3");
-    tm.row({}, clipboardButtons(book, {"txtX", "txtY", "txtH"}));
+    tm.row({}, clipboardButtons(book, {CoordinateForm::Grid, {"txtX", "txtY", "txtH"}}));
     tm.boxes({"txtX"});
     tm.boxes({"txtY"});
     tm.boxes({"txtH"});
@@ -85,7 +92,7 @@ void layOutGrids(WidgetBook& book) {
     tm.stretch();
 
     BoxGrid utm(book, "Frame13");
-    utm.row({}, clipboardButtons(book, {"txtUX", "txtUY", "txtUH"}));
+    utm.row({}, clipboardButtons(book, {CoordinateForm::Grid, {"txtUX", "txtUY", "txtUH"}}));
     utm.boxes({"txtUX"});
     utm.boxes({"txtUY"});
     utm.boxes({"txtUH"});
@@ -152,6 +159,8 @@ void layOutOnePointPanel(WidgetBook& book) {
     chain->addLayout(arrows(book, "cmdTM2UTM", "lblUtm", "cmdUTM2TM"));
     auto* last = new QVBoxLayout;
     last->addWidget(book.at("Frame13"), 1);
+    last->addWidget(book.at("lblHeights"));
+    last->addWidget(book.at("lblGeoid"));
     last->addWidget(book.at("cmdOneClose"), 0, Qt::AlignRight | Qt::AlignBottom);
     chain->addLayout(last, 3);
     rows->addLayout(chain);
@@ -177,6 +186,20 @@ void layOutOnePointPanel(WidgetBook& book) {
     panel->setContentsMargins(0, 0, 0, 0);
     panel->addWidget(scroll);
     orderTabs(book);
+
+    const auto goOn = [] {
+        if (QWidget* box = QApplication::focusWidget()) {
+            QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
+            QApplication::sendEvent(box, &tab);
+        }
+    };
+    // Closing takes the parameters over, and a box that holds no number would end the program.
+    const auto leave = [&book] {
+        if (!goToBoxWithoutNumber(book, {"Frame4", "Frame8", "Frame5", "Frame14"})) {
+            clicker(book, "cmdOneClose")();
+        }
+    };
+    new PanelKeys(*book.at("frmeOne"), goOn, leave);
 }
 
 }  // namespace kelvo::desktop

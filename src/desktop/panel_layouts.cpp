@@ -5,33 +5,43 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QScrollArea>
-#include <QShortcut>
 #include <QVBoxLayout>
 #include <array>
 
 #include "desktop/box_grid.h"
+#include "desktop/panel_keys.h"
 #include "desktop/text_viewer.h"
+#include "shell/boxes_without_number.h"
 
 namespace kelvo::desktop {
 
 namespace {
 
 // A bar in the colour of a selection, with the caption of the panel.
-QFrame* captionBar(QLabel*& caption) {
+QFrame* captionBar(ElidedLabel*& caption) {
     auto* bar = new QFrame;
     bar->setAutoFillBackground(true);
     bar->setBackgroundRole(QPalette::Highlight);
     auto* row = new QHBoxLayout(bar);
     row->setContentsMargins(10, 4, 10, 4);
-    caption = new QLabel(bar);
+    caption = new ElidedLabel(bar);
     caption->setForegroundRole(QPalette::HighlightedText);
-    caption->setTextFormat(Qt::PlainText);
-    caption->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     row->addWidget(caption, 1);
     return bar;
 }
 
 }  // namespace
+
+std::function<void()> clicker(WidgetBook& book, std::string_view button) {
+    return [clicked = qobject_cast<QPushButton*>(book.at(button))] { clicked->click(); };
+}
+
+bool goToBoxWithoutNumber(WidgetBook& book, std::initializer_list<std::string_view> frames) {
+    const Control* box = firstBoxWithoutNumber(book.form(), frames);
+    if (box == nullptr) return false;
+    book.at(box->name())->setFocus(Qt::OtherFocusReason);
+    return true;
+}
 
 FilePanel layOutFilePanel(WidgetBook& book) {
     FilePanel parts;
@@ -64,6 +74,11 @@ FilePanel layOutFilePanel(WidgetBook& book) {
         commands->addWidget(book.at(name));
     }
     column->addLayout(commands);
+
+    // The button closes without a question; a key doesn't, where that would lose work.
+    new PanelKeys(*parts.panel, {}, [&book] {
+        if (!book.viewer()->isModified()) clicker(book, "cmdClose")();
+    });
     return parts;
 }
 
@@ -111,6 +126,12 @@ void layOutPlotSettings(WidgetBook& book) {
     column->addWidget(book.at("cmdPlot"));
     column->addStretch(1);
     scroll->setMinimumWidth(content->sizeHint().width() + 16);
+
+    const auto draw = [&book] {
+        if (!goToBoxWithoutNumber(book, {"frmePcfg"})) clicker(book, "cmdPlot")();
+    };
+    new PanelKeys(*book.at("frmePcfg"), draw, clicker(book, "cmdShow"));
+    new PanelKeys(*book.at("pctPlot"), {}, clicker(book, "cmdShow"));
 }
 
 void layOutPrintMode(WidgetBook& book) {
@@ -123,9 +144,9 @@ void layOutPrintMode(WidgetBook& book) {
 
     auto* column = new QVBoxLayout(card);
     column->setContentsMargins(0, 0, 0, 12);
-    QLabel* caption = nullptr;
+    ElidedLabel* caption = nullptr;
     QFrame* bar = captionBar(caption);
-    caption->setText(panel->property("caption").toString());
+    caption->setWholeText(panel->property("caption").toString());
     column->addWidget(bar);
 
     const auto line = [column](std::initializer_list<QWidget*> widgets, int indent) {
@@ -161,15 +182,7 @@ void layOutPrintMode(WidgetBook& book) {
     }
 
     // What people expect of a panel that works like a dialog.
-    const auto key = [&](Qt::Key code, std::string_view button) {
-        auto* shortcut = new QShortcut(code, panel);
-        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
-        auto* clicked = qobject_cast<QPushButton*>(book.at(button));
-        QObject::connect(shortcut, &QShortcut::activated, clicked, &QPushButton::click);
-    };
-    key(Qt::Key_Return, "cmdModeSave");
-    key(Qt::Key_Enter, "cmdModeSave");
-    key(Qt::Key_Escape, "cmdModeCancel");
+    new PanelKeys(*panel, clicker(book, "cmdModeSave"), clicker(book, "cmdModeCancel"));
 }
 
 }  // namespace kelvo::desktop

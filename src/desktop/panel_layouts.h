@@ -4,7 +4,11 @@
 
 #include <QLabel>
 #include <QWidget>
+#include <functional>
+#include <initializer_list>
+#include <string_view>
 
+#include "desktop/elided_label.h"
 #include "desktop/widget_book.h"
 
 namespace kelvo::desktop {
@@ -13,9 +17,16 @@ namespace kelvo::desktop {
 struct FilePanel {
     QWidget* panel = nullptr;
     QWidget* body = nullptr;  // where the text stands, or the plot in its place
-    QLabel* path = nullptr;
+    ElidedLabel* path = nullptr;
     QLabel* unsavedMark = nullptr;
 };
+
+// What a press of the button does.
+[[nodiscard]] std::function<void()> clicker(WidgetBook& book, std::string_view button);
+
+// Puts the focus on the first box of the frames whose text would end the program when it is read.
+// False if there is none.
+bool goToBoxWithoutNumber(WidgetBook& book, std::initializer_list<std::string_view> frames);
 
 void layOutOnePointPanel(WidgetBook& book);
 void layOutParameters(WidgetBook& book);

@@ -1,10 +1,32 @@
 #include "desktop/panel_stage.h"
 
+#include <QAbstractButton>
+#include <QApplication>
 #include <QEvent>
 #include <QLayout>
+#include <QLineEdit>
 #include <algorithm>
 
 namespace kelvo::desktop {
+
+namespace {
+
+// The first box of a panel that is open to typing, else whatever the Tab key comes to first.
+QWidget* firstToType(QWidget* panel) {
+    QWidget* first = nullptr;
+    for (QWidget* at = panel->nextInFocusChain(); at != panel; at = at->nextInFocusChain()) {
+        const bool takesKeys = panel->isAncestorOf(at) && at->isVisible() && at->isEnabled() &&
+                               (at->focusPolicy() & Qt::TabFocus) == Qt::TabFocus &&
+                               at->focusProxy() == nullptr;
+        if (!takesKeys) continue;
+        const auto* box = qobject_cast<QLineEdit*>(at);
+        if (box != nullptr && !box->isReadOnly()) return at;
+        if (first == nullptr) first = at;
+    }
+    return first;
+}
+
+}  // namespace
 
 void PanelStage::setUp(const WidgetBook& book, const FilePanel& filePanel) {
     file_ = filePanel;
@@ -13,11 +35,20 @@ void PanelStage::setUp(const WidgetBook& book, const FilePanel& filePanel) {
     plot_ = book.at("pctPlot");
     plotSettings_ = book.at("frmePcfg");
     printMode_ = book.at("frmePrintMode");
-    for (QWidget* panel : {onePoint_, file_.panel, plot_, plotSettings_, printMode_}) {
-        panel->installEventFilter(this);
-    }
+    text_ = book.at("Richtxt");
+    const auto part = [&](Layer layer, const char* name) {
+        parts_.push_back({layer, book.form().find(name), book.at(name)});
+        book.at(name)->installEventFilter(this);
+    };
+    part(Layer::OnePoint, "frmeOne");
+    part(Layer::File, "frmeFile");
+    part(Layer::File, "pctPlot");
+    part(Layer::File, "frmePcfg");
+    part(Layer::PrintMode, "frmePrintMode");
+    plot_->raise();
+    plotSettings_->raise();
     if (background_ != nullptr) background_->lower();
-    arrange();
+    settle(Layer::None);
 }
 
 // As wide as the row of buttons under a text; higher panels scroll.
@@ -31,19 +62,67 @@ void PanelStage::resizeEvent(QResizeEvent*) {
 }
 
 bool PanelStage::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Show || event->type() == QEvent::Hide) {
-        if (event->type() == QEvent::Show) {
-            static_cast<QWidget*>(watched)->raise();
-            // The plot belongs to the text panel and stands in it.
-            if (watched == file_.panel) {
-                plot_->raise();
-                plotSettings_->raise();
-            }
-        }
-        printMode_->raise();
-        arrange();
+    const bool shown = event->type() == QEvent::Show;
+    if ((shown || event->type() == QEvent::Hide) && !event->spontaneous() && !settling_) {
+        const auto part = std::find_if(parts_.begin(), parts_.end(),
+                                       [watched](const Part& at) { return at.widget == watched; });
+        if (part != parts_.end()) settle(shown ? part->layer : Layer::None);
     }
     return QWidget::eventFilter(watched, event);
+}
+
+bool PanelStage::isWanted(Layer layer) const {
+    return std::any_of(parts_.begin(), parts_.end(), [layer](const Part& part) {
+        return part.layer == layer && part.control->visible();
+    });
+}
+
+void PanelStage::settle(Layer shown) {
+    settling_ = true;
+    const Layer before = top();
+    keepFocusOf(before);
+    std::erase_if(order_,
+                  [this, shown](Layer layer) { return layer == shown || !isWanted(layer); });
+    if (isWanted(shown)) order_.push_back(shown);
+    for (const Part& part : parts_) {
+        part.widget->setVisible(part.control->visible() && part.layer == top());
+    }
+    arrange();
+    if (top() != before || !hasFocusIn(top())) giveFocusTo(top());
+    settling_ = false;
+}
+
+bool PanelStage::hasFocusIn(Layer layer) const {
+    QWidget* focused = window()->focusWidget();
+    return focused != nullptr && focused->isVisible() &&
+           std::any_of(parts_.begin(), parts_.end(), [&](const Part& part) {
+               return part.layer == layer &&
+                      (part.widget == focused || part.widget->isAncestorOf(focused));
+           });
+}
+
+// A button isn't kept: coming back to "close" with the next press of the space bar would surprise.
+void PanelStage::keepFocusOf(Layer layer) {
+    QWidget* focused = window()->focusWidget();
+    if (focused == nullptr || qobject_cast<QAbstractButton*>(focused) != nullptr) return;
+    for (const Part& part : parts_) {
+        if (part.layer == layer && (part.widget == focused || part.widget->isAncestorOf(focused))) {
+            focus_[static_cast<std::size_t>(layer)] = focused;
+        }
+    }
+}
+
+void PanelStage::giveFocusTo(Layer layer) {
+    QWidget* kept = focus_[static_cast<std::size_t>(layer)];
+    QWidget* to = nullptr;
+    if (kept != nullptr && kept->isVisible() && kept->isEnabled()) {
+        to = kept;
+    } else if (layer == Layer::File) {
+        to = text_->isVisible() ? text_ : plot_;
+    } else if (layer != Layer::None) {
+        to = firstToType(layer == Layer::OnePoint ? onePoint_ : printMode_);
+    }
+    if (to != nullptr) to->setFocus(Qt::OtherFocusReason);
 }
 
 QRect PanelStage::plotArea() const {

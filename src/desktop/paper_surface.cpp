@@ -15,22 +15,21 @@ constexpr double kTwipsPerInch = 1440;
 }  // namespace
 
 PaperSurface::PaperSurface()
-    : PictureSurface({kTwipsPerInch / kPixelsPerInch, kPixelsPerInch, 1}) {}
+    : PictureSurface({.twipsPerPixel = kTwipsPerInch / kPixelsPerInch,
+                      .pixelsPerInch = kPixelsPerInch,
+                      .erasedByBackColor = false}) {}
 
 void PaperSurface::EndDoc() {
-    NewPage();
+    if (isTouched()) NewPage();
 }
 
 void PaperSurface::NewPage() {
-    if (hasDrawing()) sheets_.push_back({takePicture(), landscape_});
-}
-
-void PaperSurface::setOrientation(int orientation) {
-    landscape_ = orientation == 2;
+    const bool landscape = members().Orientation == SheetOrientation::Landscape;
+    sheets_.push_back({takePicture(), landscape});
 }
 
 std::vector<Sheet> PaperSurface::takeSheets() {
-    NewPage();
+    EndDoc();
     return std::exchange(sheets_, {});
 }
 

@@ -18,18 +18,17 @@ class PaperSurface final : public PictureSurface {
 public:
     PaperSurface();
 
-    // A sheet that holds nothing isn't printed.
+    // A sheet that nothing was printed on, not even an empty line, isn't one at the end of a job;
+    // a new page leaves a blank one before it.
     void EndDoc() override;
     void NewPage() override;
-    void setOrientation(int orientation) override;
 
     // The sheets that wait for printing; leaves none.
     [[nodiscard]] std::vector<Sheet> takeSheets();
-    [[nodiscard]] bool sheetsAreWaiting() const { return !sheets_.empty() || hasDrawing(); }
+    [[nodiscard]] bool sheetsAreWaiting() const { return !sheets_.empty() || isTouched(); }
 
 private:
     std::vector<Sheet> sheets_;
-    bool landscape_ = false;
 };
 
 // Makes a printer ready for sheets: A4, the origin at the sheet's corner.

@@ -16,38 +16,30 @@ namespace kelvo::desktop {
 
 namespace {
 
-constexpr double kMargin = 200;  // twips
 constexpr double kTwipsPerInch = 1440;
 constexpr double kPixelsPerInch = 300;
+constexpr double kMostPixels = 40e6;  // a wide picture gets fewer pixels to the inch
 
-// Points far outside a hand-made scale would make a picture of any size.
-constexpr double kLargestSide = 20 * kTwipsPerInch;
-
-QRectF frameOf(const PlotPicture& picture) {
-    QRectF frame = extentOf(picture).adjusted(-kMargin, -kMargin, kMargin, kMargin);
-    frame.setSize(frame.size().boundedTo(QSizeF(kLargestSide, kLargestSide)));
-    return frame;
-}
-
-bool savePng(const PlotPicture& picture, const QString& path) {
-    const QRectF frame = frameOf(picture);
-    const double scale = kPixelsPerInch / kTwipsPerInch;
+bool savePng(const FramedPicture& shown, const QString& path) {
+    const QRectF& frame = shown.frame;
+    const double scale = std::min(kPixelsPerInch / kTwipsPerInch,
+                                  std::sqrt(kMostPixels / (frame.width() * frame.height())));
     QImage image((frame.size() * scale).toSize(), QImage::Format_RGB32);
-    const int dotsPerMetre = static_cast<int>(std::lround(kPixelsPerInch / 0.0254));
+    const int dotsPerMetre = static_cast<int>(std::lround(scale * kTwipsPerInch / 0.0254));
     image.setDotsPerMeterX(dotsPerMetre);
     image.setDotsPerMeterY(dotsPerMetre);
-    image.fill(picture.paper);
+    image.fill(shown.picture.paper);
     QPainter painter(&image);
     painter.scale(scale, scale);
     painter.translate(-frame.topLeft());
-    paintPicture(painter, picture, Medium::Pixels);
+    paintPicture(painter, shown.picture, Medium::Pixels);
     painter.end();
     QSaveFile file(path);
     return file.open(QIODevice::WriteOnly) && image.save(&file, "PNG") && file.commit();
 }
 
-bool savePdf(const PlotPicture& picture, const QString& path) {
-    const QRectF frame = frameOf(picture);
+bool savePdf(const FramedPicture& shown, const QString& path) {
+    const QRectF& frame = shown.frame;
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly)) return false;
     {
@@ -59,7 +51,7 @@ bool savePdf(const PlotPicture& picture, const QString& path) {
         QPainter painter(&writer);
         painter.scale(writer.resolution() / kTwipsPerInch, writer.resolution() / kTwipsPerInch);
         painter.translate(-frame.topLeft());
-        paintPicture(painter, picture, Medium::Paper);
+        paintPicture(painter, shown.picture, Medium::Paper);
         if (!painter.end()) return false;
     }
     return file.commit();
@@ -80,7 +72,7 @@ public:
         : looks_(picture.looks), faces_(picture.looks.begin(), picture.looks.end()), out_(out) {}
 
     void operator()(const DrawnLine& line) {
-        const auto ink = inkOnPaper(line.pen.drawMode, line.pen.colour);
+        const auto ink = inkOnPaper(line.pen.mode, line.pen.colour);
         if (!ink) return;
         out_ << "<line x1=\"" << number(line.from.x()) << "\" y1=\"" << number(line.from.y())
              << "\" x2=\"" << number(line.to.x()) << "\" y2=\"" << number(line.to.y()) << "\" "
@@ -88,7 +80,7 @@ public:
     }
 
     void operator()(const DrawnBox& box) {
-        const auto ink = inkOnPaper(box.pen.drawMode, box.pen.colour);
+        const auto ink = inkOnPaper(box.pen.mode, box.pen.colour);
         if (!ink) return;
         out_ << "<rect x=\"" << number(box.box.x()) << "\" y=\"" << number(box.box.y())
              << "\" width=\"" << number(box.box.width()) << "\" height=\""
@@ -101,11 +93,11 @@ public:
     }
 
     void operator()(const DrawnCircle& circle) {
-        const auto ink = inkOnPaper(circle.pen.drawMode, circle.pen.colour);
+        const auto ink = inkOnPaper(circle.pen.mode, circle.pen.colour);
         if (!ink) return;
         const bool whole = !(circle.start < circle.end) && !(circle.end < circle.start);
         if (whole) {
-            const auto fill = inkOnPaper(circle.pen.drawMode, circle.fill);
+            const auto fill = inkOnPaper(circle.pen.mode, circle.fill);
             out_ << "<ellipse cx=\"" << number(circle.centre.x()) << "\" cy=\""
                  << number(circle.centre.y()) << "\" rx=\"" << number(circle.radiusX) << "\" ry=\""
                  << number(circle.radiusY) << "\" "
@@ -151,18 +143,19 @@ private:
     QTextStream& out_;
 };
 
-bool saveSvg(const PlotPicture& picture, const QString& path) {
+bool saveSvg(const FramedPicture& shown, const QString& path) {
     QSaveFile file(path);
-    const QByteArray bytes = svgOf(picture).toUtf8();
+    const QByteArray bytes = svgOf(shown).toUtf8();
     return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
 }
 
 }  // namespace
 
-QString svgOf(const PlotPicture& picture) {
+QString svgOf(const FramedPicture& shown) {
     QString document;
     QTextStream out(&document);
-    const QRectF frame = frameOf(picture);
+    const PlotPicture& picture = shown.picture;
+    const QRectF& frame = shown.frame;
     out << "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
         << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" << number(frame.width() / 20)
         << "pt\" height=\"" << number(frame.height() / 20) << "pt\" viewBox=\"" << number(frame.x())
@@ -179,11 +172,11 @@ QString svgOf(const PlotPicture& picture) {
     return document;
 }
 
-bool savePicture(const PlotPicture& picture, const QString& path) {
+bool savePicture(const FramedPicture& shown, const QString& path) {
     const QString name = path.toLower();
-    if (name.endsWith(QLatin1String(".png"))) return savePng(picture, path);
-    if (name.endsWith(QLatin1String(".svg"))) return saveSvg(picture, path);
-    if (name.endsWith(QLatin1String(".pdf"))) return savePdf(picture, path);
+    if (name.endsWith(QLatin1String(".png"))) return savePng(shown, path);
+    if (name.endsWith(QLatin1String(".svg"))) return saveSvg(shown, path);
+    if (name.endsWith(QLatin1String(".pdf"))) return savePdf(shown, path);
     return false;
 }
 

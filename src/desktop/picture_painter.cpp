@@ -36,11 +36,11 @@ public:
         const bool level = upright || std::abs(line.from.y() - line.to.y()) < 0.5;
         // Only thin ones: the round ends of a wide one show.
         const bool thin = line.pen.width * toDevice_.m11() < 2.5;
-        if (level && thin && onWholePixels_ && line.pen.drawMode == 13) {
+        if (level && thin && onWholePixels_ && line.pen.mode == RasterMode::CopyPen) {
             return drawLevelLine(line, upright);
         }
         if (!usePen(line.pen)) return;
-        smooth((!level || !thin) && line.pen.drawMode == 13);
+        smooth((!level || !thin) && line.pen.mode == RasterMode::CopyPen);
         painter_.drawLine(line.from, line.to);
     }
 
@@ -59,13 +59,14 @@ public:
 
     void operator()(const DrawnCircle& circle) {
         if (!usePen(circle.pen)) return;
-        smooth(circle.pen.drawMode == 13);
+        smooth(circle.pen.mode == RasterMode::CopyPen);
         const QRectF frame(circle.centre.x() - circle.radiusX, circle.centre.y() - circle.radiusY,
                            2 * circle.radiusX, 2 * circle.radiusY);
         const bool whole = !(circle.start < circle.end) && !(circle.end < circle.start);
-        if (whole && !circle.filled && circle.pen.drawMode == 13) return drawRing(circle);
+        if (whole && !circle.filled && circle.pen.mode == RasterMode::CopyPen)
+            return drawRing(circle);
         if (whole) {
-            const std::optional<QColor> fill = inkOf({circle.fill, 0, circle.pen.drawMode});
+            const std::optional<QColor> fill = inkOf({circle.fill, 0, circle.pen.mode});
             painter_.setBrush(circle.filled && fill ? QBrush(*fill) : QBrush(Qt::NoBrush));
             painter_.drawEllipse(frame);
             return;
@@ -85,17 +86,25 @@ public:
         penIsKnown_ = false;
         const TextFace& face = faces_[text.look];
         if (std::abs(text.angle) < 0.05) {
-            face.draw(painter_, text.corner.x(), text.corner.y(), text.text);
+            drawText(face, text.corner, text.text);
             return;
         }
         painter_.save();
         painter_.translate(text.corner);
         painter_.rotate(-text.angle);
-        face.draw(painter_, 0, 0, text.text);
+        drawText(face, QPointF(), text.text);
         painter_.restore();
     }
 
 private:
+    void drawText(const TextFace& face, QPointF corner, const QString& text) {
+        if (medium_ == Medium::Paper) {
+            face.drawInDocument(painter_, corner.x(), corner.y(), text);
+        } else {
+            face.draw(painter_, corner.x(), corner.y(), text);
+        }
+    }
+
     // As a rectangle of whole pixels, so that all lines of a grid are equally wide; much quicker
     // than a pen, too.
     void drawLevelLine(const DrawnLine& line, bool upright) {
@@ -143,13 +152,13 @@ private:
     }
 
     [[nodiscard]] std::optional<QColor> inkOf(const Pen& pen) const {
-        if (medium_ == Medium::Paper) return inkOnPaper(pen.drawMode, pen.colour);
-        return compositionOf(pen.drawMode) ? std::optional(pen.colour) : std::nullopt;
+        if (medium_ == Medium::Paper) return inkOnPaper(pen.mode, pen.colour);
+        return compositionOf(pen.mode) ? std::optional(pen.colour) : std::nullopt;
     }
 
     // The colour to draw with, and the raster operation set; nothing if nothing is to be drawn.
     std::optional<QColor> useMode(const Pen& pen) {
-        const std::optional<QPainter::CompositionMode> mode = compositionOf(pen.drawMode);
+        const std::optional<QPainter::CompositionMode> mode = compositionOf(pen.mode);
         if (!mode) return std::nullopt;
         setMode(*mode);
         return inkOf(pen);
@@ -189,7 +198,7 @@ QRectF widened(const QRectF& box, double width) {
 }
 
 struct Extent {
-    std::vector<TextFace> faces;
+    const std::vector<TextFace>& faces;
 
     QRectF operator()(const DrawnLine& line) const {
         return widened(QRectF(line.from, line.to).normalized(), line.pen.width);
@@ -223,11 +232,8 @@ void paintPicture(QPainter& painter, const PlotPicture& picture, Medium medium) 
     painter.restore();
 }
 
-QRectF extentOf(const PlotPicture& picture) {
-    QRectF extent;
-    const Extent measure{facesOf(picture)};
-    for (const DrawnItem& item : picture.items) extent |= std::visit(measure, item);
-    return extent;
+QRectF PictureExtent::operator()(const DrawnItem& item) const {
+    return std::visit(Extent{faces_}, item);
 }
 
 }  // namespace kelvo::desktop

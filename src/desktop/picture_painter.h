@@ -3,6 +3,7 @@
 
 #include <QPainter>
 #include <QRectF>
+#include <vector>
 
 #include "desktop/plot_picture.h"
 
@@ -17,7 +18,17 @@ enum class Medium {
 // colour isn't painted.
 void paintPicture(QPainter& painter, const PlotPicture& picture, Medium medium);
 
-// The smallest rectangle, in twips, that holds all that is drawn, the width of pens included.
-[[nodiscard]] QRectF extentOf(const PlotPicture& picture);
+// Measures items of a picture.
+class PictureExtent {
+public:
+    explicit PictureExtent(const PlotPicture& picture)
+        : faces_(picture.looks.begin(), picture.looks.end()) {}
+
+    // The smallest rectangle, in twips, that holds the item, the width of its pen included.
+    [[nodiscard]] QRectF operator()(const DrawnItem& item) const;
+
+private:
+    std::vector<TextFace> faces_;
+};
 
 }  // namespace kelvo::desktop

@@ -9,8 +9,6 @@ namespace kelvo::desktop {
 namespace {
 
 constexpr double kTwipsPerPoint = 20;
-constexpr int kCapsPixelsPerInch = 90;
-constexpr int kCapsColourPlanes = 14;
 
 QColor colourOf(std::int32_t value) {
     return QColor(value & 0xFF, (value >> 8) & 0xFF, (value >> 16) & 0xFF);
@@ -26,43 +24,59 @@ bool same(const TextLook& one, const TextLook& other) {
            one.strikethru == other.strikethru && one.underline == other.underline;
 }
 
-TextLook lookOfNewSurface() {
-    return {QStringLiteral("굴림"), 9 * kTwipsPerPoint};
+// What a surface that was told no face draws with.
+constexpr const char* kFirstFace = "굴림";
+
+TextLook lookOf(const SurfaceMembers& members) {
+    return {.face = qt(members.Font),
+            .em = members.fontsize * kTwipsPerPoint,
+            .bold = members.FontBold,
+            .italic = members.FontItalic,
+            .strikethru = members.FontStrikethru,
+            .underline = members.FontUnderline};
+}
+
+SurfaceMembers newMembers() {
+    SurfaceMembers members;
+    members.Font = kFirstFace;
+    return members;
 }
 
 }  // namespace
 
 PictureSurface::PictureSurface(DeviceUnits units)
-    : units_(units), look_(lookOfNewSurface()), face_(look_) {}
+    : units_(units), members_(newMembers()), look_(lookOf(members_)), face_(look_) {}
 
 Pen PictureSurface::pen(std::int32_t colour) const {
-    return {colourOf(colour), std::max(1.0, drawWidth_) * units_.twipsPerPixel, drawMode_};
+    return {colourOf(colour), std::max(1.0, members_.DrawWidth) * units_.twipsPerPixel,
+            members_.DrawMode};
 }
 
 void PictureSurface::add(DrawnItem item) {
     picture_.items.push_back(std::move(item));
+    touched_ = true;
     ++revision_;
 }
 
 void PictureSurface::Line(double x1, double y1, double x2, double y2, std::int32_t colour,
-                          int form) {
-    if (form == kFormLine) {
+                          LineForm form) {
+    if (form == LineForm::Line) {
         add(DrawnLine{pen(colour), {x1, y1}, {x2, y2}});
         return;
     }
     const QRectF box = QRectF(QPointF(x1, y1), QPointF(x2, y2)).normalized();
-    add(DrawnBox{pen(colour), box, form == kFormFilledBox});
+    add(DrawnBox{pen(colour), box, form == LineForm::FilledBox});
 }
 
 void PictureSurface::Circle(double x, double y, double radius, std::int32_t colour, double start,
-                            double end, double aspect, int form) {
+                            double end, double aspect, CircleForm form) {
     DrawnCircle circle;
     circle.centre = {x, y};
     circle.radiusX = circle.radiusY = std::abs(radius);
-    if (form == kFormCircle) {
-        circle.pen = pen(foreColor_);
-        circle.filled = fillStyle_ == 0;
-        circle.fill = colourOf(fillColor_);
+    if (form == CircleForm::Whole) {
+        circle.pen = pen(members_.ForeColor);
+        circle.filled = members_.FillStyle == FillKind::Solid;
+        circle.fill = colourOf(members_.FillColor);
     } else {
         circle.pen = pen(colour);
         circle.start = start;
@@ -74,59 +88,28 @@ void PictureSurface::Circle(double x, double y, double radius, std::int32_t colo
     add(circle);
 }
 
-void PictureSurface::setBackColor(std::int32_t colour) {
-    backColor_ = colour;
-    Cls();
+void PictureSurface::write(SurfaceMember member, const SurfaceValue& value) {
+    assign(members_, member, value);
+    switch (member) {
+        case SurfaceMember::BackColor:
+            if (units_.erasedByBackColor) Cls();
+            return;
+        case SurfaceMember::Font:
+        case SurfaceMember::fontsize:
+        case SurfaceMember::FontBold:
+        case SurfaceMember::FontItalic:
+        case SurfaceMember::FontStrikethru:
+        case SurfaceMember::FontUnderline:
+            return changeLook(lookOf(members_));
+        default:
+            return;
+    }
 }
 
 void PictureSurface::changeLook(const TextLook& look) {
     if (same(look, look_)) return;
     look_ = look;
     face_ = TextFace(look);
-}
-
-void PictureSurface::setFont(const std::string& face) {
-    TextLook look = look_;
-    look.face = qt(face);
-    changeLook(look);
-}
-
-std::string PictureSurface::FontName() const {
-    return look_.face.toStdString();
-}
-
-double PictureSurface::fontsize() const {
-    return look_.em / kTwipsPerPoint;
-}
-
-void PictureSurface::setFontsize(double points) {
-    TextLook look = look_;
-    look.em = points * kTwipsPerPoint;
-    changeLook(look);
-}
-
-void PictureSurface::setFontBold(bool on) {
-    TextLook look = look_;
-    look.bold = on;
-    changeLook(look);
-}
-
-void PictureSurface::setFontItalic(bool on) {
-    TextLook look = look_;
-    look.italic = on;
-    changeLook(look);
-}
-
-void PictureSurface::setFontStrikethru(bool on) {
-    TextLook look = look_;
-    look.strikethru = on;
-    changeLook(look);
-}
-
-void PictureSurface::setFontUnderline(bool on) {
-    TextLook look = look_;
-    look.underline = on;
-    changeLook(look);
 }
 
 double PictureSurface::TextHeight(std::string_view) const {
@@ -149,38 +132,40 @@ std::size_t PictureSurface::placeOf(const TextLook& look) {
 void PictureSurface::addText(QPointF corner, double angle, const TextLook& look,
                              const QString& text) {
     if (text.isEmpty()) return;
-    add(DrawnText{colourOf(foreColor_), corner, angle, placeOf(look), text});
+    add(DrawnText{colourOf(members_.ForeColor), corner, angle, placeOf(look), text});
 }
 
 void PictureSurface::print(std::string_view text) {
-    addText(current_, 0, look_, qt(text));
-    current_ = QPointF(0, current_.y() + face_.height());
+    touched_ = true;
+    addText({members_.CurrentX, members_.CurrentY}, 0, look_, qt(text));
+    members_.CurrentX = 0;
+    members_.CurrentY += face_.height();
 }
 
 void PictureSurface::Cls() {
+    touched_ = false;
     picture_.clear();
-    picture_.paper = colourOf(backColor_);
-    current_ = QPointF();
+    picture_.paper = colourOf(members_.BackColor);
+    members_.CurrentX = members_.CurrentY = 0;
     ++revision_;
 }
 
 PlotPicture PictureSurface::takePicture() {
     PlotPicture taken = std::exchange(picture_, PlotPicture{});
+    touched_ = false;
     picture_.paper = taken.paper;
-    current_ = QPointF();
+    members_.CurrentX = members_.CurrentY = 0;
     ++revision_;
     return taken;
 }
 
-int PictureSurface::GetDeviceCaps(int index) const {
-    if (index == kCapsPixelsPerInch) return units_.pixelsPerInch;
-    if (index == kCapsColourPlanes) return units_.colourPlanes;
-    return 0;
+int PictureSurface::GetDeviceCaps(DeviceCap index) const {
+    return index == DeviceCap::ColourPlanes ? units_.colourPlanes : units_.pixelsPerInch;
 }
 
 void PictureSurface::TextOutA(std::int32_t x, std::int32_t y, std::string_view text, int) {
     const QPointF corner(x * units_.twipsPerPixel, y * units_.twipsPerPixel);
-    if (!createdIsSelected_) {
+    if (selected_ == SelectedFont::Old) {
         addText(corner, 0, look_, qt(text));
         return;
     }

@@ -10,14 +10,15 @@
 #include <vector>
 
 #include "desktop/korean_faces.h"
+#include "plot/surface_members.h"
 
 namespace kelvo::desktop {
 
-// All lengths are twips. A pen is `width` twips wide; `drawMode` is its raster operation 1 to 16.
+// All lengths are twips. A pen is `width` twips wide; `mode` is how it meets what stands there.
 struct Pen {
     QColor colour;
     double width = 0;
-    int drawMode = 13;
+    RasterMode mode = RasterMode::CopyPen;
 };
 
 struct DrawnLine {

@@ -2,61 +2,61 @@
 
 namespace kelvo::desktop {
 
-std::optional<QPainter::CompositionMode> compositionOf(int drawMode) {
-    switch (drawMode) {
-        case 1:
+std::optional<QPainter::CompositionMode> compositionOf(RasterMode mode) {
+    switch (mode) {
+        case RasterMode::Black:
             return QPainter::RasterOp_ClearDestination;
-        case 2:
+        case RasterMode::NotPenAndNotPaper:
             return QPainter::RasterOp_NotSourceAndNotDestination;
-        case 3:
+        case RasterMode::NotPenAndPaper:
             return QPainter::RasterOp_NotSourceAndDestination;
-        case 4:
+        case RasterMode::NotPen:
             return QPainter::RasterOp_NotSource;
-        case 5:
+        case RasterMode::PenAndNotPaper:
             return QPainter::RasterOp_SourceAndNotDestination;
-        case 6:
+        case RasterMode::NotPaper:
             return QPainter::RasterOp_NotDestination;
-        case 7:
+        case RasterMode::PenXorPaper:
             return QPainter::RasterOp_SourceXorDestination;
-        case 8:
+        case RasterMode::NotPenOrNotPaper:
             return QPainter::RasterOp_NotSourceOrNotDestination;
-        case 9:
+        case RasterMode::PenAndPaper:
             return QPainter::RasterOp_SourceAndDestination;
-        case 10:
+        case RasterMode::NotPenXorPaper:
             return QPainter::RasterOp_NotSourceXorDestination;
-        case 11:
+        case RasterMode::Nothing:
             return std::nullopt;
-        case 12:
+        case RasterMode::NotPenOrPaper:
             return QPainter::RasterOp_NotSourceOrDestination;
-        case 14:
+        case RasterMode::PenOrNotPaper:
             return QPainter::RasterOp_SourceOrNotDestination;
-        case 15:
+        case RasterMode::PenOrPaper:
             return QPainter::RasterOp_SourceOrDestination;
-        case 16:
+        case RasterMode::White:
             return QPainter::RasterOp_SetDestination;
         default:
             return QPainter::CompositionMode_SourceOver;
     }
 }
 
-std::optional<QColor> inkOnPaper(int drawMode, const QColor& pen) {
+std::optional<QColor> inkOnPaper(RasterMode mode, const QColor& pen) {
     const QColor inverted(255 - pen.red(), 255 - pen.green(), 255 - pen.blue());
-    switch (drawMode) {
-        case 1:
-        case 2:
-        case 5:
-        case 6:
+    switch (mode) {
+        case RasterMode::Black:
+        case RasterMode::NotPenAndNotPaper:
+        case RasterMode::PenAndNotPaper:
+        case RasterMode::NotPaper:
             return QColor(Qt::black);
-        case 3:
-        case 4:
-        case 7:
-        case 8:
+        case RasterMode::NotPenAndPaper:
+        case RasterMode::NotPen:
+        case RasterMode::PenXorPaper:
+        case RasterMode::NotPenOrNotPaper:
             return inverted;
-        case 11:
+        case RasterMode::Nothing:
             return std::nullopt;
-        case 12:
-        case 15:
-        case 16:
+        case RasterMode::NotPenOrPaper:
+        case RasterMode::PenOrPaper:
+        case RasterMode::White:
             return QColor(Qt::white);
         default:
             return pen;

@@ -5,14 +5,15 @@
 #include <QPainter>
 #include <optional>
 
+#include "plot/surface_members.h"
+
 namespace kelvo::desktop {
 
-// The composition that a raster operation means on pixels; none for 11, which draws nothing.
-// A number outside 1 to 16 copies the pen.
-[[nodiscard]] std::optional<QPainter::CompositionMode> compositionOf(int drawMode);
+// The composition that a raster operation means on pixels; none for the one that draws nothing.
+[[nodiscard]] std::optional<QPainter::CompositionMode> compositionOf(RasterMode mode);
 
 // Paper and vector files know no raster operations. What a pen of the colour leaves on white
-// paper under the mode; none for 11.
-[[nodiscard]] std::optional<QColor> inkOnPaper(int drawMode, const QColor& pen);
+// paper under the mode; none for the one that draws nothing.
+[[nodiscard]] std::optional<QColor> inkOnPaper(RasterMode mode, const QColor& pen);
 
 }  // namespace kelvo::desktop

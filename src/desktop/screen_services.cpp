@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDateTime>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -12,10 +13,12 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QScreen>
+#include <QStandardPaths>
+#include <QWindow>
 #include <algorithm>
 #include <array>
-#include <chrono>
 
+#include "common/shown_line.h"
 #include "desktop/paper_surface.h"
 #include "desktop/widget_book.h"
 
@@ -25,22 +28,13 @@ namespace {
 
 constexpr double kTwipsPerPixel = 15;
 
-// While a box waits for its answer the pointer is free and so is the application folder.
+// While a box waits for its answer the pointer is free.
 class Waiting {
 public:
-    explicit Waiting(const DialogParent& parent) : parent_(parent) {
-        QGuiApplication::setOverrideCursor(Qt::ArrowCursor);
-        if (parent_.lock != nullptr) parent_.lock->release();
-    }
-    ~Waiting() {
-        if (parent_.lock != nullptr) parent_.lock->take();
-        QGuiApplication::restoreOverrideCursor();
-    }
+    Waiting() { QGuiApplication::setOverrideCursor(Qt::ArrowCursor); }
+    ~Waiting() { QGuiApplication::restoreOverrideCursor(); }
     Waiting(const Waiting&) = delete;
     Waiting& operator=(const Waiting&) = delete;
-
-private:
-    const DialogParent& parent_;
 };
 
 QMessageBox::Icon iconOf(Icon icon) {
@@ -69,24 +63,28 @@ QMessageBox::StandardButtons buttonsOf(Buttons buttons) {
     return QMessageBox::Ok;
 }
 
+// The toolkit puts the program's name on a window whose title is empty. Only the window of the
+// display gets the blank: to its user the box stays one without a title.
+class EmptyTitle final : public QObject {
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        auto* box = qobject_cast<QWidget*>(watched);
+        if (event->type() == QEvent::Show && box != nullptr && box->windowHandle() != nullptr) {
+            box->windowHandle()->setTitle(QStringLiteral(" "));
+        }
+        return false;
+    }
+};
+
 }  // namespace
 
-FolderLock::FolderLock(const QString& folder) : file_(QDir(folder).filePath("kelvo.lock")) {
-    file_.setStaleLockTime(std::chrono::seconds(30));
-}
-
-// After a while the work goes on without it: a lock that nobody gives back must not stop anyone.
-void FolderLock::take() {
-    file_.tryLock(std::chrono::seconds(3));
-}
-void FolderLock::release() {
-    file_.unlock();
-}
-
 Answer ScreenMessages::show(const Message& message) {
-    const Waiting waiting(parent_);
-    QString text = qt(message.text);
-    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    if (parent_.nobodyAnswers) return message.buttons == Buttons::Ok ? Answer::Ok : Answer::Cancel;
+    const Waiting waiting;
+    const QString text = boxText(message.text);
     QMessageBox box(iconOf(message.icon), qt(message.title), text, buttonsOf(message.buttons),
                     parent_.window);
     box.setTextFormat(Qt::PlainText);
@@ -100,6 +98,7 @@ Answer ScreenMessages::show(const Message& message) {
     for (const auto& [button, word] : words) {
         if (auto* shown = box.button(button)) shown->setText(QString::fromUtf8(word));
     }
+    if (message.title.empty()) box.installEventFilter(new EmptyTitle(&box));
     switch (box.exec()) {
         case QMessageBox::Yes:
             return Answer::Yes;
@@ -110,6 +109,13 @@ Answer ScreenMessages::show(const Message& message) {
         default:
             return message.buttons == Buttons::Ok ? Answer::Ok : Answer::Cancel;
     }
+}
+
+QString boxText(const std::string& text) {
+    QStringList lines;
+    for (const QString& line : qt(text).split(QStringLiteral("\r\n")))
+        lines << qt(shownLine(line.toStdString()));
+    return lines.join(QLatin1Char('\n'));
 }
 
 QStringList qtFilters(const std::string& filter) {
@@ -137,7 +143,8 @@ std::optional<std::string> ScreenDialogs::show(DialogKind kind,
         chosen_.pop_front();
         return path;
     }
-    const Waiting waiting(parent_);
+    if (parent_.nobodyAnswers) return std::nullopt;
+    const Waiting waiting;
     QFileDialog dialog(parent_.window, qt(properties.title));
     const bool saving = kind == DialogKind::Save;
     dialog.setAcceptMode(saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
@@ -177,8 +184,18 @@ std::optional<std::string> ScreenDialogs::show(DialogKind kind,
 }
 
 std::optional<std::string> ScreenDialogs::showPrinterDialog() {
-    const Waiting waiting(parent_);
+    if (parent_.nobodyAnswers) return std::nullopt;
+    const Waiting waiting;
     QPrintDialog dialog(&printer_(), parent_.window);
+    // Nothing is printed here: the printer is chosen.
+    dialog.setWindowTitle(QStringLiteral("Printer설정"));
+    for (const QDialogButtonBox* box : dialog.findChildren<QDialogButtonBox*>()) {
+        for (QAbstractButton* button : box->buttons()) {
+            if (box->buttonRole(button) == QDialogButtonBox::AcceptRole) {
+                button->setText(QStringLiteral("확인(&O)"));
+            }
+        }
+    }
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     return printer_().printerName().toStdString();
 }
@@ -191,8 +208,14 @@ void DetachedPrograms::start(const std::string& command) {
 }
 
 void RawPrintService::print(const std::string& path) {
-    QProcess::startDetached(QStringLiteral("lp"), {QStringLiteral("-o"), QStringLiteral("raw"),
-                                                   QStringLiteral("--"), qt(path)});
+    const QString program = QStandardPaths::findExecutable(QStringLiteral("lp"));
+    const QStringList arguments{QStringLiteral("-o"), QStringLiteral("raw"), QStringLiteral("--"),
+                                qt(path)};
+    if (program.isEmpty() || !QProcess::startDetached(program, arguments)) {
+        tell_(
+            QStringLiteral("인쇄하지 못했습니다: 인쇄 프로그램 lp가 없습니다 "
+                           "(꾸러미 cups-client를 설치하십시오)."));
+    }
 }
 
 void ScreenBeeper::beep() {

@@ -84,6 +84,7 @@ void TextViewer::buildSearchBar() {
     wanted_->setObjectName(QStringLiteral("viewerSearch"));
     wanted_->setAccessibleName(QStringLiteral("찾을 글"));
     wanted_->setClearButtonEnabled(true);
+    searchResult_->setObjectName(QStringLiteral("viewerSearchResult"));
     const auto button = [this](const QString& text, const QString& name) {
         auto* made = new QToolButton(searchBar_);
         made->setText(text);
@@ -165,9 +166,10 @@ bool TextViewer::findNext(bool backward) {
         around = found;
         if (!found) editor_->setTextCursor(before);
     }
-    searchResult_->setText(!found   ? QStringLiteral("없음")
-                           : around ? QStringLiteral("처음부터 다시 찾음")
-                                    : QString());
+    searchResult_->setText(!found     ? QStringLiteral("없음")
+                           : !around  ? QString()
+                           : backward ? QStringLiteral("끝에서부터 다시 찾음")
+                                      : QStringLiteral("처음부터 다시 찾음"));
     return found;
 }
 

@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
+#include <QWheelEvent>
 #include <stdexcept>
 
 #include "desktop/background_picture.h"
@@ -37,6 +38,22 @@ bool showCommon(const Control& control, QWidget& widget, Property property) {
     }
     return property == Property::Place;
 }
+
+// A list that the wheel turns only when it has the focus: on its way down a panel it would change
+// what it passes over.
+class QuietList final : public QComboBox {
+public:
+    explicit QuietList(QWidget* parent) : QComboBox(parent) { setFocusPolicy(Qt::StrongFocus); }
+
+protected:
+    void wheelEvent(QWheelEvent* event) override {
+        if (hasFocus()) {
+            QComboBox::wheelEvent(event);
+        } else {
+            event->ignore();
+        }
+    }
+};
 
 // A picture of arrows says more than the two signs of their captions.
 QString shownCaption(const Control& control) {
@@ -180,7 +197,6 @@ void WidgetBook::takeViewerText() {
 
 QWidget* WidgetBook::makeOption(Control& control) {
     auto* button = new QRadioButton(qt(control.caption()), firstParent_);
-    button->setAutoExclusive(false);
     // A group makes the arrow keys walk among its buttons.
     const QString groupName = QStringLiteral("group ") + qt(control.design().group);
     auto* group = firstParent_->findChild<QButtonGroup*>(groupName, Qt::FindDirectChildrenOnly);
@@ -203,7 +219,9 @@ QWidget* WidgetBook::makeOption(Control& control) {
         }
     };
     show();
-    QObject::connect(button, &QRadioButton::clicked, button, [this, &control, show] {
+    // The state, not the click: assistive technology changes it without one.
+    QObject::connect(button, &QRadioButton::toggled, button, [this, &control, show](bool on) {
+        if (!on || control.value()) return;
         gate_.run([&] { control.click(); });
         show();
     });
@@ -218,8 +236,10 @@ QWidget* WidgetBook::makeOption(Control& control) {
 QWidget* WidgetBook::makeCheck(Control& control) {
     auto* box = new QCheckBox(qt(control.caption()), firstParent_);
     box->setChecked(control.value());
-    QObject::connect(box, &QCheckBox::clicked, box,
-                     [this, &control](bool on) { gate_.run([&] { control.setChecked(on); }); });
+    QObject::connect(box, &QCheckBox::toggled, box, [this, &control](bool on) {
+        if (on == control.value()) return;
+        gate_.run([&] { control.setChecked(on); });
+    });
     control.watch([&control, box](Property property) {
         if (showCommon(control, *box, property)) return;
         if (property == Property::Value) box->setChecked(control.value());
@@ -229,7 +249,7 @@ QWidget* WidgetBook::makeCheck(Control& control) {
 }
 
 QWidget* WidgetBook::makeCombo(Control& control) {
-    auto* combo = new QComboBox(firstParent_);
+    auto* combo = new QuietList(firstParent_);
     const auto fill = [&control, combo] {
         const QSignalBlocker blocker(combo);
         combo->clear();

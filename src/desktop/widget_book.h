@@ -7,6 +7,7 @@
 #include <QAction>
 #include <QMenuBar>
 #include <QWidget>
+#include <functional>
 #include <map>
 #include <string>
 #include <string_view>
@@ -38,6 +39,12 @@ public:
 
     [[nodiscard]] Form& form() const { return form_; }
     [[nodiscard]] EventGate& gate() const { return gate_; }
+
+    // Tells the person at the desk something that needs no answer.
+    void say(const QString& text) const {
+        if (onSay) onSay(text);
+    }
+    std::function<void(const QString& text)> onSay;
 
     // Hands text typed into the viewer to its control.
     void takeViewerText();

@@ -1,5 +1,6 @@
 // What leaves the window: sheets to the printer, and the report of a fault.
 #include <QApplication>
+#include <QFileInfo>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPrintPreviewDialog>
@@ -7,7 +8,6 @@
 
 #include "desktop/fault_report.h"
 #include "desktop/main_window.h"
-#include "desktop/text_viewer.h"
 
 namespace kelvo::desktop {
 
@@ -19,6 +19,12 @@ QPrinter& MainWindow::systemPrinter() {
     return *printer_;
 }
 
+QString MainWindow::documentName() const {
+    const bool plotOnView = program_->form().find("pctPlot")->visible();
+    const QString name = QFileInfo(filePanel_.path->wholeText()).completeBaseName();
+    return plotOnView ? name + QStringLiteral("-그림") : name;
+}
+
 void MainWindow::printWaitingSheets() {
     std::vector<Sheet> sheets = paper_.takeSheets();
     if (onSheets) {
@@ -27,7 +33,7 @@ void MainWindow::printWaitingSheets() {
     }
     // The preview prints through the system's dialog, or into a PDF file without a printer.
     QPrinter& printer = systemPrinter();
-    printer.setDocName(windowTitle());
+    printer.setDocName(documentName());
     QPrintPreviewDialog preview(&printer, this);
     preview.setObjectName(QStringLiteral("printPreview"));
     preview.setWindowTitle(QStringLiteral("인쇄 미리보기"));
@@ -44,13 +50,18 @@ void MainWindow::printWaitingSheets() {
 
 void MainWindow::reportFault(int number, const std::string& text) {
     QApplication::restoreOverrideCursor();
-    lock_.release();
-    TextViewer* viewer = book_ ? book_->viewer() : nullptr;
-    const bool unsaved = viewer != nullptr && viewer->isModified();
-    QString rescueFile;
-    if (unsaved) rescueFile = writeRescueFile(applicationFolder_, viewer->text());
-    const QString report = faultReport(number, text, rescueFile, unsaved && rescueFile.isEmpty());
-    if (onFaultReport) {
+    Rescued rescued;
+    if (book_) {
+        book_->takeViewerText();
+        if (program_->textIsUnsaved()) {
+            program_->keepUnsavedText();
+            rescued = rescueUnsavedText();
+        }
+    }
+    const QString report = faultReport(number, text, rescued);
+    if (dialogParent_.nobodyAnswers) {
+        // Nobody is there to read it.
+    } else if (onFaultReport) {
         onFaultReport(report);
     } else {
         QMessageBox box(QMessageBox::Critical, QStringLiteral("Kelvo"), report, QMessageBox::Ok,

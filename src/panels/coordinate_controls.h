@@ -69,6 +69,9 @@ struct CoordinateControls {
     Control& txtUY = form.textBox("txtUY", "Frame13", "Y");
     Control& txtUH = form.textBox("txtUH", "Frame13", "표고");
 
+    Control& lblHeights = form.label("lblHeights", "frmeOne", "표고 = 타원체고 - 지오이드고");
+    Control& lblGeoid = form.label("lblGeoid", "frmeOne", "지오이드고는 개략치임");
+
     Control& cmdOneClose = form.button("cmdOneClose", "frmeOne", "닫기");
 
     [[nodiscard]] AnglePair wgsAngles() const {

@@ -37,10 +37,10 @@ void clsplot1::pcircle(double x, double y, double r, double start, double end, d
     latchWidth(lw);
     const Arc arc = arcOf(x, y, r, start, end);
     if (arc.whole())
-        surface().Circle(arc.x, arc.y, arc.radius, 0, 0, 0, 0, kFormCircle);
+        surface().Circle(arc.x, arc.y, arc.radius, 0, 0, 0, 0, CircleForm::Whole);
     else
         surface().Circle(arc.x, arc.y, arc.radius, surface().ForeColor(), radians(arc.start),
-                         radians(arc.end), 0, kFormArc);
+                         radians(arc.end), 0, CircleForm::Arc);
 }
 
 void clsplot1::pcircledot(double x, double y, double r, double start, double end, double lw,
@@ -56,7 +56,7 @@ void clsplot1::pcircledot(double x, double y, double r, double start, double end
     const double ag = quotient(gap * (ScaleMean_ * kTwipsPerMillimetre), arc.radius);
     const auto draw = [&](double from, double to) {
         surface().Circle(arc.x, arc.y, arc.radius, surface().ForeColor(), finite(from), finite(to),
-                         0, kFormArc);
+                         0, CircleForm::Arc);
     };
     double e = 0;
     for (int i = 1; i <= n && i <= kMostStrokes; ++i) {

@@ -1,12 +1,16 @@
 // The plot object: draws on a surface in millimetres of a page or in any units of the user.
 //
+// This is a complete drawing object, of which the program's own pictures use a part: the point
+// plots draw with pwindow, pline, ptext, ptextR and ticmark, printing with ptext and the font. The
+// rest (dashes, arcs, arrow, fills, logarithmic grids, values, stacked text) is kept on purpose.
+//
 // Three systems of coordinates: user (whatever pwindow says), page (millimetres), surface (twips,
 // 56.7 to the millimetre, y growing downward). Call pinitialize first, then pwindow.
 //
 // Numbers are 64-bit. Rounded to 32 bits are only the page x inside cx, where plinemmto leaves
 // the pen, pKind, and the widths of three symbols of ticmark (required; cy isn't rounded).
 // Nothing that isn't finite reaches a surface: a division by zero is fault 11 (0/0 is 6), a value
-// out of range fault 6. A call stops at its fault; what was told to the surface stands, and kept
+// out of range fault 6. A call stops at its fault; what has reached the surface stands, and kept
 // values aren't put back. Drawing without a surface is fault 5, which pline swallows.
 // No call draws without end: plinedot, pcircledot and pgrid stop after kMostStrokes strokes a
 // call, a triangle of a fill after kMostTriangleStrokes.
@@ -24,6 +28,9 @@
 #include "plot/surface.h"
 
 namespace kelvo {
+
+// The kinds that pinitialize takes as numbers.
+enum class SurfaceKind { Printer = 1, Screen = 2 };
 
 class clsplot1 {
 public:
@@ -54,7 +61,7 @@ public:
 
     // The window: page mm pl, pr, pb, pt belong to the user values ul, ur, ub, ut. kind 0 linear,
     // 1 y logarithmic, 2 x logarithmic, 3 both. An axis without extent, a logarithmic axis not
-    // above 0 and an unknown kind are told in one message; the axis keeps its former scale, but
+    // above 0 and an unknown kind are reported in one message; the axis keeps its former scale, but
     // kind and origin are those of the refused window (required). An axis may run backward.
     void pwindow(double pl, double ul, double pr, double ur, double pb, double ub, double pt,
                  double ut, double kind);
@@ -103,7 +110,7 @@ public:
 
     // r in user units of x. A span of 358 to 363 degrees, and of 0 to 0, is the whole circle.
     void pcircle(double x, double y, double r, double start, double end, double lw);
-    // dash and gap in mm; the way behind the last whole period is drawn solid.
+    // dash and gap in mm; the way after the last whole period is drawn solid.
     void pcircledot(double x, double y, double r, double start, double end, double lw, double dash,
                     double gap);
 
@@ -183,6 +190,10 @@ private:
     struct GridAxis;
 
     [[nodiscard]] Surface& surface() const;
+    [[nodiscard]] bool onPrinter() const { return isKind(SurfaceKind::Printer); }
+    [[nodiscard]] bool onScreen() const { return isKind(SurfaceKind::Screen); }
+    // A caller may bind to a number of its own, which is neither.
+    [[nodiscard]] bool isKind(SurfaceKind kind) const { return pKind_ == static_cast<float>(kind); }
     [[nodiscard]] double surfaceRadius(double r) const;
     [[nodiscard]] bool linearX() const { return WinKind_ == 0 || WinKind_ == 1; }
     [[nodiscard]] bool logarithmicX() const { return WinKind_ == 2 || WinKind_ == 3; }

@@ -15,8 +15,8 @@ using genSub::PolarPoint;
 
 void clsplot1::pfillMode(double mode) {
     if (!(mode >= 1 && mode <= 16) || mode != std::trunc(mode) || mode == 6) return;
-    if (mode == kBlackPen && PrinterColor_) mode = kCopyPen;
-    surface().setDrawMode(static_cast<int>(mode));
+    if (mode == kFillBlack && PrinterColor_) mode = kFillCopying;
+    surface().setDrawMode(static_cast<RasterMode>(static_cast<int>(mode)));
 }
 
 void clsplot1::pfill(double x1, double y1, double x2, double y2, std::int32_t colour) {
@@ -25,17 +25,17 @@ void clsplot1::pfill(double x1, double y1, double x2, double y2, std::int32_t co
 
 void clsplot1::pFillBox(double x1, double y1, double x2, double y2, std::int32_t colour) {
     Surface& on = surface();
-    const int style = on.FillStyle();
+    const FillKind style = on.FillStyle();
     const std::int32_t pen = on.ForeColor();
-    const std::int16_t mode = roundedInteger16(on.DrawMode());
-    on.setFillStyle(0);
+    const RasterMode mode = on.DrawMode();
+    on.setFillStyle(FillKind::Solid);
     on.setForeColor(colour);
-    on.setDrawMode(kCopyPen);
+    on.setDrawMode(RasterMode::CopyPen);
     const double X1 = cx(x1);
     const double Y1 = cy(y1);
     const double X2 = cx(x2);
     const double Y2 = cy(y2);
-    on.Line(X1, Y1, X2, Y2, colour, kFormFilledBox);
+    on.Line(X1, Y1, X2, Y2, colour, LineForm::FilledBox);
     on.setFillStyle(style);
     on.setForeColor(pen);
     on.setDrawMode(mode);
@@ -44,17 +44,17 @@ void clsplot1::pFillBox(double x1, double y1, double x2, double y2, std::int32_t
 void clsplot1::pFillCircle(double x, double y, double r, std::int32_t colour) {
     Surface& on = surface();
     // Kept in 16 bits: a colour above 32767 overflows here (required).
-    const std::int16_t style = roundedInteger16(on.FillStyle());
     const std::int16_t pen = roundedInteger16(on.ForeColor());
     const std::int16_t fill = roundedInteger16(on.FillColor());
-    const std::int16_t mode = roundedInteger16(on.DrawMode());
-    on.setFillStyle(0);
+    const FillKind style = on.FillStyle();
+    const RasterMode mode = on.DrawMode();
+    on.setFillStyle(FillKind::Solid);
     on.setForeColor(colour);
     on.setFillColor(colour);
-    on.setDrawMode(kCopyPen);
+    on.setDrawMode(RasterMode::CopyPen);
     const double R = surfaceRadius(r);
     const double X = cx(x);
-    on.Circle(X, cy(y), R, 0, 0, 0, 0, kFormCircle);
+    on.Circle(X, cy(y), R, 0, 0, 0, 0, CircleForm::Whole);
     on.setFillStyle(style);
     on.setForeColor(pen);
     on.setFillColor(fill);
@@ -65,9 +65,9 @@ void clsplot1::pFillEllipse(double x, double y, double a, double turn, double ra
                             std::int32_t colour) {
     Surface& on = surface();
     const std::int32_t pen = on.ForeColor();
-    const int mode = on.DrawMode();
+    const RasterMode mode = on.DrawMode();
     on.setForeColor(colour);
-    on.setDrawMode(kCopyPen);
+    on.setDrawMode(RasterMode::CopyPen);
     const double r = finite((kPlotPi * turn) / 180);
     const double A = Curxs_ * a;
     constexpr int kSectors = 24;
@@ -100,9 +100,9 @@ void clsplot1::pFillPoly(std::span<const double> xs, std::span<const double> ys,
     };
     Surface& on = surface();
     const std::int16_t pen = roundedInteger16(on.ForeColor());  // 16 bits: required
-    const int mode = on.DrawMode();
+    const RasterMode mode = on.DrawMode();
     on.setForeColor(colour);
-    on.setDrawMode(colour != 0 ? kCopyPen : kBlackPen);
+    on.setDrawMode(colour != 0 ? RasterMode::CopyPen : RasterMode::Black);
     double sumX = 0;
     double sumY = 0;
     for (int i = 1; i <= n; ++i) {
@@ -131,8 +131,12 @@ void clsplot1::pFillTri(double x1, double y1, double x2, double y2, double x3, d
     const double X3 = cx(x3);
     const double Y3 = cy(y3);
     double step = 11;
-    if (pKind_ == kPrinterKind) step = genSub::MinOf(on.TwipsPerPixelX(), on.TwipsPerPixelY());
-    const auto [D, height] = genSub::DistanceToLine(X1, Y1, X2, Y2, X3, Y3);
+    if (onPrinter()) step = genSub::MinOf(on.TwipsPerPixelX(), on.TwipsPerPixelY());
+    // An upright line counts as lying on x = 0 there, so it is handed over with its corner there.
+    const bool upright = X1 == X2;
+    const auto [D, height] =
+        upright ? genSub::DistanceToLine(0, 0, 0, finite(Y2 - Y1), finite(X3 - X1), finite(Y3 - Y1))
+                : genSub::DistanceToLine(X1, Y1, X2, Y2, X3, Y3);
     double H = height;
     double off = 0;
     for (int k = 0; k < kMostTriangleStrokes; ++k) {
@@ -142,7 +146,7 @@ void clsplot1::pFillTri(double x1, double y1, double x2, double y2, double x3, d
         const PlanePoint P = PolarPoint(stroke.ax, stroke.ay, D, s / 2);
         const PlanePoint Q = PolarPoint(stroke.bx, stroke.by, D, s / 2);
         on.setDrawWidth(w + 1);
-        on.Line(finite(P.x), finite(P.y), finite(Q.x), finite(Q.y), on.ForeColor(), kFormLine);
+        on.Line(finite(P.x), finite(P.y), finite(Q.x), finite(Q.y), on.ForeColor(), LineForm::Line);
         off += s;
         H -= s;
         if (!(H >= 0)) break;
@@ -154,8 +158,14 @@ clsplot1::Stroke clsplot1::TriStroke(double x1, double y1, double x2, double y2,
                                      double y3, double distance, double direction) {
     const PlanePoint p = PolarPoint(x1, y1, direction, distance);
     const PlanePoint q = PolarPoint(x2, y2, direction, distance);
-    const PlanePoint a = LineIntersection(x1, y1, x3, y3, p.x, p.y, q.x, q.y);
-    const PlanePoint b = LineIntersection(x2, y2, x3, y3, p.x, p.y, q.x, q.y);
+    // The meeting point takes its y from the line that comes second; the slope that stands for
+    // upright leaves no digit of it, so an upright moved side comes first.
+    const auto meeting = [&](double x, double y) {
+        return p.x == q.x ? LineIntersection(p.x, p.y, q.x, q.y, x, y, x3, y3)
+                          : LineIntersection(x, y, x3, y3, p.x, p.y, q.x, q.y);
+    };
+    const PlanePoint a = meeting(x1, y1);
+    const PlanePoint b = meeting(x2, y2);
     return {.ax = a.x, .ay = a.y, .bx = b.x, .by = b.y};
 }
 

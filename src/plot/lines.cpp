@@ -13,7 +13,7 @@ void clsplot1::lineTo(double x1, double y1, double x2, double y2) {
     const double Y1 = cy(y1);
     const double X2 = cx(x2);
     const double Y2 = cy(y2);
-    surface().Line(X1, Y1, X2, Y2, surface().ForeColor(), kFormLine);
+    surface().Line(X1, Y1, X2, Y2, surface().ForeColor(), LineForm::Line);
 }
 
 void clsplot1::pline(double x1, double y1, double x2, double y2, double lw, bool alt) {
@@ -32,7 +32,7 @@ void clsplot1::pline(double x1, double y1, double x2, double y2, double lw, bool
     const double X2 = cx(x2);
     const double Y2 = cy(y2);
     try {
-        surface().Line(X1, Y1, X2, Y2, alt ? kGreen : surface().ForeColor(), kFormLine);
+        surface().Line(X1, Y1, X2, Y2, alt ? kGreen : surface().ForeColor(), LineForm::Line);
     } catch (const RuntimeFault&) {
         return;
     }
@@ -88,7 +88,7 @@ void clsplot1::pbox(double x1, double y1, double x2, double y2, double lw) {
     const double Y1 = cy(y1);
     const double X2 = cx(x2);
     const double Y2 = cy(y2);
-    surface().Line(X1, Y1, X2, Y2, surface().ForeColor(), kFormBox);
+    surface().Line(X1, Y1, X2, Y2, surface().ForeColor(), LineForm::Box);
 }
 
 void clsplot1::parrow(double x, double y, double length, double width, double angle, double lw) {

@@ -14,13 +14,34 @@ struct PlotScale {
     float Inter = 0;  // grid interval
 };
 
+// Which coordinates of the points are plotted. plot.cfg may name another number, which is kept
+// and draws nothing.
+enum class PointPlot : std::int16_t {
+    WGS = 1,  // plotWGS
+    UGS = 2,  // plotUGS
+    XY = 3,   // plotXY
+};
+
 struct PlotCfg {
-    std::int16_t PlotKind = 0;    // 1 plotWGS, 2 plotUGS, 3 plotXY
+    PointPlot PlotKind{};
     std::int16_t PlotManual = 0;  // 1 manual scale, 0 automatic
     float PlotFontSize = 0;       // text size of labels and point names
     PlotScale WGS;
     PlotScale UGS;
     PlotScale XY;
+
+    // The group of a kind; null for a number that is none.
+    [[nodiscard]] PlotScale* scaleOf(PointPlot kind) {
+        switch (kind) {
+            case PointPlot::WGS:
+                return &WGS;
+            case PointPlot::UGS:
+                return &UGS;
+            case PointPlot::XY:
+                return &XY;
+        }
+        return nullptr;
+    }
 };
 
 }  // namespace kelvo

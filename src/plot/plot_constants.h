@@ -9,14 +9,12 @@ inline constexpr double kTwipsPerMillimetre = 56.7;  // not 1440 / 25.4
 inline constexpr double kPlotPi = 3.141592654;
 inline constexpr double kLn10 = 2.302585093;
 
-inline constexpr float kPrinterKind = 1.0F;
-inline constexpr float kScreenKind = 2.0F;
-
 inline constexpr std::int32_t kBlack = 0;
 inline constexpr std::int32_t kGreen = 0x008000;  // number 2 of the sixteen-colour table
 inline constexpr std::int32_t kWhite = 0xFFFFFF;
 
-inline constexpr int kCopyPen = 13;  // draw mode
-inline constexpr int kBlackPen = 1;  // draw mode
+// Modes of pfillMode.
+inline constexpr int kFillCopying = 13;
+inline constexpr int kFillBlack = 1;
 
 }  // namespace kelvo

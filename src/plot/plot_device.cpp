@@ -37,8 +37,8 @@ void clsplot1::pinitialize(double x0, double y0, double sx, double sy, double ki
     ScaleMean_ = finite(ScaleY_ * 0.5 + ScaleX_ * 0.5);
     surface_ = &surface;
     pKind_ = toSingle(kind);
-    if (pKind_ == kPrinterKind)
-        surface.setScaleMode(1);
+    if (onPrinter())
+        surface.setScaleMode(ScaleUnit::Twips);
     else
         surface.setForeColor(kBlack);
     FontName_ = "굴림체";
@@ -162,8 +162,8 @@ void clsplot1::latchWidth(double lw) {
 }
 
 void clsplot1::Clear() {
-    if (pKind_ == kScreenKind) surface().Cls();
-    if (pKind_ == kPrinterKind) surface().EndDoc();
+    if (onScreen()) surface().Cls();
+    if (onPrinter()) surface().EndDoc();
 }
 
 namespace {
@@ -173,21 +173,21 @@ constexpr std::string_view kNextPage = "Preceed to Next Page ? ";
 }  // namespace
 
 void clsplot1::SkipPage() {
-    if (pKind_ == kPrinterKind) surface().EndDoc();
-    if (pKind_ == kScreenKind) messages_.tell(kNextPage);
+    if (onPrinter()) surface().EndDoc();
+    if (onScreen()) messages_.tell(kNextPage);
 }
 
 void clsplot1::SkipPage1() {
-    if (pKind_ == kPrinterKind) surface().NewPage();
-    if (pKind_ == kScreenKind) messages_.tell(kNextPage);
+    if (onPrinter()) surface().NewPage();
+    if (onScreen()) messages_.tell(kNextPage);
 }
 
 void clsplot1::EndPlot() {
-    if (pKind_ == kPrinterKind) surface().EndDoc();
+    if (onPrinter()) surface().EndDoc();
 }
 
 void clsplot1::ChangeOrint(double orientation) {
-    if (pKind_ == kScreenKind || orientation == Orient_) return;
+    if (onScreen() || orientation == Orient_) return;
     messages_.show({.text = "change printer orientation at control pannel",
                     .icon = Icon::Warning,
                     .buttons = Buttons::Ok,
@@ -197,7 +197,8 @@ void clsplot1::ChangeOrint(double orientation) {
 }
 
 void clsplot1::SetOrint(double orientation) {
-    surface().setOrientation(orientation <= 1 ? 1 : 2);
+    surface().setOrientation(orientation <= 1 ? SheetOrientation::Portrait
+                                              : SheetOrientation::Landscape);
 }
 
 void clsplot1::ChangeColor(std::int32_t colour, double which) {
@@ -225,8 +226,7 @@ void clsplot1::setPrinterType(std::string_view text) {
 }
 
 void clsplot1::GetPrinterMode(bool on) {
-    constexpr int kPlanes = 14;
-    setPrinterType(printer_.GetDeviceCaps(kPlanes) < 2 ? "F" : "T");
+    setPrinterType(printer_.GetDeviceCaps(DeviceCap::ColourPlanes) < 2 ? "F" : "T");
     setBlackWhite(on);
 }
 

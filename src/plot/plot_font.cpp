@@ -9,7 +9,6 @@
 namespace kelvo {
 namespace {
 
-constexpr int kPixelsPerInchHigh = 90;      // index of GetDeviceCaps
 constexpr std::size_t kFaceNameBytes = 32;  // the platform's record, zero byte included
 constexpr std::uint8_t kDefaultCharacterSet = 1;
 constexpr std::int32_t kPointsPerInch = 72;
@@ -28,7 +27,7 @@ void clsplot1::ptextR(std::string_view text, double x, double y, double angle, d
     Surface& on = surface();
     const double X = quotient(cx(x), on.TwipsPerPixelX());
     const double Y = quotient(cy(y), on.TwipsPerPixelY());
-    const int dpi = on.GetDeviceCaps(kPixelsPerInchHigh);
+    const int dpi = on.GetDeviceCaps(DeviceCap::PixelsPerInchHigh);
 
     // Above zero, so the platform takes it as the height of the character cell.
     RotFont_.lfHeight = roundedInteger32(on.fontsize() * dpi) / kPointsPerInch;
@@ -41,14 +40,14 @@ void clsplot1::ptextR(std::string_view text, double x, double y, double angle, d
     RotFont_.lfFaceName = inCodePage(face);
 
     // Opens the printer's page, which its text calls need.
-    if (pKind_ == kPrinterKind) on.print("");
+    if (onPrinter()) on.print("");
     on.CreateFontIndirectA(RotFont_);
-    on.SelectCreatedFont();
+    on.SelectObject(SelectedFont::Created);
     on.TextOutA(roundedInteger32(X), roundedInteger32(Y), inCodePage(text),
                 genSub::DisplayLen(text));
-    on.SelectOldFont();
-    on.DeleteCreatedFont();
-    if (BoxErase_ == 1) pfillMode(kBlackPen);
+    on.SelectObject(SelectedFont::Old);
+    on.DeleteObject();
+    if (BoxErase_ == 1) pfillMode(kFillBlack);
 }
 
 void clsplot1::ChangeFont(std::string_view name) {

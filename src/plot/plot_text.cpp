@@ -10,7 +10,7 @@ namespace kelvo {
 
 void clsplot1::ptheight(double h) {
     double p = finite(ScaleMean_ * h);
-    if (pKind_ == kScreenKind && p < 3) p = 3;
+    if (onScreen() && p < 3) p = 3;
     if (p < 1) p = 1;
     surface().setFontsize(p);
 }
@@ -30,8 +30,8 @@ clsplot1::Box clsplot1::textBox(double x, double y, std::string_view text) const
 }
 
 void clsplot1::erase(const Box& box) {
-    pfillMode(kCopyPen);
-    const std::int32_t colour = pKind_ == kScreenKind ? surface().BackColor() : kWhite;
+    pfillMode(kFillCopying);
+    const std::int32_t colour = onScreen() ? surface().BackColor() : kWhite;
     pfill(box.left, box.top, box.right, box.bottom, colour);
 }
 
@@ -46,7 +46,7 @@ void clsplot1::ptext(std::string_view text, double x, double y, double size) {
     sizeStep(size);
     if (BoxErase_ == 1) erase(textBox(x, y, text));
     printAt(cx(x), y, text, text);
-    if (BoxErase_ == 1) pfillMode(kBlackPen);
+    if (BoxErase_ == 1) pfillMode(kFillBlack);
 }
 
 void clsplot1::ptextC(std::string_view text, double x1, double x2, double y, double size) {
@@ -61,7 +61,7 @@ void clsplot1::ptextC(std::string_view text, double x1, double x2, double y, dou
         erase(box);
     }
     printAt(cx(x1 + (x2 - x1) / 2.0) - surface().TextWidth(text) / 2.0, y, text, text);
-    if (BoxErase_ == 1) pfillMode(kBlackPen);
+    if (BoxErase_ == 1) pfillMode(kFillBlack);
 }
 
 void clsplot1::pvtext(std::string_view text, double x, double y, double pitch, double /*unused*/,

@@ -16,7 +16,7 @@ namespace {
 
 using genSub::FormatNum;
 
-// What tells one kind of plot from another.
+// In what one kind of plot differs from another.
 struct PlotFields {
     double PointRec::*north;
     double PointRec::*east;
@@ -51,8 +51,7 @@ void scaleAutomatically(const PlotFields& fields, PlotSource& source) {
         texts[i] = fields.angles ? FormatNum(KelvoSub::DegToDms((v + 0.1) / 3600), 4, 4)
                                  : FormatNum(v, 7, 0);
     }
-    source.panel.showScale(texts);
-    source.panel.SavePcfgFile();
+    source.panel.takeScale(source.cfg.PlotKind, texts);
 }
 
 // The values of the grid lines from `begin` over the span; nothing if there are too many of them
@@ -159,22 +158,21 @@ void plotPoints(clsplot1& object, const PlotFields& fields, PlotSource& source) 
 
 }  // namespace
 
-void plot(clsplot1& object, int kind, Surface& surface, PlotSource& source) {
-    if (kind == 2)
-        object.pinitialize(0, 0, 1, 1, 2, surface);
+void plot(clsplot1& object, SurfaceKind kind, Surface& surface, PlotSource& source) {
+    const int number = static_cast<int>(kind);
+    if (kind == SurfaceKind::Screen)
+        object.pinitialize(0, 0, 1, 1, number, surface);
     else
-        object.pinitialize(15, 40, 1.3, 1.3, kind, surface);
+        object.pinitialize(15, 40, 1.3, 1.3, number, surface);
     switch (source.cfg.PlotKind) {
-        case 1:
+        case PointPlot::WGS:
             plotWGS(object, source);
             break;
-        case 2:
+        case PointPlot::UGS:
             plotUGS(object, source);
             break;
-        case 3:
+        case PointPlot::XY:
             plotXY(object, source);
-            break;
-        default:
             break;
     }
 }

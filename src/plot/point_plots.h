@@ -12,15 +12,15 @@ namespace kelvo {
 
 class clsplot1;
 class Surface;
+enum class SurfaceKind;
 
-// What a plot asks of the scale panel: the four boxes show an automatic scale, and saving reads
-// them back into the settings (with the rounding of their text).
+// What a plot asks of the scale panel.
 class ScalePanel {
 public:
     virtual ~ScalePanel() = default;
-    // Texts in the order txtXb, txtYb, txtSpan, txtInter.
-    virtual void showScale(const std::array<std::string, 4>& texts) = 0;
-    virtual void SavePcfgFile() = 0;
+    // An automatic scale of the kind that is being drawn: the texts for txtXb, txtYb, txtSpan,
+    // txtInter. They go into the settings with the rounding of the texts.
+    virtual void takeScale(PointPlot drawn, const std::array<std::string, 4>& texts) = 0;
 };
 
 // What stands in the picture beside the points.
@@ -38,9 +38,9 @@ struct PlotSource {
     MessageBoxes& messages;
 };
 
-// Binds the plot object to the surface (kind 2 the screen, 1 the printer: 15 mm from the left,
-// 40 mm from the top, 1.3 times as large) and draws the plot that cfg.PlotKind names.
-void plot(clsplot1& object, int kind, Surface& surface, PlotSource& source);
+// Binds the plot object to the surface (on the printer 15 mm from the left, 40 mm from the top,
+// 1.3 times as large) and draws the plot that cfg.PlotKind names.
+void plot(clsplot1& object, SurfaceKind kind, Surface& surface, PlotSource& source);
 
 // WGS84 latitude and longitude, user latitude and longitude, TM grid. With the automatic scale
 // the square is laid around the points first. No points, or a scale that can't be drawn

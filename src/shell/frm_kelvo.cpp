@@ -5,8 +5,8 @@
 #include "batch/run_batch.h"
 #include "panels/one_point_panel.h"
 #include "panels/parameter_panels.h"
+#include "panels/plot_settings_panel.h"
 #include "panels/print_mode_panel.h"
-#include "panels/scale_panel.h"
 #include "shell/common_dialog.h"
 #include "shell/configuration.h"
 #include "shell/file_menu.h"
@@ -15,6 +15,7 @@
 #include "shell/recent_files.h"
 #include "shell/saved_results.h"
 #include "shell/small_commands.h"
+#include "shell/spoken_commands.h"
 #include "shell/viewer.h"
 
 namespace kelvo {
@@ -32,27 +33,53 @@ ProgramState stateFor(std::string applicationFolder) {
     return state;
 }
 
+Services withMessages(const Services& services, MessageBoxes& messages) {
+    return {.disk = services.disk,
+            .messages = messages,
+            .programs = services.programs,
+            .dialogs = services.dialogs,
+            .rawPrinter = services.rawPrinter,
+            .beeper = services.beeper,
+            .clock = services.clock,
+            .screen = services.screen,
+            .pointer = services.pointer,
+            .surfaces = services.surfaces,
+            .programEnd = services.programEnd,
+            .alarm = services.alarm,
+            .journal = services.journal};
+}
+
 }  // namespace
 
 // Everything in the window, in the order in which it rests on each other.
 struct frmKelvo::Members final : RunView {
     Members(std::string applicationFolder, const Services& theServices)
-        : services(theServices), state(stateFor(std::move(applicationFolder))) {
+        : messages(theServices.messages),
+          services(withMessages(theServices, messages)),
+          state(stateFor(std::move(applicationFolder))) {
         menus.mnuBatchGo.onClick = [this] { mnuBatchGo_Click(); };
     }
 
     void Form_Load();
+    void noteUntouchedPanels();
+    void saveSettings();
     void Form_Close();
     void mnuBatchGo_Click();
 
     // What a run asks of the window.
-    void runBegins() override { frmeOne.setVisible(false); }
+    void runBegins() override {
+        status.runBegins(state.RecentFiles[1]);
+        frmeOne.setVisible(false);
+    }
+    void messageComes(long line, const std::string& text) override { status.add({line, text}); }
     void showResult() override { viewer.showRunResult(); }
 
     void writeCfgFile() { WriteCfgFile(state, services.disk, services.messages); }
 
+    HeardMessages messages;
     Services services;
     ProgramState state;
+    StatusLine status;
     Form form;
     Control& window = form.window("frmKelvo");
     MenuControls menus{form};
@@ -73,8 +100,7 @@ struct frmKelvo::Members final : RunView {
     RecentFileList recent{state, window, menus, services.disk, services.messages};
     PointPictures pictures{settings, state, services};
     ResultViewer viewer{
-        viewerControls, settings.controls(), state, printMode, pictures, recent, cmd,
-        services.disk};
+        viewerControls, settings.controls(), state, printMode, pictures, recent, cmd, services};
     Printing printing{viewerControls, menus, printMode, viewer, pictures, cmd, state, services};
     FileMenu fileMenu{menus,  frmeOne, state,    viewer,
                       recent, cmd,     services, [this] { Form_Close(); }};
@@ -82,6 +108,7 @@ struct frmKelvo::Members final : RunView {
                               viewer, services.disk,         services.messages};
     SmallCommands smallCommands{menus,  frmeOne, viewerControls.frmeFile, state,
                                 viewer, cmd,     services.disk,           services.messages};
+    SpokenCommands spoken{form, state, viewer, messages, status};
 };
 
 void frmKelvo::Members::Form_Load() {
@@ -110,12 +137,29 @@ void frmKelvo::Members::Form_Load() {
     parameters.FillDefault();
     settings.RestorePcfgFile();
     state.conversion.ParaDirty = true;
+    noteUntouchedPanels();
 }
 
-void frmKelvo::Members::Form_Close() {
+// The panels give some values back otherwise than they were read, with nobody touching them.
+void frmKelvo::Members::noteUntouchedPanels() {
+    const TransPara asRead = state.Cfg;
+    try {
+        parameters.SaveCfg();
+    } catch (const RuntimeFault&) {
+        // A box that is empty from the start: the values in front of it are noted.
+    }
+    state.saved.cfgInPanels = std::exchange(state.Cfg, asRead);
+}
+
+void frmKelvo::Members::saveSettings() {
     parameters.SaveCfg();
     writeCfgFile();
     settings.SavePcfgFile();
+}
+
+void frmKelvo::Members::Form_Close() {
+    saveSettings();
+    viewer.journal().keepNow();
     services.programEnd.end();
 }
 
@@ -124,12 +168,25 @@ void frmKelvo::Members::mnuBatchGo_Click() {
                            .detPath = state.inApplicationFolder("kelvo.det"),
                            .CorPath = state.CorPath};
     RunBatch(state.conversion, places, *this, services.disk, services.messages);
+    spoken.sayRun();
 }
 
 frmKelvo::frmKelvo(std::string applicationFolder, const Services& services)
     : members_(std::make_unique<Members>(std::move(applicationFolder), services)) {}
 
 frmKelvo::~frmKelvo() = default;
+
+StatusLine& frmKelvo::status() {
+    return members_->status;
+}
+
+const std::string& frmKelvo::fileOnView() const {
+    return members_->viewer.fileOnView();
+}
+
+void frmKelvo::saveOnView() {
+    members_->viewer.saveOnView();
+}
 
 Form& frmKelvo::form() {
     return members_->form;
@@ -151,8 +208,54 @@ void frmKelvo::Form_Close() {
     members_->Form_Close();
 }
 
+PlotPlace frmKelvo::plotPlaceAt(double x, double y, double reach) const {
+    return members_->pictures.placeAt(x, y, reach);
+}
+
+void frmKelvo::OpenRichText(const std::string& path) {
+    members_->viewer.OpenRichText(path);
+}
+
 void frmKelvo::UpdateRecentFiles(const std::string& name) {
     members_->recent.UpdateRecentFiles(name);
+}
+
+void frmKelvo::saveSettings() {
+    members_->saveSettings();
+}
+
+UnsavedText frmKelvo::textOnView() const {
+    return members_->viewer.journal().onView();
+}
+
+bool frmKelvo::keepUnsavedText() {
+    return members_->viewer.journal().keepNow();
+}
+
+bool frmKelvo::textIsUnsaved() const {
+    return members_->viewer.journal().textIsUnsaved();
+}
+
+bool frmKelvo::canBringBackText() {
+    return members_->viewer.journal().canBringBack();
+}
+
+void frmKelvo::bringBackText() {
+    ResultViewer& viewer = members_->viewer;
+    viewer.journal().bringBack([&](const UnsavedText& text) { viewer.showUnsaved(text); });
+}
+
+std::optional<UnsavedText> frmKelvo::waitingText() {
+    return members_->viewer.journal().waiting();
+}
+
+void frmKelvo::bringBackWaitingText() {
+    ResultViewer& viewer = members_->viewer;
+    viewer.journal().bringBackWaiting([&](const UnsavedText& text) { viewer.showUnsaved(text); });
+}
+
+void frmKelvo::putWaitingTextAside() {
+    members_->viewer.journal().putWaitingAside();
 }
 
 void frmKelvo::PrintFile(const std::string& name) {

@@ -5,13 +5,6 @@
 
 namespace kelvo {
 
-namespace {
-
-constexpr int kPrinter = 1;
-constexpr int kScreen = 2;
-
-}  // namespace
-
 PointPictures::PointPictures(PlotSettingsPanel& settings, ProgramState& state,
                              const Services& services)
     : settings_(settings), state_(state), services_(services) {
@@ -26,14 +19,20 @@ void PointPictures::cmdPlot_Click() {
 }
 
 void PointPictures::drawOnScreen() {
-    draw(ScreenPlot_, kScreen, services_.surfaces.screen());
+    kindOnScreen_ = state_.plotCfg.PlotKind;
+    draw(ScreenPlot_, SurfaceKind::Screen, services_.surfaces.screen());
+}
+
+PlotPlace PointPictures::placeAt(double x, double y, double reach) const {
+    if (!ScreenPlot_) return {};
+    return placeOnPlot(*ScreenPlot_, state_.conversion.points, kindOnScreen_, x, y, reach);
 }
 
 void PointPictures::drawOnPrinter() {
-    draw(PrinterPlot_, kPrinter, services_.surfaces.printer());
+    draw(PrinterPlot_, SurfaceKind::Printer, services_.surfaces.printer());
 }
 
-void PointPictures::draw(std::unique_ptr<clsplot1>& object, int kind, Surface& surface) {
+void PointPictures::draw(std::unique_ptr<clsplot1>& object, SurfaceKind kind, Surface& surface) {
     if (!object)
         object = std::make_unique<clsplot1>(services_.messages, services_.programs,
                                             services_.surfaces.printer());

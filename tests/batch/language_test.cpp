@@ -124,5 +124,13 @@ TEST(Keys, SevenWithALetterThatIsNoPIsPassedOverWithItsLines) {
     EXPECT_EQ(bench.state.datum.shift.dX, 115.8);
 }
 
+TEST(CommandWords, TheKeyAndTheWordBeginTheLongestForm) {
+    for (const CommandWord& word : commandWords()) {
+        const std::string letters(word.key.substr(0, word.key.find(' ')));
+        EXPECT_TRUE(word.longest.starts_with(letters)) << word.word;
+        EXPECT_EQ(commandOf(std::string(word.longest) + " "), word.command) << word.longest;
+    }
+}
+
 }  // namespace
 }  // namespace kelvo

@@ -1,17 +1,21 @@
 #!/usr/bin/env python3
 """Drives the real window from outside, as assistive technology does.
 
-    drive_from_outside.py KELVO [work|fault]
+    drive_from_outside.py KELVO [work|fault|titles|ends]
 
 Starts the program on a display of its own. "work" finds every control by its description, does a
 batch run, walks one point there and back, and prints to a PDF file. "fault" asks for
 the plot with a box that holds no number while the viewer holds unsaved text, and looks at the
-report, the rescue file and the exit code. Exit code 77 (skipped) with a clear word where a package is missing.
+report, the rescue file and the exit code. "titles" reads the titles of window, box and dialog
+from the display, under a window manager. "ends" types a text and ends the program by signals and by
+taking its display away: each time the next start brings the text back. Exit code 77 (skipped) with a
+clear word where a package is missing.
 """
 import os
 import pathlib
 import re
 import shutil
+import signal
 import subprocess
 import sys
 import tempfile
@@ -39,6 +43,10 @@ def start_on_own_display(kelvo):
     for program, package in (("xvfb-run", "xvfb xauth"), ("dbus-run-session", "dbus")):
         if not shutil.which(program):
             skip("%s is missing (apt-get install %s)" % (program, package))
+    if sys.argv[2:3] == ["titles"]:
+        for program in ("openbox", "xdotool", "xprop", "xwininfo"):
+            if not shutil.which(program):
+                skip("%s is missing" % program)
     python = python_with_bindings()
     if python is None:
         skip("AT-SPI for Python is missing "
@@ -159,6 +167,23 @@ def control_names():
     return names
 
 
+def toggle_options():
+    """What the form holds behind an option shows in the boxes that its handler fills."""
+    assert control("optJeju").get_role_name() == "radio button", control("optJeju").get_role_name()
+    for option, box, text in (("optJeju", "txtX0", "550000"), ("optEast", "txtLam0", "129"),
+                              ("optUTM3", "txtULam0", "123"), ("optUTM9", "txtULam0", "129")):
+        act(control(option), "Toggle")
+        wait_for(lambda name=box, wanted=text: text_of(name) == wanted, option)
+    enabled = lambda name: control(name).get_state_set().contains(Atspi.StateType.ENABLED)
+    act(control("optUser"), "Toggle")
+    wait_for(lambda: enabled("txtLam0"), "optUser")
+    act(control("optWdeg"), "Toggle")
+    wait_for(lambda: enabled("txtWdegPhi") and not enabled("txtWdmsPhi"), "optWdeg")
+    act(control("optWdms"), "Toggle")
+    wait_for(lambda: enabled("txtWdmsPhi") and not enabled("txtWdegPhi"), "optWdms")
+    print("options toggled from outside reach the form")
+
+
 def drive(folder):
     control("frmKelvo")
     wanted = set(control_names())
@@ -174,7 +199,7 @@ def drive(folder):
     print("batch run: %d bytes" % result.stat().st_size)
 
     choose("입력창 열기")
-    act(control("optWdms"), "Toggle")
+    toggle_options()
     for box, value in (("txtWdmsPhi", "37.35332567"), ("txtWdmsLam", "126.32293454"),
                        ("txtWdmsTH", "30.1756")):
         type_into(box, value)
@@ -238,10 +263,137 @@ def end_with_a_fault(folder, program):
     print("exit code 1")
 
 
+def titles_on_display():
+    """The titles that the program's windows have on the display, as the display knows them."""
+    found = subprocess.run(["xdotool", "search", "--onlyvisible", "--class", "kelvo"],
+                           capture_output=True, text=True, check=False).stdout.split()
+    titles = []
+    for window in found:
+        line = subprocess.run(["xprop", "-id", window, "-notype", "_NET_WM_NAME"],
+                              capture_output=True, text=True, check=False,
+                              env=dict(os.environ, LC_ALL="C.UTF-8")).stdout
+        if "=" in line:
+            titles.append(line.split("=", 1)[1].strip().strip('"').strip())
+    return titles
+
+
+def outer_place():
+    """Where the frame of the main window stands: x, y, width, height."""
+    tree = subprocess.run(["xwininfo", "-root", "-tree"], capture_output=True, text=True,
+                          check=True, env=dict(os.environ, LC_ALL="C.UTF-8")).stdout
+    line = next(line for line in tree.splitlines() if "좌표변환프로그램" in line)
+    width, height, x, y = map(int, re.search(
+        r"(\d+)x(\d+)\+-?\d+\+-?\d+ +\+(-?\d+)\+(-?\d+)", line).groups())
+    extents = subprocess.run(["xprop", "-id", line.split()[0], "-notype", "_NET_FRAME_EXTENTS"],
+                             capture_output=True, text=True, check=True).stdout
+    left, right, top, bottom = (int(n) for n in extents.split("=")[1].split(","))
+    assert top > 0, "the window manager gives no title bar"
+    return x - left, y - top, width + left + right, height + top + bottom
+
+
+def look_at_titles(folder):
+    data = folder / "data" / "test.DAT"
+    control("frmKelvo")
+    wanted = "좌표변환프로그램 Kelvo "
+    wait_for(lambda: any(title.startswith(wanted) for title in titles_on_display()), "the title")
+    title, = [title for title in titles_on_display() if title]
+    wait_for(lambda: outer_place() == (0, 0, round(1366 * 0.88), round(900 * 0.88)),
+             "the frame in its place, not at %s" % (outer_place(),))
+    print("frame: %s" % (outer_place(),))
+    assert title.endswith(" - " + str(data.with_name("test.dat"))), title
+    print("window: " + title)
+    choose("About")
+    named_ok = lambda: find(lambda node: node.get_name().startswith("확인")
+                            and node.get_role_name() in ("push button", "button")
+                            and not node.get_description().startswith("cmd"), "확인")
+    box = named_ok()
+    wait_for(lambda: len(titles_on_display()) == 2, "the box")
+    wait_for(lambda: sorted(titles_on_display()) == sorted(["", title]),
+             "titles %s" % titles_on_display())
+    act(box, "Press")
+    choose("Editor 설정")
+    wait_for(lambda: "Editor Program 설정" in titles_on_display(), "the dialog's title")
+    press_cancel = find(lambda node: node.get_name() in ("취소", "취소(C)", "Cancel")
+                        and node.get_role_name() in ("push button", "button"), "취소")
+    act(press_cancel, "Press")
+    print("box and dialog have their own titles")
+
+
+def started(folder, **environment):
+    """The program, once its window is there."""
+    for _ in range(4):  # on a busy machine the display takes its time to come up
+        program = subprocess.Popen([sys.argv[1], "--app-folder", str(folder)],
+                                   env=dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", **environment))
+        try:
+            control("frmKelvo")
+            return program
+        except SystemExit:
+            program.kill()
+            program.wait(20)
+    raise SystemExit("the window doesn't come")
+
+
+def journal(folder):
+    return [path for path in folder.glob("unsaved/*/viewer.txt")]
+
+
+def display_of_its_own():
+    number = ":%d" % (1000 + os.getpid() % 10000)
+    server = subprocess.Popen(["Xvfb", number, "-screen", "0", "1280x900x24", "-nolisten", "tcp"],
+                              stderr=subprocess.DEVNULL)
+    wait_for(lambda: pathlib.Path("/tmp/.X11-unix/X" + number[1:]).exists(), "the display")
+    return number, server
+
+
+def end_in_every_way(folder):
+    for number, way in enumerate(("SIGKILL", "SIGABRT", "SIGTERM", "SIGHUP", "display")):
+        server = None
+        if way == "display":
+            name, server = display_of_its_own()
+            program = started(folder, DISPLAY=name)
+        else:
+            program = started(folder)
+        choose("입력데이터수정")
+        wait_for(lambda: showing("Richtxt"), "the viewer")
+        typed = "저녁 내내 친 글 %d" % number
+        type_into("Richtxt", typed)
+        if way in ("SIGTERM", "SIGHUP"):
+            program.send_signal(getattr(signal, way))  # with no time to write a journal before
+            assert program.wait(20) == 0, way
+        else:
+            wait_for(lambda: journal(folder), "the journal", 10)
+            if way == "display":
+                server.terminate()
+                server.wait(20)
+            else:
+                program.send_signal(getattr(signal, way))
+            assert program.wait(20) != 0, way
+        assert journal(folder), way
+
+        program = started(folder)
+        try:
+            offer = find(lambda node: "저장하지 않고 끝난 글" in (node.get_name() or ""), "the offer")
+            assert "test.dat" in offer.get_name(), offer.get_name()
+            act(find(lambda node: node.get_name() == "되살리기", "its button"), "Press")
+            wait_for(lambda: text_of("Richtxt") == typed, "the text")
+            press("cmdSave")
+            wait_for(lambda: not journal(folder), "the journal to go")
+            assert (folder / "data/test.dat").read_bytes() == typed.encode("cp949")
+        finally:
+            program.terminate()
+            program.wait(20)
+        print("%s: the text came back and was saved" % way)
+
+
+
 def main():
     session = sys.argv[2] if len(sys.argv) > 2 else "work"
     with tempfile.TemporaryDirectory(prefix="kelvo") as place:
         folder = pathlib.Path(place) / "app"
+        if session == "ends":
+            end_in_every_way(folder)
+            print("done")
+            return
         environment = dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
         for _ in range(4):  # on a busy machine the display takes its time to come up
             program = subprocess.Popen([sys.argv[1], "--app-folder", str(folder)],
@@ -249,12 +401,19 @@ def main():
             time.sleep(3)
             if program.poll() is None:
                 break
+        manager = None
+        if session == "titles":
+            manager = subprocess.Popen(["openbox"])
         try:
             if session == "fault":
                 end_with_a_fault(folder, program)
+            elif session == "titles":
+                look_at_titles(folder)
             else:
                 drive(folder)
         finally:
+            if manager:
+                manager.terminate()
             program.terminate()
             program.wait(20)
     print("done")

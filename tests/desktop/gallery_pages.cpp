@@ -118,10 +118,10 @@ void drawFills(clsplot1& object, Surface& surface) {
         const double left = 2.0 + (mode - 1) * 9.7;
         object.ptext(std::to_string(mode), left, 54, 8);
         surface.setForeColor(kBlue);
-        surface.setDrawMode(13);
+        surface.setDrawMode(RasterMode::CopyPen);
         object.pfillMode(mode);
         object.pline(left + 3, 20, left + 3, 50, 12);
-        surface.setDrawMode(13);
+        surface.setDrawMode(RasterMode::CopyPen);
         surface.setForeColor(0);
     }
 }
@@ -227,10 +227,10 @@ std::array<GalleryPage, 6> galleryPages() {
              {"texts", drawTexts}}};
 }
 
-void drawGalleryPage(const GalleryPage& page, int kind, Surface& surface) {
+void drawGalleryPage(const GalleryPage& page, SurfaceKind kind, Surface& surface) {
     NobodyThere nobody;
     clsplot1 object(nobody, nobody, surface);
-    object.pinitialize(0, 0, 1, 1, kind, surface);
+    object.pinitialize(0, 0, 1, 1, static_cast<int>(kind), surface);
     useWholePage(object);
     page.draw(object, surface);
 }

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "plot/clsplot1.h"
+#include "plot/plot_cfg.h"
 #include "plot/print_text.h"
 #include "plot/surface.h"
 
@@ -20,12 +21,11 @@ struct GalleryPage {
 // Figures, fills, symbols, grids and texts, each on a page of 160 x 160 mm with y upward.
 [[nodiscard]] std::array<GalleryPage, 6> galleryPages();
 
-// Draws the page with a plot object of its own. kind: 1 the printer, 2 the screen.
-void drawGalleryPage(const GalleryPage& page, int kind, Surface& surface);
+// Draws the page with a plot object of its own.
+void drawGalleryPage(const GalleryPage& page, SurfaceKind kind, Surface& surface);
 
-// A whole plot of a few points. plotKind: 1 WGS84, 2 user ellipsoid, 3 grid; the scale is
-// automatic unless `manual`. kind as above.
-void drawSamplePlot(int kind, Surface& surface, std::int16_t plotKind, bool manual);
+// A whole plot of a few points; the scale is automatic unless `manual`.
+void drawSamplePlot(SurfaceKind kind, Surface& surface, PointPlot plotKind, bool manual);
 
 // Prints `text` as a file of the given name in the user mode.
 void printSampleText(Surface& printer, const std::string& name, const std::string& text,

@@ -15,7 +15,7 @@
 #include "desktop/picture_surface.h"
 #include "gallery_pages.h"
 
-using kelvo::LogicalFont;
+using namespace kelvo;
 using kelvo::desktop::Medium;
 using kelvo::desktop::PaperSurface;
 using kelvo::desktop::PictureSurface;
@@ -73,49 +73,49 @@ void drawTurned(PictureSurface& surface) {
         font.lfCharSet = 1;
         font.lfFaceName = angle % 90 == 0 ? "굴림체" : "바탕체";
         surface.CreateFontIndirectA(font);
-        surface.SelectCreatedFont();
+        surface.SelectObject(SelectedFont::Created);
         surface.TextOutA(300, 300, "          경도 127-30-15", 24);
-        surface.SelectOldFont();
-        surface.DeleteCreatedFont();
+        surface.SelectObject(SelectedFont::Old);
+        surface.DeleteObject();
     }
     surface.setDrawWidth(1);
-    surface.Line(4500, 4300, 4500, 4700, 0, kelvo::kFormLine);
-    surface.Line(4300, 4500, 4700, 4500, 0, kelvo::kFormLine);
+    surface.Line(4500, 4300, 4500, 4700, 0, LineForm::Line);
+    surface.Line(4300, 4500, 4700, 4500, 0, LineForm::Line);
 }
 
 void drawShapes(PictureSurface& surface) {
     for (int width = 1; width <= 6; ++width) {
         surface.setDrawWidth(width);
         const double y = 300.0 + width * 200;
-        surface.Line(300, y, 3000, y, 0, kelvo::kFormLine);
-        surface.Line(3200, y, 5200, y + 500, 0x0000FF, kelvo::kFormLine);
+        surface.Line(300, y, 3000, y, 0, LineForm::Line);
+        surface.Line(3200, y, 5200, y + 500, 0x0000FF, LineForm::Line);
     }
     surface.setDrawWidth(1);
     surface.setForeColor(0);
-    surface.Circle(900, 3200, 500, 0, 0, 0, 0, kelvo::kFormCircle);
-    surface.setFillStyle(0);
+    surface.Circle(900, 3200, 500, 0, 0, 0, 0, CircleForm::Whole);
+    surface.setFillStyle(FillKind::Solid);
     surface.setFillColor(0x00C000);
-    surface.Circle(2200, 3200, 500, 0, 0, 0, 0, kelvo::kFormCircle);
-    surface.setFillStyle(1);
+    surface.Circle(2200, 3200, 500, 0, 0, 0, 0, CircleForm::Whole);
+    surface.setFillStyle(FillKind::None);
     surface.setDrawWidth(3);
-    surface.Circle(3500, 3200, -500, 0xC00000, 0, 1.570796, 0, kelvo::kFormArc);
-    surface.Circle(4800, 3200, 500, 0xC000C0, 4.7, 1.0, 0, kelvo::kFormArc);
-    surface.Circle(6100, 3200, 500, 0, 0, 3.141592654, 0.5, kelvo::kFormArc);
+    surface.Circle(3500, 3200, -500, 0xC00000, 0, 1.570796, 0, CircleForm::Arc);
+    surface.Circle(4800, 3200, 500, 0xC000C0, 4.7, 1.0, 0, CircleForm::Arc);
+    surface.Circle(6100, 3200, 500, 0, 0, 3.141592654, 0.5, CircleForm::Arc);
     surface.setDrawWidth(1);
-    surface.Line(300, 4200, 1500, 5000, 0, kelvo::kFormBox);
-    surface.Line(3000, 5000, 1800, 4200, 0xC0C000, kelvo::kFormFilledBox);
+    surface.Line(300, 4200, 1500, 5000, 0, LineForm::Box);
+    surface.Line(3000, 5000, 1800, 4200, 0xC0C000, LineForm::FilledBox);
 }
 
 void drawModes(PictureSurface& surface) {
-    surface.setDrawMode(13);
-    surface.Line(0, 2000, 9000, 3000, 0x80C0FF, kelvo::kFormFilledBox);
+    surface.setDrawMode(RasterMode::CopyPen);
+    surface.Line(0, 2000, 9000, 3000, 0x80C0FF, LineForm::FilledBox);
     for (int mode = 1; mode <= 16; ++mode) {
         const double x = 100.0 + (mode - 1) * 540;
-        surface.setDrawMode(mode);
-        surface.Line(x, 1500, x + 400, 3500, 0xC04020, kelvo::kFormFilledBox);
+        surface.setDrawMode(static_cast<RasterMode>(mode));
+        surface.Line(x, 1500, x + 400, 3500, 0xC04020, LineForm::FilledBox);
         surface.setDrawWidth(4);
-        surface.Line(x, 3700, x + 400, 4300, 0xC04020, kelvo::kFormLine);
-        surface.setDrawMode(13);
+        surface.Line(x, 3700, x + 400, 4300, 0xC04020, LineForm::Line);
+        surface.setDrawMode(RasterMode::CopyPen);
         label(surface, x + 100, 1200, std::to_string(mode));
     }
 }
@@ -178,19 +178,20 @@ int main(int argc, char** argv) {
     PaperSurface paper;
     for (const GalleryPage& page : kelvo::testing::galleryPages()) {
         PictureSurface surface({});
-        drawGalleryPage(page, 2, surface);
+        drawGalleryPage(page, SurfaceKind::Screen, surface);
         good = save(surface, folder, page.name) && good;
-        drawGalleryPage(page, 1, paper);
+        drawGalleryPage(page, SurfaceKind::Printer, paper);
         paper.EndDoc();
     }
-    for (const std::int16_t kind : {std::int16_t{1}, std::int16_t{2}, std::int16_t{3}}) {
+    for (const PointPlot kind : {PointPlot::WGS, PointPlot::UGS, PointPlot::XY}) {
         for (const bool manual : {false, true}) {
-            if (manual && kind != 3) continue;
+            if (manual && kind != PointPlot::XY) continue;
             PictureSurface surface({});
-            drawSamplePlot(2, surface, kind, manual);
-            const std::string name = "plot-" + std::to_string(kind) + (manual ? "-manual" : "");
+            drawSamplePlot(SurfaceKind::Screen, surface, kind, manual);
+            const std::string name =
+                "plot-" + std::to_string(static_cast<int>(kind)) + (manual ? "-manual" : "");
             good = save(surface, folder, name) && good;
-            drawSamplePlot(1, paper, kind, manual);
+            drawSamplePlot(SurfaceKind::Printer, paper, kind, manual);
         }
     }
     good = print(paper, folder + "/gallery.pdf") && good;

@@ -176,9 +176,9 @@ private slots:
 
     // Grid lines end 2 hundredths of the span inside the square of 1.1 spans.
     void theGridOfAPlotLiesInThatSquare() {
-        for (const std::int16_t kind : {std::int16_t{1}, std::int16_t{2}, std::int16_t{3}}) {
+        for (const PointPlot kind : {PointPlot::WGS, PointPlot::UGS, PointPlot::XY}) {
             PaperSurface paper;
-            drawSamplePlot(1, paper, kind, false);
+            drawSamplePlot(SurfaceKind::Printer, paper, kind, false);
             const std::vector<Page> pages = printed(paper);
             QCOMPARE(pages.size(), std::size_t{1});
             const double margin = 178.1 * 0.02 / 1.1;
@@ -272,15 +272,55 @@ private slots:
         QVERIFY(near(pages[2].bands().back().bottom, pages[0].bands().back().bottom, 0.1));
     }
 
+    void textOfASheetIsFoundInEachFace() {
+        const std::string line = "Data File = C:\\측량 자료\\현장1.dat  il 37-35-33.2567 가나 다";
+        for (const char* font :
+             {"굴림", "굴림체", "궁서", "궁서체", "돋움", "돋움체", "바탕", "바탕체"}) {
+            PaperSurface paper;
+            printSampleText(paper, "kelvo.tmp", linesOf(line, 1),
+                            {.font = font, .underline = true});
+            const QString found = textOn(paper).simplified();
+            QVERIFY2(found == QString::fromStdString(line).simplified(),
+                     qPrintable(QString(font) + ": " + found));
+        }
+    }
+
+    void turnedTextIsFound() {
+        PaperSurface paper;
+        RecordingMessages messages;
+        NoPrograms programs;
+        clsplot1 object(messages, programs, paper);
+        object.pinitialize(15, 40, 1.3, 1.3, 1, paper);
+        object.ptextR("127-30-15 북 쪽", 50, 50, 90, 12, "바탕체");
+        object.ptextR("127-30-15 동 쪽", 60, 50, 90, 12);
+        const QString found = textOn(paper).simplified();
+        QVERIFY2(found.contains("127-30-15 북 쪽"), qPrintable(found));
+        QVERIFY2(found.contains("127-30-15 동 쪽"), qPrintable(found));
+    }
+
 private:
-    static std::vector<Page> printed(PaperSurface& paper) {
-        const TemporaryFolder folder;
-        const QString pdf = QString::fromStdString(folder.file("sheets.pdf"));
+    static bool print(PaperSurface& paper, const QString& pdf) {
         QPrinter printer(QPrinter::HighResolution);
         setUpPrinter(printer);
         printer.setOutputFormat(QPrinter::PdfFormat);
         printer.setOutputFileName(pdf);
-        if (!paintSheets(printer, paper.takeSheets())) return {};
+        return paintSheets(printer, paper.takeSheets());
+    }
+
+    static QString textOn(PaperSurface& paper) {
+        const TemporaryFolder folder;
+        const QString pdf = QString::fromStdString(folder.file("sheets.pdf"));
+        if (!print(paper, pdf)) return {};
+        QProcess reader;
+        reader.start(QStringLiteral("pdftotext"), {pdf, QStringLiteral("-")});
+        reader.waitForFinished();
+        return QString::fromUtf8(reader.readAllStandardOutput());
+    }
+
+    static std::vector<Page> printed(PaperSurface& paper) {
+        const TemporaryFolder folder;
+        const QString pdf = QString::fromStdString(folder.file("sheets.pdf"));
+        if (!print(paper, pdf)) return {};
         QProcess::execute(
             QStringLiteral("pdftoppm"),
             {QStringLiteral("-gray"), QStringLiteral("-r"), QString::number(kDotsPerInch), pdf,

@@ -22,22 +22,16 @@ public:
     void start(const std::string&) override {}
     void print(const std::string&) override {}
     void setBusy(bool) override {}
-    void showScale(const std::array<std::string, 4>& texts) override { boxes_ = texts; }
-    void SavePcfgFile() override {
-        if (boxes_[0].empty()) return;
-        PlotScale& group = cfg.PlotKind == 1 ? cfg.WGS : cfg.PlotKind == 2 ? cfg.UGS : cfg.XY;
-        const auto read = [this](const std::string& box) {
+    void takeScale(PointPlot drawn, const std::array<std::string, 4>& texts) override {
+        const auto read = [drawn](const std::string& box) {
             const double number = strictNumber(box);
-            return static_cast<float>(cfg.PlotKind == 3 ? number
-                                                        : KelvoSub::DmsToDeg(number).degrees);
+            return static_cast<float>(drawn == PointPlot::XY ? number
+                                                             : KelvoSub::DmsToDeg(number).degrees);
         };
-        group = {read(boxes_[0]), read(boxes_[1]), read(boxes_[2]), read(boxes_[3])};
+        *cfg.scaleOf(drawn) = {read(texts[0]), read(texts[1]), read(texts[2]), read(texts[3])};
     }
 
     PlotCfg cfg;
-
-private:
-    std::array<std::string, 4> boxes_;
 };
 
 // Points along a coast, in grid metres; the angles are near enough for a picture.
@@ -71,7 +65,7 @@ PointTable samplePoints() {
 
 }  // namespace
 
-void drawSamplePlot(int kind, Surface& surface, std::int16_t plotKind, bool manual) {
+void drawSamplePlot(SurfaceKind kind, Surface& surface, PointPlot plotKind, bool manual) {
     Desk desk;
     desk.cfg.PlotKind = plotKind;
     desk.cfg.PlotManual = manual ? 1 : 0;

@@ -1,43 +1,32 @@
 // The window as a person meets it, without a screen.
+#include <QAbstractButton>
+#include <QAccessible>
 #include <QApplication>
-#include <QClipboard>
 #include <QComboBox>
 #include <QDir>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QPlainTextEdit>
+#include <QPrintDialog>
+#include <QPushButton>
 #include <QRadioButton>
+#include <QStatusBar>
 #include <QTest>
 #include <QTimer>
 #include <fstream>
-#include <iterator>
-#include <memory>
 
-#include "common/application_folder.h"
 #include "common/code_page.h"
-#include "desktop/look_of_window.h"
-#include "desktop/main_window.h"
-#include "desktop/text_viewer.h"
-#include "desktop/window_hands.h"
-#include "support/temporary_folder.h"
+#include "desktop/window_case.h"
 
 using namespace kelvo;
 using namespace kelvo::testing;
 using desktop::MainWindow;
 
 namespace {
-
-QString qtText(const std::string& text) {
-    return QString::fromStdString(text);
-}
-
-std::string readBytes(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 // What a widget shows as its caption, the way a person would read it.
 QString captionOf(const QWidget* widget) {
@@ -49,32 +38,10 @@ QString captionOf(const QWidget* widget) {
 
 }  // namespace
 
-class WindowTest : public QObject {
+class WindowTest final : public WindowCase {
     Q_OBJECT
 
 private slots:
-    void init() {
-        folder_ = std::make_unique<TemporaryFolder>();
-        makeApplicationFolder(folder_->path());
-        window_ = std::make_unique<MainWindow>(folder_->path());
-        window_->onFaultReport = [this](const QString& report) { report_ = report; };
-        window_->onSheets = [this](std::vector<desktop::Sheet> sheets) {
-            sheets_ = std::move(sheets);
-        };
-        hands_ = std::make_unique<WindowHands>(*window_);
-        report_.clear();
-        sheets_.clear();
-        QVERIFY(window_->start());
-        window_->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(window_.get()));
-    }
-
-    void cleanup() {
-        hands_.reset();
-        window_.reset();
-        folder_.reset();
-    }
-
     void everyControlHasAWidgetUnderItsName() {
         for (const Control& control : form().controls()) {
             const QString name = qtText(control.name());
@@ -119,6 +86,26 @@ private slots:
         }
     }
 
+    // The frame, so that the title bar is on the screen; 0.88 of the screen are the frame's, too.
+    void theFrameStandsInTheScreensCorner() {
+        const Control* window = form().find("frmKelvo");
+        QCOMPARE(window_->frameGeometry().topLeft(), QPoint(0, 0));
+        QVERIFY(window_->geometry().top() > 0);  // this platform's frames have a title bar
+        QCOMPARE(window_->frameGeometry().size(),
+                 QSize(qRound(window->width() / 15), qRound(window->height() / 15)));
+    }
+
+    void theWindowComesBackWhereItWasLeft() {
+        window_->resize(640, 500);
+        window_->move(60, 70);
+        QApplication::processEvents();
+        const QRect left = window_->frameGeometry();
+        window_->close();
+        MainWindow next(folder_->path());
+        QVERIFY(next.start());
+        QCOMPARE(next.frameGeometry(), left);
+    }
+
     // Every widget lies in the widget of its control's parent, so that panels hide as a whole.
     void everyControlLiesInItsParent() {
         for (const Control& control : form().controls()) {
@@ -127,6 +114,16 @@ private slots:
             if (widget == nullptr || parent == nullptr) continue;
             QVERIFY2(parent->isAncestorOf(widget), qPrintable(qtText(control.name())));
         }
+    }
+
+    void theOnePointPanelSaysWhereItsHeightsComeFrom() {
+        hands_->click("mnuOneOpen");
+        QStringList shown;
+        for (const QLabel* label : window_->book().at("frmeOne")->findChildren<QLabel*>()) {
+            if (label->isVisible()) shown << label->text();
+        }
+        QVERIFY(shown.contains("표고 = 타원체고 - 지오이드고"));
+        QVERIFY(shown.contains("지오이드고는 개략치임"));
     }
 
     void textGoesBothWays() {
@@ -140,6 +137,67 @@ private slots:
             box->selectAll();
             QTest::keyClicks(box, QStringLiteral("37.25"));
             QVERIFY2(control.text() == "37.25", control.name().c_str());
+        }
+    }
+
+    // A separator with a text shows it as the title of what follows.
+    void separatorsHaveNoText() {
+        int separators = 0;
+        for (const QAction* menu : window_->menuBar()->actions()) {
+            for (const QAction* action : menu->menu()->actions()) {
+                if (!action->isSeparator()) continue;
+                ++separators;
+                QVERIFY2(action->text().isEmpty(), qPrintable(action->objectName()));
+            }
+        }
+        QVERIFY(separators >= 5);
+    }
+
+    void aLongPathKeepsItsFileNameInSight() {
+        const QString folders = QStringLiteral("/data/") + QString(120, QLatin1Char('x'));
+        const std::string path = folder_->path() + folders.toStdString() + "/현장1.dat";
+        QVERIFY(QDir().mkpath(qtText(folder_->path()) + folders));
+        std::ofstream(path) << "*\r\nend\r\n";
+        window_->openDataFile(path);
+        window_->resize(700, 500);
+        QApplication::processEvents();
+        const auto* shown = window_->findChild<QLabel*>("frmeFileCaption");
+        QVERIFY2(shown->text().endsWith(QStringLiteral("현장1.dat")), qPrintable(shown->text()));
+        QVERIFY(shown->fontMetrics().horizontalAdvance(shown->text()) <= shown->width());
+        QCOMPARE(shown->toolTip(), qtText(path));
+    }
+
+    void aPrintedDocumentIsNamedAfterItsFile() {
+        folder_->put("data/현장1.dat", "WGS A 37.3533 126.3229 30\r\nend\r\n\r\n");
+        window_->openDataFile(folder_->file("data/현장1.dat"));
+        hands_->click("mnuBatchGo");
+        QCOMPARE(window_->documentName(), QStringLiteral("현장1"));
+        hands_->click("cmdShow");
+        QCOMPARE(window_->documentName(), QStringLiteral("현장1-그림"));
+        hands_->click("mnuCorrShow");
+        QCOMPARE(window_->documentName(), QStringLiteral("kelvo"));
+    }
+
+    void thePrinterSetupIsLeftBySayingItIsFine() {
+        hands_.reset();
+        QStringList captions;
+        QTimer::singleShot(0, window_.get(), [&captions] {
+            QTRY_VERIFY(qobject_cast<QPrintDialog*>(QApplication::activeModalWidget()) != nullptr);
+            auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+            captions << dialog->windowTitle();
+            for (const auto* button : dialog->findChildren<QPushButton*>()) {
+                captions << button->text();
+            }
+            dialog->reject();
+        });
+        window_->book().action("mnuPrinterSelect")->trigger();
+        QVERIFY2(captions.contains(QStringLiteral("Printer설정")), qPrintable(captions.join('|')));
+        QVERIFY2(captions.contains(QStringLiteral("확인(&O)")), qPrintable(captions.join('|')));
+        for (const QString& caption : captions) {
+            QVERIFY2(!caption.contains(QStringLiteral("인쇄")) &&
+                         !caption.contains(QStringLiteral("Print(")) &&
+                         caption != QStringLiteral("&Print"),
+                     qPrintable(caption));
         }
     }
 
@@ -158,39 +216,24 @@ private slots:
         QVERIFY(!hands_->widget<QLineEdit>("txtdS")->isEnabled());
     }
 
-    void enteringABoxSelectsItsTextByTabAndByMouse() {
-        hands_->click("mnuOneOpen");
-        auto* box = hands_->widget<QLineEdit>("txta");
-        box->setFocus(Qt::TabFocusReason);
-        QCOMPARE(box->selectedText(), box->text());
-        hands_->widget<QLineEdit>("txtf")->setFocus(Qt::TabFocusReason);
-        QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
-        QCOMPARE(box->selectedText(), box->text());
-    }
-
-    // The boxes of the first adjustment have no such handler, and that difference is required.
-    void enteringAFirstAdjustmentSelectsNothing() {
-        hands_->click("mnuOneOpen");
-        auto* box = hands_->widget<QLineEdit>("txtdPhi");
-        QVERIFY(!box->text().isEmpty());
-        box->setFocus(Qt::TabFocusReason);
-        QVERIFY(box->selectedText().isEmpty());
-    }
-
-    void tabWalksAlongTheChainOfFrames() {
-        hands_->click("mnuOneOpen");
-        hands_->click("optWdms");
-        hands_->click("optBdms");
-        auto* start = hands_->widget<QLineEdit>("txtWdmsPhi");
-        start->setFocus(Qt::TabFocusReason);
-        QStringList walk;
-        for (int step = 0; step < 8; ++step) {
-            walk << QApplication::focusWidget()->objectName();
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    // Assistive technology toggles a button without clicking it.
+    void optionsAndCheckBoxesToggledFromOutsideReachTheForm() {
+        for (Control& control : form().controls()) {
+            const bool option = control.kind() == ControlKind::OptionButton;
+            if (!option && control.kind() != ControlKind::CheckBox) continue;
+            QWidget* widget = window_->book().at(control.name());
+            QAccessibleInterface* outside = QAccessible::queryAccessibleInterface(widget);
+            QCOMPARE(outside->role(), option ? QAccessible::RadioButton : QAccessible::CheckBox);
+            const bool before = control.value();
+            outside->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+            // An option goes off by another one only.
+            QVERIFY2(control.value() == (option || !before), control.name().c_str());
+            QCOMPARE(qobject_cast<QAbstractButton*>(widget)->isChecked(), control.value());
         }
-        const QStringList expected{"txtWdmsPhi", "txtWdmsLam", "txtWdmsTH", "txtwGeoid",
-                                   "txtwH",      "cmdW2B",     "cmdB2W",    "optBdms"};
-        QCOMPARE(walk, expected);
+        // The last one of each group was toggled last; its handler has run.
+        QVERIFY(form().find("optUser")->value());
+        QVERIFY(form().find("txtLam0")->enabled());
+        QVERIFY(form().find("frmeManual")->enabled());
     }
 
     void everythingOfTheOnePointPanelFitsOnASmallScreen() {
@@ -223,7 +266,7 @@ private slots:
         std::string text;
         for (int line = 0; line < 63; ++line) text += "line\r\n";
         folder_->put("long.dat", text + "end\r\n");
-        window_->openDataFile(qtText(folder_->file("long.dat")));
+        window_->openDataFile(folder_->file("long.dat"));
         // The numbers are on view only after a run has said so.
         hands_->click("mnuBatchGo");
         hands_->type("Richtxt", text);
@@ -281,86 +324,51 @@ private slots:
         QVERIFY(report_.isEmpty());
     }
 
-    void aDroppedDataFileIsOpened() {
+    void aDataFileDroppedAnywhereIsOpened() {
         folder_->put("data/other.dat", "*\r\nend\r\n");
         QMimeData data;
         data.setUrls({QUrl::fromLocalFile(qtText(folder_->file("data/other.dat")))});
-        QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton,
-                              Qt::NoModifier);
-        QApplication::sendEvent(window_.get(), &enter);
-        QVERIFY(enter.isAccepted());
-        QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(window_.get(), &drop);
-        QVERIFY(window_->windowTitle().endsWith("other.dat"));
-        QVERIFY(window_->book().viewer()->text() == "*\r\nend\r\n");
-    }
-
-    void aGroupOfCoordinatesIsCopiedAndPasted() {
         hands_->click("mnuOneOpen");
-        hands_->click("optWdms");
-        QApplication::clipboard()->setText("37.35332567, 126.32293454\t30.1756\n99");
-        QTest::mouseClick(window_->findChild<QWidget*>("paste txtWdmsPhi"), Qt::LeftButton);
-        QCOMPARE(hands_->widget<QLineEdit>("txtWdmsPhi")->text(), QStringLiteral("37.35332567"));
-        QCOMPARE(hands_->widget<QLineEdit>("txtWdmsTH")->text(), QStringLiteral("30.1756"));
-        QTest::mouseClick(window_->findChild<QWidget*>("copy txtWdmsPhi"), Qt::LeftButton);
-        QCOMPARE(QApplication::clipboard()->text(),
-                 QStringLiteral("37.35332567\t126.32293454\t30.1756"));
-        // A closed group takes nothing.
-        const QString before = hands_->widget<QLineEdit>("txtWdegPhi")->text();
-        QTest::mouseClick(window_->findChild<QWidget*>("paste txtWdegPhi"), Qt::LeftButton);
-        QCOMPARE(hands_->widget<QLineEdit>("txtWdegPhi")->text(), before);
+        QPlainTextEdit& editor = window_->book().viewer()->editor();
+        for (QWidget* place : std::initializer_list<QWidget*>{
+                 window_.get(), window_->book().at("txtdX"), editor.viewport()}) {
+            window_->openDataFile(folder_->file("data/test.dat"));
+            drop(place, data);
+            QVERIFY(window_->windowTitle().endsWith("other.dat"));
+            QVERIFY(window_->book().viewer()->text() == "*\r\nend\r\n");
+        }
+        QCOMPARE(hands_->widget<QLineEdit>("txtdX")->text(), QStringLiteral("115.8"));
     }
 
-    void searchFindsOnAndAround() {
+    void aDroppedResultFileIsShown() {
+        folder_->put("data/old.out", "1234\r\n");
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(qtText(folder_->file("data/old.out")))});
+        drop(window_.get(), data);
+        QVERIFY(window_->book().viewer()->text() == readBytes(folder_->file("data/old.out")));
+        QVERIFY(window_->windowTitle().endsWith("test.dat"));  // the data file is the same
+    }
+
+    void textIsStillDroppedIntoTheText() {
         hands_->click("mnuBatchEdit");
-        auto* viewer = window_->book().viewer();
-        viewer->editor().setFocus();
-        QTest::keyClick(&viewer->editor(), Qt::Key_F, Qt::ControlModifier);
-        auto* wanted = window_->findChild<QLineEdit*>("viewerSearch");
-        QVERIFY(wanted->isVisible());
-        wanted->setText("인천No-3");
-        QVERIFY(viewer->findNext(false));
-        const int first = viewer->editor().textCursor().position();
-        QVERIFY(viewer->findNext(false));
-        QVERIFY(viewer->editor().textCursor().position() > first);
-        while (viewer->editor().textCursor().position() > first) QVERIFY(viewer->findNext(false));
-        wanted->setText("없는 글");
-        QVERIFY(!viewer->findNext(false));
+        QMimeData data;
+        data.setText("* 끌어다 놓은 글 ");
+        drop(window_->book().viewer()->editor().viewport(), data);
+        QVERIFY(window_->book().viewer()->text().find("끌어다 놓은 글") != std::string::npos);
     }
 
-    void theViewerGivesBackWhatItCannotShow() {
-        // Bytes that are no letters, a lone line feed at the end of one line, a form feed.
-        const std::string bytes = "*\xFF\x81 \x0C\xA0\r\nend\r\n";
-        folder_->put("data/odd.dat", bytes);
-        window_->openDataFile(qtText(folder_->file("data/odd.dat")));
-        QTextCursor caret(window_->book().viewer()->editor().document());
-        caret.insertText("x");
-        caret.deletePreviousChar();
-        hands_->click("cmdSave");
-        QCOMPARE(readBytes(folder_->file("data/odd.dat")), bytes);
-    }
-
-    void threeMegabytesOpenWhole() {
-        std::string text;
-        for (int line = 0; line < 50000; ++line)
-            text += "* 인천No-3  37.35332567  126.32293454  30.1756  \r\n";
-        folder_->put("data/big.dat", encodeCodePage(text));
-        window_->openDataFile(qtText(folder_->file("data/big.dat")));
-        QApplication::processEvents();
-        QCOMPARE(window_->book().viewer()->editor().document()->blockCount(), 50001);
-    }
-
-    void escapeLeavesThePrintModeAndEnterAcceptsIt() {
+    void aMissingPrintProgramIsReportedInTheStatusLine() {
+        const QByteArray path = qgetenv("PATH");
+        qputenv("PATH", "/nowhere");
+        hands_->click("mnuBatchGo");
         hands_->click("mnuPrintMode");
-        QWidget* panel = window_->book().at("frmePrintMode");
-        QVERIFY(panel->isVisible());
-        window_->book().at("cmbFont")->setFocus();
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
-        QVERIFY(!panel->isVisible());
-        hands_->click("mnuPrintMode");
-        window_->book().at("txtLmr")->setFocus();
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-        QVERIFY(!panel->isVisible());
+        hands_->click("optFast");
+        hands_->click("cmdModeSave");
+        hands_->click("cmdPrint");
+        qputenv("PATH", path);
+        auto* line = window_->findChild<QStatusBar*>();
+        QVERIFY(line != nullptr);
+        QVERIFY(line->currentMessage().contains("lp"));
     }
 
     void closingWritesTheSettings() {
@@ -370,37 +378,21 @@ private slots:
         QVERIFY(readBytes(folder_->file("kelvo.cfg")).find(" .25 ") != std::string::npos);
     }
 
-    void twoWindowsOnOneFolderLeaveItsFilesWhole() {
-        MainWindow other(folder_->path());
-        QVERIFY(other.start());
-        WindowHands otherHands(other);
-        for (int turn = 0; turn < 5; ++turn) {
-            hands_->click("mnuBatchGo");
-            otherHands.click("mnuBatchGo");
-        }
-        window_->close();
-        other.close();
-        const std::string configuration = readBytes(folder_->file("kelvo.cfg"));
-        QCOMPARE(std::count(configuration.begin(), configuration.end(), '\n'), 18);
-        QVERIFY(!QFile::exists(qtText(folder_->file("kelvo.lock"))));
-    }
-
 private:
-    Form& form() { return window_->program().form(); }
-
-    std::unique_ptr<TemporaryFolder> folder_;
-    std::unique_ptr<MainWindow> window_;
-    std::unique_ptr<WindowHands> hands_;
-    QString report_;
-    std::vector<desktop::Sheet> sheets_;
+    static void drop(QWidget* place, const QMimeData& data) {
+        QDragEnterEvent enter(QPoint(4, 4), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(place, &enter);
+        QVERIFY(enter.isAccepted());
+        QDragMoveEvent move(QPoint(4, 4), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(place, &move);
+        QDropEvent drop(QPointF(4, 4), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(place, &drop);
+        QVERIFY(drop.isAccepted());
+    }
 };
 
 int main(int argc, char** argv) {
-    QApplication application(argc, argv);
-    desktop::setUpFonts(application);
-    desktop::setTheme(application, desktop::Theme::Light);
-    WindowTest test;
-    return QTest::qExec(&test, argc, argv);
+    return runWindowCase<WindowTest>(argc, argv);
 }
 
 #include "window_test.moc"

@@ -90,9 +90,9 @@ Value scaleValue(const PlotScale& scale, std::string_view name) {
 
 Value plotValue(const PlotCfg& cfg, std::string_view name) {
     using P = PlotCfg;
-    static const Fields<P, std::int16_t, float> fields{{"PlotKind", &P::PlotKind},
-                                                       {"PlotManual", &P::PlotManual},
+    static const Fields<P, std::int16_t, float> fields{{"PlotManual", &P::PlotManual},
                                                        {"PlotFontSize", &P::PlotFontSize}};
+    if (name == "PlotKind") return text(static_cast<std::int16_t>(cfg.PlotKind));
     const std::size_t point = name.find('.');
     if (point == std::string_view::npos) return fieldOf(cfg, fields, name);
     const std::string_view group = name.substr(0, point);

@@ -1,5 +1,5 @@
 // Each arrow reads its boxes as far as they are a number. So a word after the number changes
-// nothing, a word alone counts as 0, and a number too large is told once for its box.
+// nothing, a word alone counts as 0, and a number too large is reported once for its box.
 #include <map>
 #include <vector>
 

@@ -12,31 +12,26 @@
 namespace kelvo::testing {
 namespace {
 
-// The scale panel without its form: four boxes that are read back into the group of the kind.
+// The scale panel without its form: the texts are read back into the group of the kind drawn.
 class PanelDouble final : public ScalePanel {
 public:
-    PanelDouble(PlotCfg& cfg, Lines& record) : cfg_(cfg), lines_(record), kind(cfg.PlotKind) {}
+    PanelDouble(PlotCfg& cfg, Lines& record) : cfg_(cfg), lines_(record) {}
 
-    void showScale(const std::array<std::string, 4>& texts) override { boxes = texts; }
-
-    void SavePcfgFile() override {
-        lines_.emplace_back("SavePcfgFile");
-        cfg_.PlotKind = kind;
-        PlotScale& group = kind == 1 ? cfg_.WGS : kind == 2 ? cfg_.UGS : cfg_.XY;
-        const auto read = [&](const std::string& box) {
-            if (kind == 3) return strictSingle(box);
+    void takeScale(PointPlot drawn, const std::array<std::string, 4>& texts) override {
+        lines_.emplace_back("takeScale");
+        boxes = texts;
+        const auto read = [drawn](const std::string& box) {
+            if (drawn == PointPlot::XY) return strictSingle(box);
             return static_cast<float>(KelvoSub::DmsToDeg(strictNumber(box)).degrees);
         };
-        group = {read(boxes[0]), read(boxes[1]), read(boxes[2]), read(boxes[3])};
+        *cfg_.scaleOf(drawn) = {read(boxes[0]), read(boxes[1]), read(boxes[2]), read(boxes[3])};
     }
+
+    std::array<std::string, 4> boxes;
 
 private:
     PlotCfg& cfg_;
     Lines& lines_;
-
-public:
-    std::int16_t kind;  // by the option buttons
-    std::array<std::string, 4> boxes;
 };
 
 class PointPlots : public PlotTest {
@@ -45,32 +40,35 @@ protected:
         PointRec& row = points.row(++points.PointCount);
         row.name = name;
         // Each kind of plot has fields of its own; the others hold what would show at once.
-        const bool wgs = cfg.PlotKind == 1;
-        const bool user = cfg.PlotKind == 2;
+        const bool wgs = cfg.PlotKind == PointPlot::WGS;
+        const bool user = cfg.PlotKind == PointPlot::UGS;
         row.WgsPhi = wgs ? N : 1;
         row.WgsLam = wgs ? E : 2;
         row.UserPhi = user ? N : 3;
         row.UserLam = user ? E : 4;
-        row.TmX = cfg.PlotKind == 3 ? N : 5;
-        row.TmY = cfg.PlotKind == 3 ? E : 6;
+        row.TmX = cfg.PlotKind == PointPlot::XY ? N : 5;
+        row.TmY = cfg.PlotKind == PointPlot::XY ? E : 6;
     }
 
-    PlotScale& group() {
-        return cfg.PlotKind == 1 ? cfg.WGS : cfg.PlotKind == 2 ? cfg.UGS : cfg.XY;
-    }
+    PlotScale& group() { return *cfg.scaleOf(cfg.PlotKind); }
 
     // Draws and gives the calls, those of the panel taken out of them.
-    Lines draw(int kind = 2) {
+    Lines draw(SurfaceKind kind = SurfaceKind::Screen) {
         PanelDouble panel(cfg, recorded);
         PlotSource source{points, cfg, panel, texts, messages};
-        kelvo::plot(object, kind, kind == 2 ? screen : printer, source);
+        kelvo::plot(object, kind, kind == SurfaceKind::Screen ? screen : printer, source);
         boxes = panel.boxes;
-        Lines calls = told();
-        saves = std::erase(calls, "SavePcfgFile");
+        Lines calls = drawn();
+        saves = std::erase(calls, "takeScale");
         return calls;
     }
 
-    PlotCfg cfg{.PlotKind = 3, .PlotManual = 0, .PlotFontSize = 8, .WGS = {}, .UGS = {}, .XY = {}};
+    PlotCfg cfg{.PlotKind = PointPlot::XY,
+                .PlotManual = 0,
+                .PlotFontSize = 8,
+                .WGS = {},
+                .UGS = {},
+                .XY = {}};
     PointTable points;
     PlotTexts texts{"/home/user/data/test.dat", "2004-06-07", "09:30:00"};
     std::array<std::string, 4> boxes;
@@ -94,7 +92,7 @@ class GoldenPlots : public PointPlots,
 
 TEST_P(GoldenPlots, IsToldToTheSurfaceCallByCall) {
     std::ifstream file(GetParam());
-    int surfaceKind = 2;
+    SurfaceKind surfaceKind = SurfaceKind::Screen;
     Lines expectedBoxes;
     for (std::string line; std::getline(file, line) && line != ".";) {
         std::istringstream words(line);
@@ -102,10 +100,12 @@ TEST_P(GoldenPlots, IsToldToTheSurfaceCallByCall) {
         words >> word;
         if (word == "kind") {
             words >> word;
-            cfg.PlotKind = word == "WGS" ? 1 : word == "UGS" ? 2 : 3;
+            cfg.PlotKind = word == "WGS"   ? PointPlot::WGS
+                           : word == "UGS" ? PointPlot::UGS
+                                           : PointPlot::XY;
         } else if (word == "surface") {
             words >> word;
-            surfaceKind = word == "printer" ? 1 : 2;
+            surfaceKind = word == "printer" ? SurfaceKind::Printer : SurfaceKind::Screen;
         } else if (word == "size") {
             words >> cfg.PlotFontSize;
         } else if (word == "manual") {
@@ -210,7 +210,7 @@ TEST_F(PointPlots, NarrowAxisOfAnAnglePlotIsCentredToTheNearestInterval) {
 }
 
 TEST_F(PointPlots, ThousandSecondsAreDrawnToTheLastGridLine) {
-    cfg.PlotKind = 1;
+    cfg.PlotKind = PointPlot::WGS;
     addPoint("A", 37.25, 127.0);
     addPoint("B", 37.25 + 1000.0 / 3600, 127.0);
     const auto lines = draw();
@@ -227,16 +227,18 @@ TEST_F(PointPlots, SevenDigitNorthIsShownWhole) {
 }
 
 TEST_F(PointPlots, ManualScaleAfterAnAutomaticPlotDrawsTheSamePicture) {
-    for (const std::int16_t kind : std::initializer_list<std::int16_t>{1, 2, 3}) {
+    for (const PointPlot kind : {PointPlot::WGS, PointPlot::UGS, PointPlot::XY}) {
         points.PointCount = 0;
         cfg.PlotKind = kind;
         cfg.PlotManual = 0;
-        addPoint("A", kind == 3 ? 453211.376 : 37.12345, kind == 3 ? 198765.432 : 127.12345);
-        addPoint("B", kind == 3 ? 453311.376 : 37.12545, kind == 3 ? 198785.432 : 127.12445);
+        addPoint("A", kind == PointPlot::XY ? 453211.376 : 37.12345,
+                 kind == PointPlot::XY ? 198765.432 : 127.12345);
+        addPoint("B", kind == PointPlot::XY ? 453311.376 : 37.12545,
+                 kind == PointPlot::XY ? 198785.432 : 127.12445);
         draw();  // the first plot sets the pen that the others find
         const auto automatic = draw();
         cfg.PlotManual = 1;
-        EXPECT_EQ(draw(), automatic) << kind;
+        EXPECT_EQ(draw(), automatic) << static_cast<int>(kind);
         EXPECT_EQ(saves, 0U);
     }
 }
@@ -245,26 +247,15 @@ TEST_F(PointPlots, BindingComesFirstThenTheScaleThenTheDrawing) {
     addPoint("A", 453211.376, 198765.432);
     PanelDouble panel(cfg, recorded);
     PlotSource source{points, cfg, panel, texts, messages};
-    kelvo::plot(object, 2, screen, source);
-    const auto lines = told();
+    kelvo::plot(object, SurfaceKind::Screen, screen, source);
+    const auto lines = drawn();
     ASSERT_GT(lines.size(), 5U);
     EXPECT_EQ(Lines(lines.begin(), lines.begin() + 4),
-              (Lines{"ForeColor = 0", "Font = 굴림체", "SavePcfgFile", "Cls"}));
-}
-
-TEST_F(PointPlots, KindThatStandsBeforeSavingIsTheOneDrawn) {
-    addPoint("A", 453211.376, 198765.432);
-    PanelDouble panel(cfg, recorded);
-    panel.kind = 1;  // the option button says otherwise
-    PlotSource source{points, cfg, panel, texts, messages};
-    kelvo::plot(object, 2, screen, source);
-    EXPECT_EQ(cfg.PlotKind, 1);
-    EXPECT_EQ(cfg.XY.Inter, 5);
-    EXPECT_GT(countOf(told(), "print  4532"), 0);
+              (Lines{"ForeColor = 0", "Font = 굴림체", "takeScale", "Cls"}));
 }
 
 TEST_F(PointPlots, UnknownKindDrawsNothing) {
-    cfg.PlotKind = 4;
+    cfg.PlotKind = PointPlot{4};
     EXPECT_EQ(draw(), (Lines{"ForeColor = 0", "Font = 굴림체"}));
 }
 
@@ -272,7 +263,7 @@ TEST_F(PointPlots, PaperPlotEndsTheJobBeforeAndAfter) {
     cfg.PlotManual = 1;
     cfg.XY = {500000, 200000, 1000, 200};
     addPoint("A", 500100, 200100);
-    const auto lines = draw(1);
+    const auto lines = draw(SurfaceKind::Printer);
     EXPECT_EQ(countOf(lines, "EndDoc"), 2);
     EXPECT_EQ(lines[2], "EndDoc");
     EXPECT_EQ(lines.back(), "EndDoc");

@@ -1,4 +1,4 @@
-#include "panels/scale_panel.h"
+#include "panels/plot_settings_panel.h"
 #include "shell/window_bench.h"
 
 namespace kelvo {
@@ -72,7 +72,7 @@ TEST_F(PlotSettings, SavingTakesTheBoxesIntoTheKindThatIsOn) {
     kelvo.type("txtInter", "0.001");
     kelvo.type("txtFontSize", "10");
     kelvo.click("cmdPlot");
-    EXPECT_EQ(kelvo.plotCfg().PlotKind, 2);
+    EXPECT_EQ(kelvo.plotCfg().PlotKind, PointPlot::UGS);
     EXPECT_EQ(kelvo.plotCfg().PlotManual, 1);
     EXPECT_EQ(kelvo.plotCfg().UGS.Xb, 37.5F);
     EXPECT_EQ(kelvo.plotCfg().UGS.Yb, 127.25F);
@@ -104,7 +104,7 @@ TEST_F(PlotSettings, LineCutShortIsReplacedAndKeepsTheScalesReadBefore) {
     Program& kelvo = startWith(" 1 \r\n 1 \r\n 7 \r\n 37.5  127.25  .5  .125 \r\n 36.5  128 \r\n");
     EXPECT_EQ(kelvo.plotCfg().WGS.Yb, 127.25F);
     EXPECT_EQ(kelvo.plotCfg().UGS.Xb, 36.5F);
-    EXPECT_EQ(kelvo.plotCfg().PlotKind, 3);
+    EXPECT_EQ(kelvo.plotCfg().PlotKind, PointPlot::XY);
     EXPECT_EQ(disk.bytes(kPlotCfg),
               " 3 \r\n 0 \r\n 8 \r\n 37.5  127.25  .5  .125 \r\n 36.5  128  0  0 \r\n"
               " 0  0  0  0 \r\n");
@@ -130,8 +130,66 @@ TEST_F(PlotSettings, UnknownKindLeavesTheLastOfTheThree) {
     Program& kelvo =
         startWith(" 7 \r\n 0 \r\n 8 \r\n 1  2  3  4 \r\n 1  2  3  4 \r\n 1  2  3  4 \r\n");
     EXPECT_TRUE(kelvo.on("optXY"));
-    EXPECT_EQ(kelvo.plotCfg().PlotKind, 7);
+    EXPECT_EQ(kelvo.plotCfg().PlotKind, PointPlot{7});
 }
+
+// Choosing a kind shows its scale in the boxes; only 적용 makes it the kind that is drawn. Until
+// then whatever draws works for the other kind and leaves the panel alone.
+class ChosenButNotApplied : public PlotSettings,
+                            public ::testing::WithParamInterface<std::pair<int, const char*>> {
+protected:
+    static std::string fileOf(int kind) {
+        return " " + std::to_string(kind) +
+               " \r\n 0 \r\n 8 \r\n 37.5  127.25  .5  .125 \r\n 36.5  128  .25  .0625 \r\n"
+               " 500000  200000  1000  200 \r\n";
+    }
+    static bool same(const PlotScale& one, const PlotScale& other) {
+        return one.Xb == other.Xb && one.Yb == other.Yb && one.Span == other.Span &&
+               one.Inter == other.Inter;
+    }
+};
+
+TEST_P(ChosenButNotApplied, KindLeavesPanelFileAndTheOtherScalesAlone) {
+    const auto [drawn, chosen] = GetParam();
+    disk.putText("/app/data/a.dat",
+                 "WGS A 37.35332567 126.32293454 30\r\n    B 37.35342567 126.32303454 30\r\n"
+                 "end\r\n \r\n");
+    Program& kelvo = startWith(fileOf(drawn));
+    kelvo.click("mnuBatchGo");
+    kelvo.click(chosen);
+    const PlotCfg before = kelvo.plotCfg();
+    std::vector<std::string> boxes;
+    for (const char* name : {"txtXb", "txtYb", "txtSpan", "txtInter"})
+        boxes.push_back(kelvo.text(name));
+    for (const char* command : {"cmdShow", "cmdPrint"}) {
+        SCOPED_TRACE(command);
+        kelvo.click(command);
+        std::size_t box = 0;
+        for (const char* name : {"txtXb", "txtYb", "txtSpan", "txtInter"})
+            EXPECT_EQ(kelvo.text(name), boxes[box++]) << name;
+        EXPECT_TRUE(kelvo.on(chosen));
+        const PlotCfg& now = kelvo.plotCfg();
+        EXPECT_EQ(static_cast<int>(now.PlotKind), drawn);
+        EXPECT_EQ(same(now.WGS, before.WGS), drawn != 1);
+        EXPECT_EQ(same(now.UGS, before.UGS), drawn != 2);
+        EXPECT_EQ(same(now.XY, before.XY), drawn != 3);
+        EXPECT_EQ(disk.bytes(kPlotCfg), fileOf(drawn));
+    }
+    // One second of arc, and 20 m for its 31 m, as the boxes of the kind drawn would have shown
+    // them.
+    const PlotCfg& now = kelvo.plotCfg();
+    if (drawn == 1) {
+        EXPECT_EQ(now.WGS.Inter, 1.0F / 3600);
+        EXPECT_EQ(now.WGS.Xb, static_cast<float>(37 + 35.0 / 60 + 33.0 / 3600));
+    }
+    EXPECT_EQ(now.UGS.Inter, drawn == 2 ? 1.0F / 3600 : .0625F);
+    EXPECT_EQ(now.XY.Inter, drawn == 3 ? 20.0F : 200.0F);
+}
+
+INSTANTIATE_TEST_SUITE_P(Kinds, ChosenButNotApplied,
+                         ::testing::Values(std::pair{3, "optWGS"}, std::pair{3, "optUGS"},
+                                           std::pair{1, "optUGS"}, std::pair{1, "optXY"},
+                                           std::pair{2, "optWGS"}, std::pair{2, "optXY"}));
 
 TEST_F(PlotSettings, BoxesSelectThemselvesOnEntry) {
     Program& kelvo = start();

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <charconv>
+#include <type_traits>
 
 #include "common/fixed_width.h"
 #include "support/escape.h"
@@ -24,103 +25,53 @@ std::string joined(const Words&... words) {
     return line;
 }
 
-}  // namespace
-
-void RecordingSurface::member(const std::string& name, const std::string& value) {
-    sink_(name + " = " + value);
+std::string textOf(const SurfaceValue& value) {
+    return std::visit(
+        []<class Value>(const Value& held) {
+            if constexpr (std::is_same_v<Value, std::string>) {
+                return escaped(held);
+            } else if constexpr (std::is_same_v<Value, double>) {
+                return decimals4(held);
+            } else {
+                return std::to_string(static_cast<int>(held));
+            }
+        },
+        value);
 }
 
-void RecordingSurface::member(const std::string& name, int value) {
-    member(name, std::to_string(value));
+// In the order of the members.
+constexpr std::array kMemberNames{"ForeColor",     "BackColor", "FillColor",  "FillStyle",
+                                  "DrawMode",      "DrawWidth", "ScaleMode",  "Font",
+                                  "fontsize",      "FontBold",  "FontItalic", "FontStrikethru",
+                                  "FontUnderline", "CurrentX",  "CurrentY",   "Orientation"};
+static_assert(kMemberNames.size() == static_cast<std::size_t>(SurfaceMember::Orientation) + 1);
+
+}  // namespace
+
+void RecordingSurface::write(SurfaceMember member, const SurfaceValue& value) {
+    sink_(std::string(kMemberNames[static_cast<std::size_t>(member)]) + " = " + textOf(value));
+    assign(members_, member, value);
 }
 
 void RecordingSurface::Line(double x1, double y1, double x2, double y2, std::int32_t colour,
-                            int form) {
+                            LineForm form) {
     sink_(joined(std::string("Line"), decimals4(x1), decimals4(y1), decimals4(x2), decimals4(y2),
-                 std::to_string(colour), std::to_string(form)));
+                 std::to_string(colour), std::to_string(static_cast<int>(form))));
 }
 
 void RecordingSurface::Circle(double x, double y, double radius, std::int32_t colour, double start,
-                              double end, double aspect, int form) {
+                              double end, double aspect, CircleForm form) {
     sink_(joined(std::string("Circle"), decimals4(x), decimals4(y), decimals4(radius),
                  std::to_string(colour), decimals4(start), decimals4(end), decimals4(aspect),
-                 std::to_string(form)));
-}
-
-void RecordingSurface::setForeColor(std::int32_t colour) {
-    member("ForeColor", colour);
-    foreColor_ = colour;
-}
-
-void RecordingSurface::setBackColor(std::int32_t colour) {
-    member("BackColor", colour);
-    backColor_ = colour;
-}
-
-void RecordingSurface::setFillColor(std::int32_t colour) {
-    member("FillColor", colour);
-    fillColor_ = colour;
-}
-
-void RecordingSurface::setFillStyle(int style) {
-    member("FillStyle", style);
-    fillStyle_ = style;
-}
-
-void RecordingSurface::setDrawMode(int mode) {
-    member("DrawMode", mode);
-    drawMode_ = mode;
-}
-
-void RecordingSurface::setDrawWidth(double pixels) {
-    member("DrawWidth", decimals4(pixels));
-}
-
-void RecordingSurface::setScaleMode(int mode) {
-    member("ScaleMode", mode);
-}
-
-void RecordingSurface::setFont(const std::string& face) {
-    member("Font", escaped(face));
-    face_ = face;
-}
-
-void RecordingSurface::setFontsize(double points) {
-    member("fontsize", decimals4(points));
-    fontsize_ = points;
-}
-
-void RecordingSurface::setFontBold(bool on) {
-    member("FontBold", on ? 1 : 0);
-    bold_ = on;
-}
-
-void RecordingSurface::setFontItalic(bool on) {
-    member("FontItalic", on ? 1 : 0);
-}
-
-void RecordingSurface::setFontStrikethru(bool on) {
-    member("FontStrikethru", on ? 1 : 0);
-}
-
-void RecordingSurface::setFontUnderline(bool on) {
-    member("FontUnderline", on ? 1 : 0);
+                 std::to_string(static_cast<int>(form))));
 }
 
 double RecordingSurface::TextHeight(std::string_view /*text*/) const {
-    return 20 * fontsize_;
+    return 20 * members_.fontsize;
 }
 
 double RecordingSurface::TextWidth(std::string_view text) const {
-    return 10 * fontsize_ * genSub::DisplayLen(text);
-}
-
-void RecordingSurface::setCurrentX(double x) {
-    member("CurrentX", decimals4(x));
-}
-
-void RecordingSurface::setCurrentY(double y) {
-    member("CurrentY", decimals4(y));
+    return 10 * members_.fontsize * genSub::DisplayLen(text);
 }
 
 void RecordingSurface::print(std::string_view text) {
@@ -139,20 +90,13 @@ void RecordingSurface::NewPage() {
     sink_("NewPage");
 }
 
-void RecordingSurface::setOrientation(int orientation) {
-    member("Orientation", orientation);
-}
-
 double RecordingSurface::TwipsPerPixelX() const {
     return kind_ == Kind::Screen ? 15 : 2.4;
 }
 
-int RecordingSurface::GetDeviceCaps(int index) const {
-    constexpr int kPlanes = 14;
-    constexpr int kPixelsPerInchHigh = 90;
-    if (index == kPlanes) return colourPlanes;
-    if (index == kPixelsPerInchHigh) return kind_ == Kind::Screen ? 96 : 600;
-    return 0;
+int RecordingSurface::GetDeviceCaps(DeviceCap index) const {
+    if (index == DeviceCap::ColourPlanes) return colourPlanes;
+    return kind_ == Kind::Screen ? 96 : 600;
 }
 
 void RecordingSurface::CreateFontIndirectA(const LogicalFont& font) {
@@ -161,7 +105,7 @@ void RecordingSurface::CreateFontIndirectA(const LogicalFont& font) {
                  std::to_string(font.lfCharSet), escaped(font.lfFaceName)));
 }
 
-void RecordingSurface::SelectCreatedFont() {
+void RecordingSurface::SelectObject(SelectedFont /*font*/) {
     sink_("SelectObject");
 }
 
@@ -170,11 +114,7 @@ void RecordingSurface::TextOutA(std::int32_t x, std::int32_t y, std::string_view
                  std::to_string(length), escaped(text)));
 }
 
-void RecordingSurface::SelectOldFont() {
-    sink_("SelectObject");
-}
-
-void RecordingSurface::DeleteCreatedFont() {
+void RecordingSurface::DeleteObject() {
     sink_("DeleteObject");
 }
 

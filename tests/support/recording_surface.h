@@ -20,68 +20,36 @@ public:
 
     RecordingSurface(Kind kind, LineSink sink) : kind_(kind), sink_(std::move(sink)) {}
 
-    void Line(double x1, double y1, double x2, double y2, std::int32_t colour, int form) override;
+    void Line(double x1, double y1, double x2, double y2, std::int32_t colour,
+              LineForm form) override;
     void Circle(double x, double y, double radius, std::int32_t colour, double start, double end,
-                double aspect, int form) override;
+                double aspect, CircleForm form) override;
 
-    [[nodiscard]] std::int32_t ForeColor() const override { return foreColor_; }
-    void setForeColor(std::int32_t colour) override;
-    [[nodiscard]] std::int32_t BackColor() const override { return backColor_; }
-    void setBackColor(std::int32_t colour) override;
-    [[nodiscard]] std::int32_t FillColor() const override { return fillColor_; }
-    void setFillColor(std::int32_t colour) override;
-    [[nodiscard]] int FillStyle() const override { return fillStyle_; }
-    void setFillStyle(int style) override;
-    [[nodiscard]] int DrawMode() const override { return drawMode_; }
-    void setDrawMode(int mode) override;
-    void setDrawWidth(double pixels) override;
-    void setScaleMode(int mode) override;
+    [[nodiscard]] const SurfaceMembers& members() const override { return members_; }
+    void write(SurfaceMember member, const SurfaceValue& value) override;
 
-    void setFont(const std::string& face) override;
-    [[nodiscard]] std::string FontName() const override { return face_; }
-    [[nodiscard]] int FontWeight() const override { return bold_ ? 700 : 400; }
-    [[nodiscard]] double fontsize() const override { return fontsize_; }
-    void setFontsize(double points) override;
-    void setFontBold(bool on) override;
-    void setFontItalic(bool on) override;
-    void setFontStrikethru(bool on) override;
-    void setFontUnderline(bool on) override;
     [[nodiscard]] double TextHeight(std::string_view text) const override;
     [[nodiscard]] double TextWidth(std::string_view text) const override;
-    void setCurrentX(double x) override;
-    void setCurrentY(double y) override;
     void print(std::string_view text) override;
 
     void Cls() override;
     void EndDoc() override;
     void NewPage() override;
-    void setOrientation(int orientation) override;
     [[nodiscard]] double TwipsPerPixelX() const override;
     [[nodiscard]] double TwipsPerPixelY() const override { return TwipsPerPixelX(); }
 
-    [[nodiscard]] int GetDeviceCaps(int index) const override;
+    [[nodiscard]] int GetDeviceCaps(DeviceCap index) const override;
     void CreateFontIndirectA(const LogicalFont& font) override;
-    void SelectCreatedFont() override;
+    void SelectObject(SelectedFont font) override;
     void TextOutA(std::int32_t x, std::int32_t y, std::string_view text, int length) override;
-    void SelectOldFont() override;
-    void DeleteCreatedFont() override;
+    void DeleteObject() override;
 
     int colourPlanes = 1;  // what GetDeviceCaps 14 answers
 
 private:
-    void member(const std::string& name, const std::string& value);
-    void member(const std::string& name, int value);
-
     Kind kind_;
     LineSink sink_;
-    std::int32_t foreColor_ = 0;
-    std::int32_t backColor_ = 16777215;
-    std::int32_t fillColor_ = 0;
-    int fillStyle_ = 1;
-    int drawMode_ = 13;
-    std::string face_;
-    bool bold_ = false;
-    double fontsize_ = 9;
+    SurfaceMembers members_;
 };
 
 }  // namespace kelvo::testing
