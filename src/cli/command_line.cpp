@@ -107,7 +107,8 @@ std::vector<std::string> argumentsOfProcess([[maybe_unused]] int argc,
 }
 
 std::string usageText() {
-    return "usage: kelvo-batch [--app-folder DIR] [--quiet] [--check] [--export FILE] DATA.dat...\n";
+    return "usage: kelvo-batch [--app-folder DIR] [--quiet] [--check] [--export FILE] "
+           "DATA.dat...\n";
 }
 
 std::string helpText() {
