@@ -4,17 +4,19 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
-#include <QFile>
 #include <QMenuBar>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QStatusBar>
 #include <QToolButton>
+#include <chrono>
 #include <cmath>
 
 #include "common/code_page.h"
 #include "desktop/fault_report.h"
 #include "desktop/file_drop.h"
 #include "desktop/menu_keys.h"
+#include "desktop/native_paths.h"
 #include "desktop/text_viewer.h"
 
 namespace kelvo::desktop {
@@ -28,12 +30,15 @@ constexpr int kEntryOpen = 2;  // mnuFileItem(2): 기존파일 열기
 
 MainWindow::MainWindow(const std::string& applicationFolder)
     : applicationFolder_(applicationFolder),
-      lock_(qt(applicationFolder)),
       messages_(dialogParent_),
-      dialogs_(dialogParent_, [this]() -> QPrinter& { return systemPrinter(); }) {
+      dialogs_(dialogParent_, [this]() -> QPrinter& { return systemPrinter(); }),
+      rawPrinter_([this](const QString& text) { tellInStatusLine(text); }),
+      alarm_(gate_),
+      journal_(applicationFolder),
+      unsavedTextBar_(new UnsavedTextBar(this)) {
     setObjectName(QStringLiteral("frmKelvo"));
     setAccessibleDescription(QStringLiteral("frmKelvo"));
-    dialogParent_ = {this, &lock_};
+    dialogParent_.window = this;
     gate_.before = [this](EventGate::Event event) { beforeEvent(event); };
     gate_.after = [this](EventGate::Event event) { afterEvent(event); };
     gate_.onFault = [this](int number, const std::string& text) { reportFault(number, text); };
@@ -48,7 +53,9 @@ MainWindow::MainWindow(const std::string& applicationFolder)
                                                                       .screen = primaryScreen_,
                                                                       .pointer = pointer_,
                                                                       .surfaces = *this,
-                                                                      .programEnd = end_});
+                                                                      .programEnd = end_,
+                                                                      .alarm = alarm_,
+                                                                      .journal = journal_});
     stage_ = new PanelStage;
     setCentralWidget(stage_);
     book_ = std::make_unique<WidgetBook>(program_->form(), gate_, *menuBar(), stage_);
@@ -57,7 +64,9 @@ MainWindow::MainWindow(const std::string& applicationFolder)
     addShortcuts();
     leadIntoMenus(*menuBar());
     addThemeButton();
-    new FileDrop(*this, [this](const QStringList& paths) { openFiles(paths); });
+    new FileDrop(*this, [this](const std::vector<std::string>& paths) { openFiles(paths); });
+    watchUnsavedText();
+    addBringBack();
 }
 
 MainWindow::~MainWindow() {
@@ -142,6 +151,7 @@ bool MainWindow::start() {
     gate_.run([this] { Main(*program_); });
     if (gate_.isClosed()) return false;
     place_.restore(QSettings(settingsFile(), QSettings::IniFormat));
+    offerUnsavedText();
     show();
     return true;
 }
@@ -150,22 +160,21 @@ QString MainWindow::settingsFile() const {
     return QDir(qt(applicationFolder_)).filePath(QStringLiteral("window.ini"));
 }
 
-void MainWindow::openDataFile(const QString& path) {
+void MainWindow::openDataFile(const std::string& path) {
     gate_.run([this, &path] {
-        dialogs_.chooseNext(QDir::toNativeSeparators(path).toStdString());
+        dialogs_.chooseNext(path);
         program_->form().find("mnuFileItem")->clickEntry(kEntryOpen);
     });
     dialogs_.forgetChosen();
 }
 
-void MainWindow::openResultFile(const QString& path) {
-    gate_.run(
-        [this, &path] { program_->OpenRichText(QDir::toNativeSeparators(path).toStdString()); });
+void MainWindow::openResultFile(const std::string& path) {
+    gate_.run([this, &path] { program_->OpenRichText(path); });
 }
 
-void MainWindow::openFiles(const QStringList& paths) {
-    const QString& path = paths.first();
-    if (path.endsWith(QLatin1String(".dat"), Qt::CaseInsensitive)) {
+void MainWindow::openFiles(const std::vector<std::string>& paths) {
+    const std::string& path = paths.front();
+    if (qt(path).endsWith(QLatin1String(".dat"), Qt::CaseInsensitive)) {
         openDataFile(path);
     } else {
         openResultFile(path);
@@ -175,11 +184,13 @@ void MainWindow::openFiles(const QStringList& paths) {
 void MainWindow::beforeEvent(EventGate::Event event) {
     if (event == EventGate::Event::Typing) return;
     book_->takeViewerText();
-    lock_.take();
 }
 
-void MainWindow::afterEvent(EventGate::Event event) {
-    if (event == EventGate::Event::Command) lock_.release();
+void MainWindow::afterEvent(EventGate::Event /*event*/) {
+    if (dialogParent_.nobodyAnswers && !end_.hasEnded()) {
+        // The end was wanted while this event was on its way.
+        QMetaObject::invokeMethod(this, &MainWindow::endWithoutAsking, Qt::QueuedConnection);
+    }
     if (end_.hasEnded()) {
         gate_.close();
         QApplication::exit(0);
@@ -190,20 +201,17 @@ void MainWindow::afterEvent(EventGate::Event event) {
     if (paper_.sheetsAreWaiting()) printWaitingSheets();
 }
 
-bool MainWindow::textIsSaved() const {
-    QFile file(filePanel_.path->wholeText());
-    if (!file.open(QIODevice::ReadOnly)) return false;
-    const std::string bytes = encodeCodePage(book_->viewer()->text());
-    if (file.size() != static_cast<qint64>(bytes.size())) return false;
-    return file.readAll() ==
-           QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
+void MainWindow::tellInStatusLine(const QString& text) {
+    constexpr std::chrono::milliseconds kLongEnoughToRead{20'000};
+    statusBar()->showMessage(text, static_cast<int>(kLongEnoughToRead.count()));
 }
 
 // The mark says that the text differs from the file it came from; nothing is ever asked.
 void MainWindow::showUnsavedMark() {
     TextViewer* viewer = book_->viewer();
-    if (viewer->isModified() && !viewer->hasUntakenText() && textIsSaved()) {
-        viewer->setModified(false);
+    if (!viewer->hasUntakenText()) {
+        const bool unsaved = program_->textIsUnsaved();
+        if (viewer->isModified() != unsaved) viewer->setModified(unsaved);
     }
     filePanel_.unsavedMark->setVisible(viewer->isModified());
 }

@@ -7,15 +7,19 @@
 #include <string>
 
 #include "desktop/event_gate.h"
+#include "desktop/fault_report.h"
 #include "desktop/look_of_window.h"
 #include "desktop/panel_layouts.h"
 #include "desktop/panel_stage.h"
 #include "desktop/paper_surface.h"
 #include "desktop/plot_view.h"
 #include "desktop/screen_services.h"
+#include "desktop/timer_alarm.h"
+#include "desktop/unsaved_text_bar.h"
 #include "desktop/widget_book.h"
 #include "desktop/window_place.h"
 #include "shell/frm_kelvo.h"
+#include "shell/journal_folder.h"
 
 namespace kelvo::desktop {
 
@@ -30,13 +34,21 @@ public:
     // Runs Main and shows the window. False if a fault ended the start.
     bool start();
 
-    // Does what choosing this data file in the open dialog does.
-    void openDataFile(const QString& path);
+    // Does what choosing this data file in the open dialog does. The name is the system's, of any
+    // bytes.
+    void openDataFile(const std::string& path);
     // Shows what a run has written.
-    void openResultFile(const QString& path);
+    void openResultFile(const std::string& path);
 
     // What a printed document is called, and the file that it is printed into: no path, no ending.
     [[nodiscard]] QString documentName() const;
+
+    // Ends as closing does, but asks and shows nothing: what is unsaved waits for the next start,
+    // and what a box asks is cancelled. For a session that ends and a terminal that goes.
+    void endWithoutAsking();
+
+    // Puts away what is unsaved, and the settings as far as they can be, and goes on.
+    void prepareForTheEnd();
 
     [[nodiscard]] frmKelvo& program() { return *program_; }
     [[nodiscard]] WidgetBook& book() { return *book_; }
@@ -56,7 +68,7 @@ private:
     Surface& screen() override;
     Surface& printer() override { return paper_; }
 
-    void openFiles(const QStringList& paths);
+    void openFiles(const std::vector<std::string>& paths);
     void buildPanels();
     void bindWindow();
     void addShortcuts();
@@ -64,7 +76,12 @@ private:
     void beforeEvent(EventGate::Event event);
     void afterEvent(EventGate::Event event);
     void showUnsavedMark();
-    [[nodiscard]] bool textIsSaved() const;
+    void tellInStatusLine(const QString& text);
+    void watchUnsavedText();
+    void addBringBack();
+    void keepUnsavedText();
+    void offerUnsavedText();
+    [[nodiscard]] Rescued rescueUnsavedText();
     void reportFault(int number, const std::string& text);
     void printWaitingSheets();
     [[nodiscard]] QPrinter& systemPrinter();
@@ -72,7 +89,6 @@ private:
 
     std::string applicationFolder_;
     EventGate gate_;
-    FolderLock lock_;
     DialogParent dialogParent_;
     PaperSurface paper_;
     std::unique_ptr<QPrinter> printer_;  // asked for late: looking for printers takes its time
@@ -87,12 +103,16 @@ private:
     PrimaryScreen primaryScreen_;
     OverridePointer pointer_;
     WindowEnd end_;
+    TimerAlarm alarm_;
+    JournalFolder journal_;
 
     std::unique_ptr<frmKelvo> program_;
     std::unique_ptr<WidgetBook> book_;
     PanelStage* stage_ = nullptr;
     WindowPlace place_{*this};
     FilePanel filePanel_;
+    UnsavedTextBar* unsavedTextBar_;
+    QTimer latestTake_;  // of text typed without a pause
 };
 
 }  // namespace kelvo::desktop
