@@ -4,18 +4,21 @@
 #include <new>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "batch/run_batch.h"
 #include "cli/check_files.h"
 #include "cli/command_line.h"
 #include "cli/progress_bar.h"
 #include "cli/shared_files.h"
+#include "cli/table_export.h"
 #include "common/application_folder.h"
 #include "common/disk.h"
 #include "common/paths.h"
 #include "common/run_time_fault.h"
 #include "common/shown_line.h"
 #include "common/standard_streams.h"
+#include "exchange/load_point_files.h"
 
 #ifdef _WIN32
 #include <windows.h>
@@ -122,6 +125,36 @@ void tidyUp(Disk& disk, const CommandLine& line, const std::string& folder) {
     for (const std::string& name : folders) disk.tidy(name);
 }
 
+// True if every file that was asked for is written.
+bool exportAll(const PointTable& points, const std::vector<std::string>& paths,
+               StandardError& error) {
+    bool good = true;
+    for (const std::string& path : paths) {
+        try {
+            exportTables(points, path);
+        } catch (const ExchangeFault& fault) {
+            error.line(std::string("export: ") + fault.what());
+            good = false;
+        }
+    }
+    return good;
+}
+
+// Why the exports can't take place, looked at before the run; empty if nothing stands against them.
+std::string complaintOfExports(const CommandLine& line) {
+    PlatformDisk disk;
+    for (const std::string& path : line.exports) {
+        if (disk.sameFile(path, line.dataFiles.front()))
+            return "--export and the data file are the same file (" + path + ")";
+    }
+    try {
+        if (!line.exports.empty()) static_cast<void>(loadPointFiles());
+    } catch (const ExchangeFault& fault) {
+        return fault.what();
+    }
+    return {};
+}
+
 // Every file is a run of its own: nothing of one shows in another.
 int runAll(const CommandLine& line, const std::string& folder, StandardError& error,
            ProgressBar& bar) {
@@ -146,7 +179,9 @@ int runAll(const CommandLine& line, const std::string& folder, StandardError& er
             .dataFile = data, .detPath = several ? detailBeside(data) : detail, .CorPath = known};
         const auto state = std::make_unique<ConversionState>();
         last = {};
-        good &= ends([&] { RunBatch(*state, places, last, disk, messages); }, error);
+        const bool ended = ends([&] { RunBatch(*state, places, last, disk, messages); }, error);
+        good &= ended;
+        if (ended) good &= exportAll(state->points, line.exports, error);
     }
     // As ever, kelvo.det is that of the last run, also where a fault ended it.
     const std::string lastDetail = detailBeside(line.dataFiles.back());
@@ -191,6 +226,10 @@ int runCommand(int argc, char** argv) {
     if (line.wish == CommandLine::Wish::Version) {
         print(stdout, "kelvo-batch " KELVO_VERSION "\n");
         return kRunEnded;
+    }
+    if (const std::string complaint = complaintOfExports(line); !complaint.empty()) {
+        print(stderr, shownLine("kelvo-batch: " + complaint) + "\n");
+        return kWrongUsage;
     }
     const bool checks = line.wish == CommandLine::Wish::Check;
     ProgressBar bar(line.dataFiles.size(), !line.quiet && !checks &&
