@@ -14,16 +14,16 @@ namespace {
 constexpr std::size_t kWriteBuffer = 32768;
 constexpr int kEndOfFile = -1;
 
-bool isLineEnd(char c) {
-    return c == '\r' || c == '\n';
-}
-
 void closeQuietly(ByteWriter& file) {
     try {
         file.close();
     } catch (const RuntimeFault&) {
         // Another fault is on its way; a late failure of this file adds nothing to it.
     }
+}
+
+bool isLineEnd(char c) {
+    return c == '\r' || c == '\n';
 }
 
 }  // namespace
