@@ -18,6 +18,7 @@
 #include "desktop/menu_keys.h"
 #include "desktop/native_paths.h"
 #include "desktop/text_viewer.h"
+#include "shell/main.h"
 
 namespace kelvo::desktop {
 
