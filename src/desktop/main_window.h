@@ -7,14 +7,18 @@
 #include <string>
 
 #include "desktop/event_gate.h"
-#include "desktop/look_of_window.h"
+#include "desktop/look_menu.h"
 #include "desktop/panel_layouts.h"
 #include "desktop/panel_stage.h"
 #include "desktop/paper_surface.h"
 #include "desktop/plot_view.h"
 #include "desktop/screen_services.h"
+#include "desktop/several_runs.h"
+#include "desktop/status_bar.h"
+#include "desktop/text_on_view.h"
 #include "desktop/widget_book.h"
 #include "desktop/window_place.h"
+#include "desktop/work_menu.h"
 #include "shell/frm_kelvo.h"
 
 namespace kelvo::desktop {
@@ -34,6 +38,8 @@ public:
     void openDataFile(const QString& path);
     // Shows what a run has written.
     void openResultFile(const QString& path);
+    // Each data file as a run of its own; a box says at the end what each one gave.
+    void convertFiles(const QStringList& paths);
 
     // What a printed document is called, and the file that it is printed into: no path, no ending.
     [[nodiscard]] QString documentName() const;
@@ -50,21 +56,25 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     Surface& screen() override;
     Surface& printer() override { return paper_; }
 
+    // Several data files are converted one after the other; of anything else the first is shown.
     void openFiles(const QStringList& paths);
     void buildPanels();
     void bindWindow();
     void addShortcuts();
-    void addThemeButton();
+    void addBottomLine();
+    void addCornerMenus();
+    void fillWorkMenu(WorkMenu& menu);
+    void chooseDataFiles();
+    void copyPoint(const std::string& text);
     void beforeEvent(EventGate::Event event);
     void afterEvent(EventGate::Event event);
-    void showUnsavedMark();
-    [[nodiscard]] bool textIsSaved() const;
     void reportFault(int number, const std::string& text);
     void printWaitingSheets();
     [[nodiscard]] QPrinter& systemPrinter();
@@ -93,6 +103,9 @@ private:
     PanelStage* stage_ = nullptr;
     WindowPlace place_{*this};
     FilePanel filePanel_;
+    StatusBar* status_ = nullptr;
+    TextOnView* text_ = nullptr;
+    LookMenu* look_ = nullptr;
 };
 
 }  // namespace kelvo::desktop

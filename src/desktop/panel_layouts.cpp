@@ -52,11 +52,6 @@ FilePanel layOutFilePanel(WidgetBook& book) {
 
     QFrame* bar = captionBar(parts.path);
     parts.path->setObjectName(QStringLiteral("frmeFileCaption"));
-    parts.unsavedMark = new QLabel(QStringLiteral("● 저장하지 않음"), bar);
-    parts.unsavedMark->setObjectName(QStringLiteral("unsavedMark"));
-    parts.unsavedMark->setForegroundRole(QPalette::HighlightedText);
-    bar->layout()->addWidget(parts.unsavedMark);
-    parts.unsavedMark->hide();
     column->addWidget(bar);
 
     parts.body = new QWidget(parts.panel);
