@@ -1,4 +1,4 @@
-// kelvo_measure ROUNDS COMMAND ARG ...   times a command from its start to its end and tells the
+// kelvo_measure ROUNDS COMMAND ARG ...   times a command from its start to its end and prints the
 //                                        median of its milliseconds, the median of those that the
 //                                        processor worked for it, and its peak memory in KiB
 // kelvo_measure --points N DATA          writes the sample points as a data file

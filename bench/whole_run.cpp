@@ -1,6 +1,7 @@
-// What a whole run costs, on a disk in memory.
+// What a whole run costs, on a disk in memory, and what the check of its data file does.
 #include <benchmark/benchmark.h>
 
+#include "batch/check_data_file.h"
 #include "batch/run_batch.h"
 #include "sample_points.h"
 #include "support/memory_disk.h"
@@ -35,6 +36,31 @@ void WholeRunCorrectedBy200(benchmark::State& state) {
     wholeRun(state, 200);
 }
 BENCHMARK(WholeRunCorrectedBy200)
+    ->Arg(100)
+    ->Arg(1000)
+    ->Arg(10000)
+    ->Complexity()
+    ->Unit(benchmark::kMillisecond);
+
+void check(benchmark::State& state, int known) {
+    const auto count = static_cast<std::size_t>(state.range(0));
+    const std::string data = bench::dataFile(count, known > 0);
+    const KnownPointsFile file{.path = "kelvo.cor", .text = bench::knownPoints(known)};
+    for ([[maybe_unused]] auto _ : state) benchmark::DoNotOptimize(checkDataFile(data, file));
+    state.SetComplexityN(state.range(0));
+    state.counters["points/s"] = benchmark::Counter(static_cast<double>(count),
+                                                    benchmark::Counter::kIsIterationInvariantRate);
+}
+
+void Check(benchmark::State& state) {
+    check(state, 0);
+}
+BENCHMARK(Check)->Arg(100)->Arg(1000)->Arg(10000)->Complexity()->Unit(benchmark::kMillisecond);
+
+void CheckCorrectedBy200(benchmark::State& state) {
+    check(state, 200);
+}
+BENCHMARK(CheckCorrectedBy200)
     ->Arg(100)
     ->Arg(1000)
     ->Arg(10000)

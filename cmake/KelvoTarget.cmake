@@ -9,7 +9,11 @@ function(kelvo_compile_options target)
     target_compile_features(${target} PUBLIC cxx_std_20)
     set_target_properties(${target} PROPERTIES CXX_EXTENSIONS OFF)
     target_compile_options(${target} PRIVATE
-        -ffp-contract=off -fno-math-errno -Wall -Wextra -Wconversion -Wshadow)
+        -ffp-contract=off -fno-math-errno -Wall -Wextra -Wconversion -Wshadow
+        -Wnon-virtual-dtor -Wold-style-cast
+        # clang has no such warnings. What this g++ says of restrict in an optimised build is about
+        # its own std::string, and wrong.
+        $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond -Wduplicated-branches -Wno-restrict>)
     if(KELVO_WERROR)
         target_compile_options(${target} PRIVATE -Werror)
     endif()

@@ -56,10 +56,16 @@ void ReadCorrFile(CorrPointTable& table, const std::string& path, FieldStore& fi
                   MessageBoxes& messages) {
     table.CorrCount = 0;
     TextReader file(disk, path);
+    ReadCorrFile(table, file, path, fields, messages);
+}
+
+void ReadCorrFile(CorrPointTable& table, TextReader& file, const std::string& path,
+                  FieldStore& fields, MessageBoxes& messages) {
+    table.CorrCount = 0;
     try {
         readPoints(table, file, fields, messages);
     } catch (RuntimeFault& fault) {
-        fault.addPlace(path + " " + std::to_string(file.linesRead()) + "번째 줄");
+        fault.addPlace(path + " " + std::to_string(file.lineInHand()) + "번째 줄");
         throw;
     }
 }

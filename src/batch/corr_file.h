@@ -21,4 +21,8 @@ namespace kelvo {
 void ReadCorrFile(CorrPointTable& table, const std::string& path, FieldStore& fields, Disk& disk,
                   MessageBoxes& messages);
 
+// The same of a file that is open; `path` is what a fault names.
+void ReadCorrFile(CorrPointTable& table, TextReader& file, const std::string& path,
+                  FieldStore& fields, MessageBoxes& messages);
+
 }  // namespace kelvo

@@ -9,6 +9,7 @@
 #include "batch/run_files.h"
 #include "common/disk.h"
 #include "common/ports.h"
+#include "common/run_time_fault.h"
 #include "common/text_file.h"
 #include "conversion/definition.h"
 #include "geodesy/angle_forms.h"
@@ -31,14 +32,20 @@ struct CurrentRun {
 
     RowsByName rowsByName{};
 
-    // The line that a fault names: the one read last, or that of the point in hand.
+    // The line that a fault names: the one read last or that can't be read, or that of the point
+    // in hand.
     long lineNumber = 1;
     std::vector<long> lineOfRow{0};  // the lines that the rows of the point table came from
 
     [[nodiscard]] FieldStore& fields() const { return state.fields; }
     void readLine() {
-        data.readLine(state.fields.LineBuf);
-        lineNumber = data.linesRead();
+        try {
+            data.readLine(state.fields.LineBuf);
+        } catch (const RuntimeFault&) {
+            lineNumber = data.lineInHand();
+            throw;
+        }
+        lineNumber = data.lineInHand();
     }
     void parse(int maxFields) const { genSub::ParseFields(state.fields, maxFields); }
 };

@@ -12,22 +12,22 @@ using enum Command;
 using Kind = CommandKind;
 
 constexpr std::array kCommandWords{
-    CommandWord{"7 para", "7 ", SevenParameters, Kind::Parameter},
-    CommandWord{"7para", "7P", SevenParameters, Kind::Parameter},
-    CommandWord{"1st", "1S", FirstAdjustment, Kind::Parameter},
-    CommandWord{"1", "1 ", FirstAdjustment, Kind::Parameter},
-    CommandWord{"CORRECTION", "CO", Correction, Kind::Parameter},
-    CommandWord{"NOCORRECTION", "NO", NoCorrection, Kind::Parameter},
-    CommandWord{"zone", "ZO", Zone, Kind::Parameter},
-    CommandWord{"add", "AD", Add, Kind::Parameter},
-    CommandWord{"INPUT", "IN", Input, Kind::AngleForm},
-    CommandWord{"OUTPUT", "OU", Output, Kind::AngleForm},
-    CommandWord{"TM", "TM", TmPoints, Kind::Points, 3, TmParameters},
-    CommandWord{"UTM", "UT", UtmPointsOrOrigin, Kind::Points, 4, UtmParameters},
-    CommandWord{"WGS", "WG", WgsPoints, Kind::Points},
-    CommandWord{"UGS", "UG", UserPoints, Kind::Points},
-    CommandWord{"DIST", "DI", Distance, Kind::Distance},
-    CommandWord{"end", "EN", End, Kind::End},
+    CommandWord{"7 para", "7 ", "7PARAMETERS", SevenParameters, Kind::Parameter},
+    CommandWord{"7para", "7P", "7PARAMETERS", SevenParameters, Kind::Parameter},
+    CommandWord{"1st", "1S", "1STCORRECTION", FirstAdjustment, Kind::Parameter},
+    CommandWord{"1", "1 ", "1STCORRECTION", FirstAdjustment, Kind::Parameter},
+    CommandWord{"CORRECTION", "CO", "CORRECTION", Correction, Kind::Parameter},
+    CommandWord{"NOCORRECTION", "NO", "NOCORRECTION", NoCorrection, Kind::Parameter},
+    CommandWord{"zone", "ZO", "ZONE", Zone, Kind::Parameter},
+    CommandWord{"add", "AD", "ADD", Add, Kind::Parameter},
+    CommandWord{"INPUT", "IN", "INPUT", Input, Kind::AngleForm},
+    CommandWord{"OUTPUT", "OU", "OUTPUT", Output, Kind::AngleForm},
+    CommandWord{"TM", "TM", "TM", TmPoints, Kind::Points, 3, TmParameters},
+    CommandWord{"UTM", "UT", "UTM", UtmPointsOrOrigin, Kind::Points, 4, UtmParameters},
+    CommandWord{"WGS", "WG", "WGS", WgsPoints, Kind::Points},
+    CommandWord{"UGS", "UG", "UGS", UserPoints, Kind::Points},
+    CommandWord{"DIST", "DI", "DISTANCE", Distance, Kind::Distance},
+    CommandWord{"end", "EN", "END", End, Kind::End},
 };
 
 // The first key that fits is taken, so that one which begins with another would never be reached.
@@ -44,7 +44,7 @@ constexpr std::array kGridLines{2, 2, 2, 1};         // ellipsoid, origin, false
 
 bool hasPara(std::string_view keyLine, const CommandWord& word) {
     const auto paraAt = [keyLine](std::size_t character) {
-        return middleOf(keyLine, character, 4) == "PARA";
+        return middleOf(keyLine, character, kParaWord.size()) == kParaWord;
     };
     return word.paraAt > 0 && (paraAt(word.paraAt) || paraAt(word.paraAt + 1));
 }

@@ -17,20 +17,6 @@ namespace {
 
 constexpr int kKeywordLineFields = 5;
 
-Definition definitionOf(const CurrentRun& run) {
-    const TransPara& para = run.para;
-    return {.local = {.user = userEllipsoidOf(para),
-                      .datum = run.state.datum,
-                      .adjustment = firstAdjustmentOf(para)},
-            .tm = tmOriginOf(para),
-            .Zone = para.Zone,
-            .shiftsOrigin = para.AddFlag == Flag::On,
-            .utm = {.ellipsoid = utmEllipsoidOf(para), .projection = utmOriginOf(para)},
-            .UZone = para.UZone,
-            .corrects = para.CorrFlag != Flag::Off,
-            .known = run.known};
-}
-
 // The lines of a block that are converted together.
 class GatheredLines {
 public:
@@ -158,7 +144,7 @@ void writeHeaderThatIsDue(CurrentRun& run) {
 
 void convertLines(CurrentRun& run, System system) {
     writeHeaderThatIsDue(run);
-    const Converter converter(definitionOf(run));
+    const Converter converter(definitionOf(run.para, run.state.datum, run.known));
     run.parse(kKeywordLineFields);
     GatheredLines lines(run);
     lines.take(2);  // the keyword stands in front on the first line only

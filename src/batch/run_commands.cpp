@@ -14,13 +14,9 @@ namespace kelvo {
 namespace {
 
 // The first four characters after the keyword, in capitals.
-std::string formWord(CurrentRun& run) {
-    const std::string words = upperCased(genSub::JoinFields(run.fields(), 2, 4));
+std::string formWord(FieldStore& fields) {
+    const std::string words = upperCased(genSub::JoinFields(fields, 2, 4));
     return std::string(middleOf(words, 1, 4));
-}
-
-AngleForm inputForm(const std::string& word) {
-    return word == "DEG " ? AngleForm::Degrees : AngleForm::Dms;
 }
 
 AngleForm outputForm(const std::string& word) {
@@ -52,6 +48,10 @@ void utmPointsOrOrigin(CurrentRun& run) {
 
 }  // namespace
 
+AngleForm inputFormOf(FieldStore& fields) {
+    return formWord(fields) == "DEG " ? AngleForm::Degrees : AngleForm::Dms;
+}
+
 void writeTablesOnce(CurrentRun& run) {
     if (run.tablesWritten) return;
     int row = 0;
@@ -71,10 +71,10 @@ bool carryOutCommand(CurrentRun& run) {
     if (!command) return true;
     switch (*command) {
         case Command::Input:
-            run.AngleIn = inputForm(formWord(run));
+            run.AngleIn = inputFormOf(run.fields());
             break;
         case Command::Output:
-            run.AngleOut = outputForm(formWord(run));
+            run.AngleOut = outputForm(formWord(run.fields()));
             break;
         case Command::TmPoints:
             readOn(run, &ConvertTmLines);

@@ -9,6 +9,9 @@ namespace kelvo {
 // leaves run.lineHeld set. False for the end command.
 [[nodiscard]] bool carryOutCommand(CurrentRun& run);
 
+// The form of angles read that a line INPUT chooses, which stands in LineBuf.
+[[nodiscard]] AngleForm inputFormOf(FieldStore& fields);
+
 // The tables of the run, once.
 void writeTablesOnce(CurrentRun& run);
 

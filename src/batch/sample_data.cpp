@@ -232,8 +232,14 @@ constexpr std::array kLines{
     // clang-format on
 };
 static_assert(kLines.size() == 213);
+constexpr std::size_t kFirstEnd = 7;
+static_assert(kLines[kFirstEnd] == "end");
 
 }  // namespace
+
+std::span<const std::string_view> sampleManual() {
+    return std::span(kLines).subspan(kFirstEnd + 1);
+}
 
 void WriteSampleData(Disk& disk, const std::string& path) {
     TextWriter file(disk, path);

@@ -51,6 +51,8 @@ CommandLineReading readCommandLine(std::span<const std::string> arguments) {
         } else if (argument == "--help" || argument == "--version") {
             line.wish = argument == "--help" ? CommandLine::Wish::Help : CommandLine::Wish::Version;
             return {.line = line, .complaint = {}};
+        } else if (argument == "--check") {
+            line.wish = CommandLine::Wish::Check;
         } else if (argument == "--quiet") {
             line.quiet = true;
         } else if (argument == "--app-folder") {
@@ -67,6 +69,7 @@ CommandLineReading readCommandLine(std::span<const std::string> arguments) {
     }
     if (line.dataFiles.empty()) return refused("no data file is given");
 
+    if (line.wish == CommandLine::Wish::Check) return {.line = line, .complaint = {}};
     std::map<std::string, std::string> writers;
     for (const std::string& data : line.dataFiles) {
         const auto [first, fresh] = writers.emplace(resultFileOf(data), data);
@@ -94,7 +97,7 @@ std::vector<std::string> argumentsOfProcess([[maybe_unused]] int argc,
 }
 
 std::string usageText() {
-    return "usage: kelvo-batch [--app-folder DIR] [--quiet] DATA.dat...\n";
+    return "usage: kelvo-batch [--app-folder DIR] [--quiet] [--check] DATA.dat...\n";
 }
 
 std::string helpText() {
@@ -107,12 +110,16 @@ std::string helpText() {
            "that fails doesn't stop the others.\n"
            "\n"
            "  --app-folder DIR  use DIR as the application folder\n"
+           "  --check           convert nothing and write nothing: look for slips in the data\n"
+           "                    files and print them to standard output as FILE:LINE: text\n"
            "  --quiet           print run-time errors only: no messages, no progress bar\n"
            "  --help            print this and end\n"
            "  --version         print the version and end\n"
            "  --                what follows are data files\n"
            "\n"
-           "Exit code: 0 every run ended, 1 a run-time error in one of them, 2 wrong usage.\n";
+           "Exit code: 0 every run ended, 1 a run-time error in one of them, 2 wrong usage.\n"
+           "With --check: 0 nothing found, 1 something found, 2 wrong usage or a file that\n"
+           "can't be read.\n";
 }
 
 }  // namespace kelvo

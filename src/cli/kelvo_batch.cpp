@@ -5,6 +5,7 @@
 #include <string>
 
 #include "batch/run_batch.h"
+#include "cli/check_files.h"
 #include "cli/command_line.h"
 #include "cli/progress_bar.h"
 #include "common/application_folder.h"
@@ -23,6 +24,9 @@ using namespace kelvo;
 constexpr int kRunEnded = 0;
 constexpr int kRunTimeFault = 1;
 constexpr int kWrongUsage = 2;
+constexpr int kNothingFound = 0;
+constexpr int kSomethingFound = 1;
+constexpr int kNotRead = 2;
 
 constexpr std::size_t kManyFiles = 5;  // from so many on a progress bar is worth its line
 
@@ -30,7 +34,7 @@ void print(std::FILE* stream, const std::string& text) {
     std::fwrite(text.data(), 1, text.size(), stream);
 }
 
-// Lines of standard error, each behind the name of its data file if there are several.
+// Lines of standard error, each after the name of its data file if there are several.
 class StandardError {
 public:
     explicit StandardError(ProgressBar& bar) : bar_(bar) {}
@@ -115,11 +119,28 @@ int runAll(const CommandLine& line, const std::string& folder, StandardError& er
         lastEnded = ends([&] { RunBatch(*state, places, noScreen, disk, messages); }, error);
         good &= lastEnded;
     }
-    // As ever, kelvo.det tells of the last run.
+    // As ever, kelvo.det is that of the last run.
     const std::string last = detailBeside(line.dataFiles.back());
     if (several && lastEnded && !disk.sameFile(last, detail))
         good &= ends([&] { copyFile(disk, last, detail); }, error);
     return good ? kRunEnded : kRunTimeFault;
+}
+
+// Findings are what was asked for and go to standard output.
+int checkAll(const CommandLine& line, const std::string& folder) {
+    PlatformDisk disk;
+    const CheckOutput output{
+        .finding = [](const std::string& text) { print(stdout, text + "\n"); },
+        .failure = [](const std::string& text) { print(stderr, "kelvo-batch: " + text + "\n"); }};
+    switch (checkFiles(line.dataFiles, folder + kPathSeparator + "kelvo.cor", disk, output)) {
+        case CheckResult::Clean:
+            return kNothingFound;
+        case CheckResult::Found:
+            return kSomethingFound;
+        case CheckResult::NotRead:
+            break;
+    }
+    return kNotRead;
 }
 
 }  // namespace
@@ -142,15 +163,18 @@ int main(int argc, char** argv) {
         print(stdout, "kelvo-batch " KELVO_VERSION "\n");
         return kRunEnded;
     }
-    ProgressBar bar(line.dataFiles.size(), !line.quiet && line.dataFiles.size() >= kManyFiles &&
+    const bool checks = line.wish == CommandLine::Wish::Check;
+    ProgressBar bar(line.dataFiles.size(), !line.quiet && !checks &&
+                                               line.dataFiles.size() >= kManyFiles &&
                                                standardErrorIsTerminal());
     StandardError error(bar);
     std::string folder;
     const bool folderStands = ends(
         [&] {
             folder = line.applicationFolder ? *line.applicationFolder : findApplicationFolder();
-            if (!line.applicationFolder) makeApplicationFolder(folder);
+            if (!line.applicationFolder && !checks) makeApplicationFolder(folder);
         },
         error);
-    return folderStands ? runAll(line, folder, error, bar) : kRunTimeFault;
+    if (!folderStands) return checks ? kNotRead : kRunTimeFault;
+    return checks ? checkAll(line, folder) : runAll(line, folder, error, bar);
 }

@@ -1,4 +1,4 @@
-// One line on a terminal that tells how far a row of runs has come.
+// One line on a terminal that shows how far a row of runs has come.
 #pragma once
 
 #include <cstddef>

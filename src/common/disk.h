@@ -40,7 +40,7 @@ public:
     // Replaces what the file held, in place.
     virtual std::unique_ptr<ByteWriter> openForWriting(const std::string& path) = 0;
 
-    // Writes behind what the file holds; creates it if it is missing.
+    // Writes after what the file holds; creates it if it is missing.
     virtual std::unique_ptr<ByteWriter> openForAppending(const std::string& path) = 0;
 
     // Replaces the file as a whole: afterwards it holds either the old bytes or the new ones,

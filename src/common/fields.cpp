@@ -43,6 +43,14 @@ float FieldStore::FieldSng(int n) const {
 
 namespace genSub {
 
+std::string_view takeField(std::string_view& rest) {
+    rest = withoutSeparatorsInFront(rest);
+    const auto end = std::find_if(rest.begin(), rest.end(), isSeparator);
+    const std::string_view field = rest.substr(0, static_cast<std::size_t>(end - rest.begin()));
+    rest.remove_prefix(field.size());
+    return field;
+}
+
 void ParseFields(FieldStore& store, int maxFields) {
     if (maxFields > FieldStore::kMostFields) raise(Fault::Subscript);
     for (int n = 1; n <= store.filled; ++n) {
@@ -53,17 +61,16 @@ void ParseFields(FieldStore& store, int maxFields) {
     }
     store.filled = 0;
 
-    std::string_view rest = withoutSeparatorsInFront(store.LineBuf);
-    for (int n = 1; n <= maxFields && !rest.empty(); ++n) {
-        const auto end = std::find_if(rest.begin(), rest.end(), isSeparator);
-        const auto length = static_cast<std::size_t>(end - rest.begin());
+    std::string_view rest = store.LineBuf;
+    for (int n = 1; n <= maxFields; ++n) {
+        const std::string_view field = takeField(rest);
+        if (field.empty()) return;
         const auto i = static_cast<std::size_t>(n);
-        store.strings[i].assign(rest.substr(0, length));
+        store.strings[i].assign(field);
         store.doubles[i] = leadingNumber(store.strings[i]);
         const auto single = static_cast<float>(store.doubles[i]);
         store.singles[i] = std::isfinite(single) ? single : 0.0F;
         store.filled = n;
-        rest = withoutSeparatorsInFront(rest.substr(length));
     }
 }
 

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <string>
+#include <string_view>
 
 namespace kelvo {
 
@@ -26,6 +27,10 @@ struct FieldStore {
 };
 
 namespace genSub {
+
+// Takes the next field off the front of a text that is split as ParseFields splits a line; empty
+// when there is none.
+[[nodiscard]] std::string_view takeField(std::string_view& rest);
 
 // Splits LineBuf into at most maxFields fields, at blanks, commas, tabs and NULs, of which any
 // run counts as one. Every field of the line before is gone. Fault 9 for more than 100.

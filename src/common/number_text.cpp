@@ -230,6 +230,14 @@ NumberRead readNumber(std::string_view text) {
     return readDecimal(text, shape);
 }
 
+std::size_t numberLength(std::string_view text) {
+    const std::string_view number = withoutBlanksInFront(text);
+    unsigned base = 0;
+    std::size_t length = radixLength(number, base);
+    if (length == 0) length = decimalShape(number).length;
+    return length == 0 ? 0 : text.size() - number.size() + length;
+}
+
 double leadingNumber(std::string_view text) {
     return readNumber(text).value;
 }

@@ -1,6 +1,7 @@
 // Numbers read from text and written as text, independent of any locale.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -18,6 +19,10 @@ struct NumberRead {
 // read. Sign, digits, one decimal point, an exponent introduced by E or D; "&H" and "&O" (no
 // sign in front) read a hexadecimal or octal integer. What follows the number doesn't matter.
 [[nodiscard]] NumberRead readNumber(std::string_view text);
+
+// How many bytes at the front of a text the number rule reads, leading blanks included; 0 if there
+// is no number.
+[[nodiscard]] std::size_t numberLength(std::string_view text);
 
 // The number of a text by the number rule, 0 if there is none or it is too large.
 [[nodiscard]] double leadingNumber(std::string_view text);

@@ -116,7 +116,7 @@ public:
         if (std::fclose(file_.release()) != 0) raiseError(errno, path_);
     }
 
-    // Hands the bytes to the medium itself, so that a rename behind it can't come first.
+    // Hands the bytes to the medium itself, so that the rename that follows can't come first.
     void settle() {
 #ifdef _WIN32
         if (_commit(_fileno(file_.get())) != 0) raiseError(errno, path_);

@@ -35,9 +35,10 @@ bool TextReader::atEnd() {
     return !fill();
 }
 
-void TextReader::checkLength(std::size_t length) const {
+void TextReader::checkLength(std::size_t length) {
     if (length > kLongestLine)
-        raise(Fault::Overflow, std::to_string(linesRead_ + 1) + "번째 줄이 너무 깁니다");
+        raise(Fault::Overflow,
+              "줄의 길이가 한계 " + std::to_string(kLongestLine) + "바이트를 넘었습니다");
 }
 
 // Steps over one line end, which stands at the front; the end of the file ends a line as well.
@@ -50,7 +51,11 @@ void TextReader::skipLineEnd() {
 }
 
 void TextReader::readLine(std::string& line) {
-    if (atEnd()) raise(Fault::InputPastEnd);
+    lineInHand_ = linesRead_ + 1;
+    if (atEnd()) {
+        lineInHand_ = std::max(1L, linesRead_);
+        raise(Fault::InputPastEnd);
+    }
     raw_.clear();
     while (fill()) {
         const char* const first = buffer_.data() + next_;

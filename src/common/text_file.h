@@ -8,6 +8,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "common/disk.h"
 
@@ -20,6 +21,8 @@ class TextReader {
 public:
     // Faults as Disk::openForReading.
     TextReader(Disk& disk, const std::string& path);
+    // Of bytes from anywhere.
+    explicit TextReader(std::unique_ptr<ByteReader> bytes) : file_(std::move(bytes)) {}
 
     [[nodiscard]] bool atEnd();
 
@@ -35,21 +38,23 @@ public:
     // fault 62.
     [[nodiscard]] double readNumber();
 
-    // Number of lines ended so far, by a line end or by the end of the file.
-    [[nodiscard]] long linesRead() const { return linesRead_; }
+    // The line that readLine took last or, after its fault, the one that this struck; the last one
+    // for the end of the file. Lines count from 1.
+    [[nodiscard]] long lineInHand() const { return lineInHand_; }
 
 private:
     bool fill();
     [[nodiscard]] int peek();
     void skipLineEnd();
-    void checkLength(std::size_t length) const;
+    static void checkLength(std::size_t length);
 
     std::unique_ptr<ByteReader> file_;
     std::array<char, 16384> buffer_;
     std::size_t next_ = 0;
     std::size_t end_ = 0;
     bool exhausted_ = false;
-    long linesRead_ = 0;
+    long linesRead_ = 0;  // ended so far, by a line end or by the end of the file
+    long lineInHand_ = 1;
     std::string raw_;
 };
 

@@ -33,8 +33,8 @@ int reportStart(const RuntimeFault& fault) {
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("kelvo"));
-    // No display name: it would stand behind the form's titles.
-    QApplication::setApplicationVersion(QStringLiteral("3.5.0"));
+    // No display name: it would stand after the form's titles.
+    QApplication::setApplicationVersion(QStringLiteral(KELVO_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("kelvo"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/kelvo/icon.png")));
 

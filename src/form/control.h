@@ -4,7 +4,7 @@
 // say) stays at its start. Texts are UTF-8; places and sizes are twips (1/1440 inch).
 //
 // A handler hangs on a control as a Reaction. A view (a widget, say) hangs on as one watcher,
-// is told of each property that changed, and passes on what a person does by typeText, click,
+// hears of each property that changed, and passes on what a person does by typeText, click,
 // choose, setChecked and enter. Setting a property to what it already is does nothing at all:
 // no reaction, no word to the view.
 #pragma once
@@ -31,7 +31,7 @@ enum class ControlKind {
     Picture,
 };
 
-// What a view is told about.
+// What a view hears of.
 enum class Property { Caption, Text, Value, Items, Index, Enabled, Visible, Selection, Place };
 
 struct MenuEntry {
@@ -45,7 +45,7 @@ struct ControlDesign {
     std::string name{};
     std::string parent{};    // name of the frame, menu or window that holds it
     std::string label{};     // the words beside a box, empty if there are none
-    std::string unit{};      // the unit behind a box
+    std::string unit{};      // the unit that follows a box
     bool multiLine = false;  // a text box of many lines; its line ends are CR LF always
     std::string group{};     // option buttons of one group switch each other off
 };
@@ -120,7 +120,7 @@ public:
 
     // What a person does. A click works on a disabled or hidden control, too: a view that
     // doesn't offer it is what keeps a person from it.
-    void typeText(std::string_view text);  // replaces the text, the caret behind it
+    void typeText(std::string_view text);  // replaces the text, the caret after it
     void click();                          // button, menu item, picture; an option switches on
     void enter();                          // the control receives the focus
 

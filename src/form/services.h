@@ -18,7 +18,7 @@ enum class DialogKind { Open, Save, Printer };
 // what the last use left.
 struct DialogProperties {
     std::string title{};
-    std::string filter{};    // pairs of name and pattern, parted by "|"
+    std::string filter{};    // pairs of name and pattern, separated by "|"
     int filterIndex = 0;     // counts from 1; 0 before the first use
     std::string folder{};    // where the dialog starts; may end with a separator
     std::string fileName{};  // proposed; afterwards the chosen one

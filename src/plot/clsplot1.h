@@ -110,7 +110,7 @@ public:
 
     // r in user units of x. A span of 358 to 363 degrees, and of 0 to 0, is the whole circle.
     void pcircle(double x, double y, double r, double start, double end, double lw);
-    // dash and gap in mm; the way behind the last whole period is drawn solid.
+    // dash and gap in mm; the way after the last whole period is drawn solid.
     void pcircledot(double x, double y, double r, double start, double end, double lw, double dash,
                     double gap);
 

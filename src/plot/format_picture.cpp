@@ -51,7 +51,7 @@ std::string wholePart(std::string_view places, std::string digits) {
     return text;
 }
 
-// The decimals: behind the last "0" trailing zeros go.
+// The decimals: after the last "0" trailing zeros go.
 std::string decimalPart(std::string_view places, std::string_view digits) {
     std::size_t needed = 0;
     std::size_t count = 0;
@@ -78,14 +78,14 @@ std::string formatByPicture(double value, std::string_view picture) {
     if (std::none_of(picture.begin(), picture.end(), isPlace)) return std::string(picture);
     const std::size_t point = picture.find('.');
     const std::string_view whole = picture.substr(0, point);
-    const std::string_view behind =
+    const std::string_view places =
         point == std::string_view::npos ? std::string_view() : picture.substr(point + 1);
-    const auto decimals = std::count_if(behind.begin(), behind.end(), isPlace);
+    const auto decimals = std::count_if(places.begin(), places.end(), isPlace);
     const Digits digits = roundedDigits(std::fabs(value), static_cast<int>(decimals));
     std::string text = value < 0 ? "-" : "";
     text += std::any_of(whole.begin(), whole.end(), isPlace) ? wholePart(whole, digits.whole)
                                                              : std::string(whole) + digits.whole;
-    if (point != std::string_view::npos) text += '.' + decimalPart(behind, digits.decimals);
+    if (point != std::string_view::npos) text += '.' + decimalPart(places, digits.decimals);
     return text;
 }
 

@@ -16,7 +16,7 @@ namespace {
 
 using genSub::FormatNum;
 
-// What tells one kind of plot from another.
+// In what one kind of plot differs from another.
 struct PlotFields {
     double PointRec::*north;
     double PointRec::*east;

@@ -36,14 +36,14 @@ struct PrintServices {
 
 // Prints the text file. The last three characters of its name, in capitals, decide about pages
 // (DAT, fast print) and about a new sheet at each dash line (OUT, user print); a shorter name is
-// fault 5. A file that can't be opened is told in a message box, and nothing is printed.
+// fault 5. A file that can't be opened is reported in a message box, and nothing is printed.
 //
 // Fast print: the file as it stands, or a copy of it named `temp` in the current folder with the
 // margin in front of each line and form feeds, goes to the raw printer; `code.bat` is written as
 // well (required).
 //
 // User print: 62 lines to the sheet, each sheet a print job of its own. A line that is a form
-// feed takes the three lines behind it along; fault 62 if the file ends among them, but as the
+// feed takes the three lines after it along; fault 62 if the file ends among them, but as the
 // last line it ends the printing.
 void PrintFile(const std::string& fileName, const PrintMode& mode, PrintServices& services);
 

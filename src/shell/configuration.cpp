@@ -20,7 +20,7 @@ namespace {
 constexpr std::size_t kZone = 14;  // columns
 constexpr std::size_t kMostRecent = 5;
 
-// A number of the parameter set, and whether its line of the file ends behind it.
+// A number of the parameter set, and whether its line of the file ends after it.
 struct StoredNumber {
     std::variant<double TransPara::*, ShiftKind TransPara::*, TmZone TransPara::*,
                  UtmZone TransPara::*>

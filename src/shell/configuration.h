@@ -1,6 +1,6 @@
 // kelvo.cfg: the parameters and recent data files, from one start of the program to the next.
 //
-// Lines: the editor; 27 numbers in the order of TransPara, read as a stream parted by blanks,
+// Lines: the editor; 27 numbers in the order of TransPara, read as a stream separated by blanks,
 // commas or line ends; AddFlag and CorrFlag; then at most five paths.
 #pragma once
 
@@ -20,7 +20,7 @@ namespace kelvo {
 // a failure to write.
 int readConfiguration(ProgramState& state, Disk& disk);
 
-// Writes the file anew. Any failure is told in a message box, and the old file stands.
+// Rewrites the file. Any failure is reported in a message box, and the old file stands.
 void WriteCfgFile(const ProgramState& state, Disk& disk, MessageBoxes& messages);
 
 // The values of a first start. Required: the TM origin gets the values of the UTM one, whose own

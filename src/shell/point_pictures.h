@@ -25,7 +25,7 @@ public:
     void cmdPlot_Click();
 
     // Draws with the settings as they are. The plot object is made at the first time and bound
-    // to its surface anew each time.
+    // to its surface again each time.
     void drawOnScreen();
     void drawOnPrinter();
 

@@ -31,7 +31,7 @@ public:
 
     // Puts a file on top of the list, making it (empty) if it is missing, makes its folder the
     // current one and rebuilds menu and caption. Nothing for an empty name. A step that fails is
-    // told in a message box, and the next one follows.
+    // reported in a message box, and the next one follows.
     void UpdateRecentFiles(const std::string& name);
 
     // Program, owner, version and the current data file.

@@ -41,7 +41,7 @@ std::string SavedResults::dms(const Control& box) {
 }
 
 void SavedResults::writeResultBlock(TextWriter& file) {
-    // Read one after the other: the first bad box is the one that is told.
+    // Read one after the other: the first bad box is the one reported.
     const std::string wgsPhi = dms(on_.txtWdegPhi);
     const std::string userPhi = dms(on_.txtBdegPhi);
     file.line("WGS 위도 = " + wgsPhi + "   사용자 위도 = " + userPhi +

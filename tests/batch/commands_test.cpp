@@ -15,7 +15,7 @@ constexpr const char* kPoint = "\nWGS p 37.3 127 10\nend\n\n";
 
 class Commands : public ::testing::Test {
 protected:
-    // The header line of a run with these commands and one point behind them, counted from 1.
+    // The header line of a run with these commands and one point after them, counted from 1.
     std::string header(const std::string& commands, std::size_t line) {
         bench.run(commands + kPoint);
         EXPECT_EQ(bench.fault, 0) << bench.faultText;

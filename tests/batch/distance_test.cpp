@@ -14,7 +14,7 @@ const std::string kFourPoints =
 
 class Distances : public ::testing::Test {
 protected:
-    // The lines behind the tables of a run with the four points and these lines.
+    // The lines after the tables of a run with the four points and these lines.
     Lines distances(const std::string& lines) {
         bench.run(kFourPoints + lines + "end\n\n");
         EXPECT_EQ(bench.fault, 0) << bench.faultText;

@@ -1,4 +1,4 @@
-// Whole runs against the formulas written out as told: every cell of every table, for blocks of
+// Whole runs against the plain formulas: every cell of every table, for blocks of
 // every length and with points in between that can't be computed.
 #include <gtest/gtest.h>
 

@@ -122,7 +122,7 @@ TEST(RunHeader, TheLinesOfAllFormsAreOfOneWidth) {
         ReportBench bench;
         ASSERT_EQ(bench.print(kOne + kEnd, form), 0);
         const Lines det = bench.lines("/det");
-        // 10 for the name, 13 for the label, 19 + 19 + 13, and the length behind
+        // 10 for the name, 13 for the label, 19 + 19 + 13, and the length after them
         EXPECT_EQ(genSub::DisplayLen(det[6]), 74) << form;
         EXPECT_EQ(genSub::DisplayLen(det[8]), 74 + 7 + 9) << form;
         EXPECT_EQ(genSub::DisplayLen(det[11]), 74 + 7 + 9) << form;

@@ -18,7 +18,7 @@ using testing::TemporaryFolder;
 // A UTM point in front of a row that an earlier run may have filled.
 const std::string kUtm = "UTM u 4098671.926334 233069.905228 7\r\nend\r\n\r\n";
 const std::string kWgs = "WGS w 37.3 127 50\r\nend\r\n\r\n";
-// Latitudes beyond the reach of the shift are told in a message, and the run goes on.
+// Latitudes beyond the reach of the shift are reported in a message, and the run goes on.
 const std::string kFarNorth = "INPUT deg\r\nWGS n 80 127 0\r\nend\r\n\r\n";
 
 class Bulk : public ::testing::Test {

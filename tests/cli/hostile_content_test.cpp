@@ -49,7 +49,7 @@ protected:
         for (std::size_t i = 0; i < count / 1000; ++i) out << block;
     }
 
-    // A file of a gigabyte, all NULs behind its head, that takes no room on the disk.
+    // A file of a gigabyte, all NULs after its head, that takes no room on the disk.
     void putGigabyte(const std::string& name, const std::string& head) {
         folder.put(name, head);
         ASSERT_EQ(truncate(folder.file(name).c_str(), kGigabyte), 0);

@@ -35,7 +35,7 @@ protected:
         EXPECT_EQ(ended.out, "");
     }
 
-    // The names in a folder, sorted, a blank behind each.
+    // The names in a folder, sorted, a blank after each.
     static std::string namesIn(const std::string& path) {
         std::set<std::string> names;
         for (const auto& entry : std::filesystem::directory_iterator(path))

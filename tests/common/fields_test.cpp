@@ -171,5 +171,13 @@ TEST(JoinFields, TheLimitOfTheParseBeforeIsLost) {
     EXPECT_EQ(store.FieldStr(3), "");
 }
 
+TEST(TakeField, TakesTheFieldsThatALineIsSplitInto) {
+    std::string_view rest = " ,a\t, b-1 ";
+    EXPECT_EQ(genSub::takeField(rest), "a");
+    EXPECT_EQ(genSub::takeField(rest), "b-1");
+    EXPECT_EQ(genSub::takeField(rest), "");
+    EXPECT_EQ(genSub::takeField(rest), "");
+}
+
 }  // namespace
 }  // namespace kelvo

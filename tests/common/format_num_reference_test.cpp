@@ -43,7 +43,7 @@ TEST(FormatNumReference, TiesOfTheDecimalTextGiveTheSameText) {
     for (int i = 0; i < 60000; ++i) {
         const auto odd = static_cast<double>(digits(random) * 10 + 5);
         for (const Mask mask : kMasks) {
-            // five behind the last place shown
+            // five after the last place shown
             expectSameText(odd / std::pow(10.0, mask.decimals + 1), mask);
         }
     }

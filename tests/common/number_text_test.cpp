@@ -165,5 +165,16 @@ TEST(SingleText, HasAtMostSevenDigitsAndNoExponent) {
     EXPECT_EQ(singleText(100.0F, true), "100");
 }
 
+TEST(NumberLength, CountsWhatTheNumberRuleReads) {
+    EXPECT_EQ(numberLength("12.5m"), 4U);
+    EXPECT_EQ(numberLength("37-35-33"), 2U);
+    EXPECT_EQ(numberLength("  -1D2x"), 6U);
+    EXPECT_EQ(numberLength("1E"), 1U);
+    EXPECT_EQ(numberLength("&H1Fg"), 4U);
+    EXPECT_EQ(numberLength("abc"), 0U);
+    EXPECT_EQ(numberLength(""), 0U);
+    EXPECT_EQ(numberLength("."), 0U);
+}
+
 }  // namespace
 }  // namespace kelvo

@@ -64,7 +64,7 @@ TEST(TextReader, DecodesTheCodePage) {
     std::string line;
     reader.readLine(line);
     EXPECT_EQ(line, "인천부두끝   37");
-    EXPECT_EQ(reader.linesRead(), 1);
+    EXPECT_EQ(reader.lineInHand(), 1);
     reader.readLine(line);
     EXPECT_EQ(line, "뷁");
 }

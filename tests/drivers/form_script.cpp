@@ -10,7 +10,7 @@ namespace kelvo::testing {
 
 namespace {
 
-// The first word of a text, and what stands behind one blank behind it.
+// The first word of a text, and what follows one blank after it.
 std::pair<std::string_view, std::string_view> firstWord(std::string_view text) {
     const std::size_t blank = text.find(' ');
     if (blank == std::string_view::npos) return {text, {}};

@@ -9,7 +9,7 @@ namespace kelvo::testing {
 
 namespace {
 
-// A box as `v` reads it: a number too large is told and counts as 0.
+// A box as `v` reads it: a number too large is reported and counts as 0.
 double valueOfBox(RoutineBench& bench, const std::string& text) {
     const NumberRead read = readNumber(text);
     if (read.tooLarge)

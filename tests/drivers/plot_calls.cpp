@@ -67,7 +67,7 @@ std::int32_t colour(Arguments& args) {
     return roundedInteger32(args.number());
 }
 
-// A box or a shape of numbers, with its colour behind.
+// A box or a shape of numbers, with its colour after them.
 template <void (clsplot1::*member)(double, double, double, double, std::int32_t)>
 void colouredBox(PlotBench& bench, Arguments& args, AnswerLine&) {
     const double x1 = args.number();

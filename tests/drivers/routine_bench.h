@@ -1,4 +1,4 @@
-// The bench on which routine_driver calls the routines: what they work on, and what they tell.
+// The bench on which routine_driver calls the routines: what they work on, and what they report.
 #pragma once
 
 #include <map>
@@ -26,7 +26,7 @@ public:
     void start(const std::string& command) override;
 };
 
-// Writes what a surface was told to standard output.
+// Writes what a surface was given to standard output.
 void printSurfaceLine(const std::string& line);
 
 // What lasts from line to line.
@@ -39,7 +39,7 @@ struct RoutineBench {
     PlotBench plot{messages, programs, printSurfaceLine};
 };
 
-// One routine by its name: takes its arguments and writes its results behind the answer's name.
+// One routine by its name: takes its arguments and writes its results after the answer's name.
 using Routine = void (*)(RoutineBench& bench, Arguments& arguments, AnswerLine& answer);
 using Routines = std::map<std::string_view, Routine>;
 

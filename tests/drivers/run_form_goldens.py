@@ -8,7 +8,7 @@ NAME.txt the script, or NAME.1.txt, NAME.2.txt, ... run in turn on one folder, a
 what they print. "@APP@" in scripts and files stands for the application folder and shows as APP
 in a transcript, the editor of a first start as EDITOR, the owner's line as <free:owner>. Of a
 fault only the number counts. A value with line ends inside, a whole report say, stands in a stored
-transcript line by line, each line after the first behind ">> ". --renew writes the transcripts
+transcript line by line, each line after the first marked with ">> ". --renew writes the transcripts
 again: read the difference before committing it. --wine runs a driver built for Windows; the transcripts hold there too, see OnWindows.
 """
 import difflib

@@ -140,7 +140,7 @@ TEST(IndependentProjection, TMToGeoAgreesToItsNamedErrorWithinItsNamedWidth) {
     std::printf("TMToGeo within 3 degrees, latitudes 0 to 80: at most %.5f mm off\n", most * 1e3);
 }
 
-// Beyond its three degrees the series is not wrong, it ends; the table shows where that tells.
+// Beyond its three degrees the series is not wrong, it ends; the table shows where that matters.
 TEST(IndependentProjection, BeyondThreeDegreesTheSeriesStaysWithinAMillimetreUpToSix) {
     if (projProgram().empty()) GTEST_SKIP() << kMissing;
     const Grid& grid = kGrids[0];

@@ -1,4 +1,4 @@
-// The engine against the formulas written out as told: the same text in every cell.
+// The engine against the plain formulas: the same text in every cell.
 #include <gtest/gtest.h>
 
 #include <cmath>

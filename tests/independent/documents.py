@@ -19,6 +19,9 @@ def main():
     known = (TOP / "examples/kelvo.cor").read_bytes()
     examples = re.findall(r"```kelvo\n(.*?)```", text, re.S)
     bad = 0
+    if EMPTY_TABLE.encode("cp949") not in run_reference(b"end\r\n", known).parts["out"]:
+        bad += 1
+        print("An empty table is no longer known by EMPTY_TABLE: give it the text that a run writes.")
     for example in examples:
         data = example.replace("\n", "\r\n").encode("cp949")
         found = run_program(sys.argv[1:], data, known)

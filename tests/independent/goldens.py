@@ -3,7 +3,7 @@
 
     goldens.py [--reference] [--renew] PROGRAM...
 
-PROGRAM is kelvo-batch, behind whatever starts it. A run is NAME.dat with NAME.out, NAME.det and,
+PROGRAM is kelvo-batch, after whatever starts it. A run is NAME.dat with NAME.out, NAME.det and,
 if anything is said, NAME.err; known points stand in NAME.cor or, for all of a folder, in
 kelvo.cor. With --reference the independent calculation takes the program's place. --renew
 writes what the program gives, but only where the independent calculation agrees; a run that ends

@@ -1,4 +1,4 @@
-"""Runs kelvo-batch on a folder of its own and compares what it leaves behind."""
+"""Runs kelvo-batch on a folder of its own and compares what it leaves."""
 
 import difflib
 import pathlib

@@ -202,7 +202,7 @@ class Run:
         return self._points(self._ugs_body)
 
     def _continues(self):
-        """Reads the line behind a point or a pair of names: does it belong to the block?"""
+        """Reads the line after a point or a pair of names: does it belong to the block?"""
         if self.input.at_end():
             return False
         self._next()

@@ -17,51 +17,51 @@ TEST_F(PlotCircles, AboutAFullTurnIsAWholeCircle) {
     object.pcircle(10, 20, 2, 0, 358.5, 1);
     object.pcircle(10, 20, 2, 10, 372.5, 1);
     object.pcircle(10, 20, 2, 0, 0, 1);
-    EXPECT_EQ(told(), (Lines{"DrawWidth = 1.0000", kWhole, kWhole, kWhole, kWhole, kWhole}));
+    EXPECT_EQ(drawn(), (Lines{"DrawWidth = 1.0000", kWhole, kWhole, kWhole, kWhole, kWhole}));
 }
 
 TEST_F(PlotCircles, SpansOf358And363StayArcs) {
     useScreen();
     object.pcircle(10, 20, 2, 0, 358, 0);
     object.pcircle(10, 20, 2, 0, 363, 0);  // 363 - 360 = 3 degrees
-    EXPECT_EQ(told(), (Lines{"Circle 567.0000 1134.0000 113.4000 0 0.0000 6.2483 0.0000 192",
-                             "Circle 567.0000 1134.0000 113.4000 0 0.0000 0.0524 0.0000 192"}));
+    EXPECT_EQ(drawn(), (Lines{"Circle 567.0000 1134.0000 113.4000 0 0.0000 6.2483 0.0000 192",
+                              "Circle 567.0000 1134.0000 113.4000 0 0.0000 0.0524 0.0000 192"}));
 }
 
 TEST_F(PlotCircles, HalfCircleRunsFromZeroToPi) {
     useScreen();
     object.pcircle(10, 20, 2, 0, 180, 0);
-    EXPECT_EQ(told(), Lines{"Circle 567.0000 1134.0000 113.4000 0 0.0000 3.1416 0.0000 192"});
+    EXPECT_EQ(drawn(), Lines{"Circle 567.0000 1134.0000 113.4000 0 0.0000 3.1416 0.0000 192"});
 }
 
 TEST_F(PlotCircles, AnglesAreBroughtIntoOneTurnOnceOnly) {
     useScreen();
     object.pcircle(10, 20, 2, -90, 450, 0);
     object.pcircle(10, 20, 2, -700, 10, 0);
-    EXPECT_EQ(told(), (Lines{"Circle 567.0000 1134.0000 113.4000 0 4.7124 1.5708 0.0000 192",
-                             "Circle 567.0000 1134.0000 113.4000 0 -5.9341 0.1745 0.0000 192"}));
+    EXPECT_EQ(drawn(), (Lines{"Circle 567.0000 1134.0000 113.4000 0 4.7124 1.5708 0.0000 192",
+                              "Circle 567.0000 1134.0000 113.4000 0 -5.9341 0.1745 0.0000 192"}));
 }
 
 TEST_F(PlotCircles, ArcTakesThePensColour) {
     useScreen();
     object.setBlackWhite(true);
     object.ChangeColor(255, 2);
-    told();
+    drawn();
     object.pcircle(10, 20, 2, 0, 90, 0);
-    EXPECT_EQ(told(), Lines{"Circle 567.0000 1134.0000 113.4000 255 0.0000 1.5708 0.0000 192"});
+    EXPECT_EQ(drawn(), Lines{"Circle 567.0000 1134.0000 113.4000 255 0.0000 1.5708 0.0000 192"});
 }
 
 TEST_F(PlotCircles, RadiusGoesByTheXScaleAndIsNegativeWhereXRunsBackward) {
     useScreen();
     object.pwindow(0, 10, 100, 0, 0, 0, 50, 10, 0);
     object.pcircle(5, 5, 1, 0, 0, 0);
-    EXPECT_EQ(told(), Lines{"Circle 2835.0000 1417.5000 -567.0000 0 0.0000 0.0000 0.0000 0"});
+    EXPECT_EQ(drawn(), Lines{"Circle 2835.0000 1417.5000 -567.0000 0 0.0000 0.0000 0.0000 0"});
 }
 
 TEST_F(PlotCircles, DashedWholeCircleRunsInArcsAndEndsWithTheSolidRest) {
     useScreen();
     object.pcircledot(50, 50, 10, 0, 0, 1, 2, 1);
-    const auto lines = told();
+    const auto lines = drawn();
     // Way 2 pi 10 = 62.83 mm, period 3 mm: 20 dashes, then the rest.
     ASSERT_EQ(countOf(lines, "Circle"), 21);
     for (int i = 1; i <= 20; ++i) {
@@ -77,7 +77,7 @@ TEST_F(PlotCircles, DashedWholeCircleRunsInArcsAndEndsWithTheSolidRest) {
 TEST_F(PlotCircles, DashedArcShorterThanAPeriodIsDrawnFromZero) {
     useScreen();
     object.pcircledot(50, 50, 10, 90, 95, 0, 2, 1);
-    EXPECT_EQ(told(), Lines{"Circle 2835.0000 2835.0000 567.0000 0 0.0000 1.6581 0.0000 192"});
+    EXPECT_EQ(drawn(), Lines{"Circle 2835.0000 2835.0000 567.0000 0 0.0000 1.6581 0.0000 192"});
 }
 
 TEST_F(PlotCircles, DashedCircleWithoutPeriodOrRadiusIsADivisionFault) {
@@ -89,7 +89,7 @@ TEST_F(PlotCircles, DashedCircleWithoutPeriodOrRadiusIsADivisionFault) {
 TEST_F(PlotCircles, DashedCircleOfHairDashesEnds) {
     useScreen();
     object.pcircledot(5, 5, 100, 0, 0, 0, 1e-12, 0);
-    EXPECT_EQ(countOf(told(), "Circle"), clsplot1::kMostStrokes + 1);
+    EXPECT_EQ(countOf(drawn(), "Circle"), clsplot1::kMostStrokes + 1);
 }
 
 }  // namespace

@@ -11,18 +11,18 @@ using PlotFills = PlotTest;
 TEST_F(PlotFills, ModeSixChangesNothingAndItsNeighboursSetTheirNumbers) {
     useScreen();
     object.pfillMode(6);
-    EXPECT_EQ(told(), Lines{});
+    EXPECT_EQ(drawn(), Lines{});
     object.pfillMode(5);
     object.pfillMode(7);
-    EXPECT_EQ(told(), (Lines{"DrawMode = 5", "DrawMode = 7"}));
+    EXPECT_EQ(drawn(), (Lines{"DrawMode = 5", "DrawMode = 7"}));
 }
 
 TEST_F(PlotFills, ModesOutsideOneToSixteenChangeNothing) {
     useScreen();
     for (const double mode : {0.0, -1.0, 17.0, 2.5}) object.pfillMode(mode);
-    EXPECT_EQ(told(), Lines{});
+    EXPECT_EQ(drawn(), Lines{});
     object.pfillMode(16);
-    EXPECT_EQ(told(), Lines{"DrawMode = 16"});
+    EXPECT_EQ(drawn(), Lines{"DrawMode = 16"});
 }
 
 TEST_F(PlotFills, ModeOneCopiesThePenOnAPrinterWithColours) {
@@ -30,44 +30,45 @@ TEST_F(PlotFills, ModeOneCopiesThePenOnAPrinterWithColours) {
     object.pfillMode(1);
     object.setPrinterType("t");
     object.pfillMode(1);
-    EXPECT_EQ(told(), (Lines{"DrawMode = 1", "DrawMode = 13"}));
+    EXPECT_EQ(drawn(), (Lines{"DrawMode = 1", "DrawMode = 13"}));
 }
 
 TEST_F(PlotFills, BoxIsFilledInItsColourAndTheSurfaceIsPutBack) {
     useScreen();
     screen.setDrawMode(RasterMode::PenXorPaper);
     screen.setForeColor(40000);
-    told();
+    drawn();
     const Lines expected{"FillStyle = 0", "ForeColor = 255",
                          "DrawMode = 13", "Line 56.7000 56.7000 113.4000 170.1000 255 38",
                          "FillStyle = 1", "ForeColor = 40000",
                          "DrawMode = 7"};
     object.pFillBox(1, 1, 2, 3, 255);
-    EXPECT_EQ(told(), expected);
+    EXPECT_EQ(drawn(), expected);
     object.pfill(1, 1, 2, 3, 255);
-    EXPECT_EQ(told(), expected);
+    EXPECT_EQ(drawn(), expected);
 }
 
 TEST_F(PlotFills, CircleIsFilledInItsColourAndTheSurfaceIsPutBack) {
     useScreen();
     object.pFillCircle(1, 2, 1, 255);
-    EXPECT_EQ(told(), (Lines{"FillStyle = 0", "ForeColor = 255", "FillColor = 255", "DrawMode = 13",
-                             "Circle 56.7000 113.4000 56.7000 0 0.0000 0.0000 0.0000 0",
-                             "FillStyle = 1", "ForeColor = 0", "FillColor = 0", "DrawMode = 13"}));
+    EXPECT_EQ(drawn(),
+              (Lines{"FillStyle = 0", "ForeColor = 255", "FillColor = 255", "DrawMode = 13",
+                     "Circle 56.7000 113.4000 56.7000 0 0.0000 0.0000 0.0000 0", "FillStyle = 1",
+                     "ForeColor = 0", "FillColor = 0", "DrawMode = 13"}));
 }
 
 TEST_F(PlotFills, CircleOverflowsOnAKeptColourAbove32767) {
     useScreen();
     screen.setForeColor(32767);
-    told();
+    drawn();
     EXPECT_EQ(faultOf([&] { object.pFillCircle(1, 2, 1, 255); }), 0);
     screen.setForeColor(32768);
-    told();
+    drawn();
     EXPECT_EQ(faultOf([&] { object.pFillCircle(1, 2, 1, 255); }), 6);
-    EXPECT_EQ(told(), Lines{});
+    EXPECT_EQ(drawn(), Lines{});
     screen.setForeColor(0);
     screen.setFillColor(65535);
-    told();
+    drawn();
     EXPECT_EQ(faultOf([&] { object.pFillCircle(1, 2, 1, 255); }), 6);
 }
 
@@ -75,7 +76,7 @@ TEST_F(PlotFills, FaultStopsTheCallAndPutsNothingBack) {
     useScreen();
     failAt = "Line";
     EXPECT_EQ(faultOf([&] { object.pFillBox(1, 1, 2, 3, 255); }), 75);
-    EXPECT_EQ(told(), (Lines{"FillStyle = 0", "ForeColor = 255", "DrawMode = 13"}));
+    EXPECT_EQ(drawn(), (Lines{"FillStyle = 0", "ForeColor = 255", "DrawMode = 13"}));
 }
 
 TEST_F(PlotFills, BlackPolygonDrawsInModeOneAndAColouredOneCopies) {
@@ -83,12 +84,12 @@ TEST_F(PlotFills, BlackPolygonDrawsInModeOneAndAColouredOneCopies) {
     const std::array<double, 3> ys{10, 11, 30};
     useScreen();
     object.pFillPoly(xs, ys, 3, 0);
-    auto lines = told();
+    auto lines = drawn();
     EXPECT_EQ(lines[0], "ForeColor = 0");
     EXPECT_EQ(lines[1], "DrawMode = 1");
     EXPECT_EQ(lines.back(), "DrawMode = 13");
     object.pFillPoly(xs, ys, 3, 255);
-    lines = told();
+    lines = drawn();
     EXPECT_EQ(lines[0], "ForeColor = 255");
     EXPECT_EQ(lines[1], "DrawMode = 13");
     EXPECT_EQ(lines[lines.size() - 2], "ForeColor = 0");
@@ -101,7 +102,7 @@ TEST_F(PlotFills, SquarePolygonFills) {
     EXPECT_EQ(faultOf([&] { object.pFillPoly(xs, ys, 4, 255); }), 0);
     // Four triangles with three outlines each, and strokes over a height of 283.5 twips or more:
     // steps 11, 11, 22, 33, 44, 55, 66 pass it with the eighth (77).
-    const auto lines = told();
+    const auto lines = drawn();
     EXPECT_EQ(countOf(lines, "DrawWidth = 8.0000"), 4);
 }
 
@@ -117,15 +118,15 @@ TEST_F(PlotFills, PolygonOverflowsOnAKeptColourAbove32767) {
     const std::array<double, 3> xs{10, 30, 20};
     useScreen();
     screen.setForeColor(32768);
-    told();
+    drawn();
     EXPECT_EQ(faultOf([&] { object.pFillPoly(xs, xs, 3, 255); }), 6);
-    EXPECT_EQ(told(), Lines{});
+    EXPECT_EQ(drawn(), Lines{});
 }
 
 TEST_F(PlotFills, StrokesGetWiderTowardTheApex) {
     useScreen();
     object.pFillTri(10, 10, 30, 10.001, 20, 12);  // 113.4 twips high
-    const auto lines = told();
+    const auto lines = drawn();
     Lines widths;
     for (const auto& line : lines)
         if (line.starts_with("DrawWidth")) widths.push_back(line);
@@ -140,7 +141,7 @@ TEST_F(PlotFills, StrokesOnPaperStepByThePrintersPixel) {
     usePrinter();
     object.pFillTri(10, 10, 30, 10.001, 20, 12);
     // 113.4 / 2.4 = 47.25 pixels: 1 + 1 + 2 + ... + 9 = 46, so the eleventh stroke passes it.
-    EXPECT_EQ(countOf(told(), "Line"), 3 + 11);
+    EXPECT_EQ(countOf(drawn(), "Line"), 3 + 11);
 }
 
 // The strokes of two triangles, line by line: the same within rounding.
@@ -168,9 +169,9 @@ TEST_F(PlotFills, UprightFirstSideTakesTheStrokesOfTheTriangleSlightlyTurned) {
     const auto strokes = [this](double side, double lean, double apex) {
         useScreen();
         object.pline(0, 0, 0, 0, 1);  // the outline's width is written once only
-        told();
+        drawn();
         object.pFillTri(side, 10, side + lean, 30, apex, 20);
-        return told();
+        return drawn();
     };
     // On the surface's edge and off it; the apex on either side.
     for (const double side : {0.0, 40.0}) {
@@ -201,7 +202,7 @@ TEST_F(PlotFills, MovedSideLiesBetweenTheOtherTwo) {
 TEST_F(PlotFills, EllipseIsAFanOf24Triangles) {
     useScreen();
     object.pFillEllipse(50, 60, 10, 15, 0.5, 255);
-    const auto lines = told();
+    const auto lines = drawn();
     EXPECT_EQ(lines[0], "ForeColor = 255");
     EXPECT_EQ(lines[1], "DrawMode = 13");
     EXPECT_EQ(lines[lines.size() - 2], "ForeColor = 0");
@@ -220,15 +221,15 @@ TEST_F(PlotFills, EllipseOnAZeroValueBreaksItsFan) {
     useScreen();
     // The first corner stands on x = 10 + (-10) = 0, so the first sector is missing.
     object.pFillEllipse(-10, 60, 10, 0, 0.5, 255);
-    const long broken = countOf(told(), "DrawWidth = 1.0000");
+    const long broken = countOf(drawn(), "DrawWidth = 1.0000");
     object.pFillEllipse(-11, 60, 10, 0, 0.5, 255);
-    EXPECT_GT(countOf(told(), "DrawWidth = 1.0000"), broken);
+    EXPECT_GT(countOf(drawn(), "DrawWidth = 1.0000"), broken);
 }
 
 TEST_F(PlotFills, HugeTriangleEnds) {
     useScreen();
     object.pFillTri(0, 0, 1e9, 1, 5e8, 1e9);
-    EXPECT_EQ(countOf(told(), "Line"), 3 + clsplot1::kMostTriangleStrokes);
+    EXPECT_EQ(countOf(drawn(), "Line"), 3 + clsplot1::kMostTriangleStrokes);
 }
 
 TEST_F(PlotFills, FlatTriangleIsAFaultOrEnds) {

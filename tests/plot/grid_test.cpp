@@ -14,11 +14,11 @@ protected:
         bool major;
     };
 
-    // The lines that the surface was told, in order; majors are 2 wide.
+    // The lines that the surface was given, in order; majors are 2 wide.
     std::vector<Read> readLines() {
         std::vector<Read> result;
         bool major = false;
-        for (const auto& line : told()) {
+        for (const auto& line : drawn()) {
             if (line.starts_with("DrawWidth")) major = line == "DrawWidth = 2.0000";
             double v[4];
             if (std::sscanf(line.c_str(), "Line %lf %lf %lf %lf", &v[0], &v[1], &v[2], &v[3]) != 4)
@@ -60,7 +60,7 @@ TEST_F(PlotGrid, LinearAxisFromZeroToTenHasMinorsOneToNineThenMajors) {
 TEST_F(PlotGrid, LinesRunBetweenTheEndsOfTheOtherAxis) {
     useScreen();
     object.pgrid(0, 0, 100, 10, 10, 10, 0, 0, 100, 10, 10, 10, 0, 0, 0);
-    const auto lines = told();
+    const auto lines = drawn();
     EXPECT_EQ(countOf(lines, "Line 0.0000 0.0000 0.0000 5670.0000 0 6"), 1);
     EXPECT_EQ(countOf(lines, "Line 0.0000 5670.0000 5670.0000 5670.0000 0 6"), 1);
 }
@@ -76,11 +76,11 @@ TEST_F(PlotGrid, BackwardAxisDrawsTheSameLinesFromTheSmallerValue) {
 TEST_F(PlotGrid, ColoursShowOnlyWhenTheyAreOn) {
     useScreen();
     object.pgrid(0, 0, 100, 10, 5, 5, 0, 0, 100, 10, 5, 5, 0, 255, 128);
-    EXPECT_EQ(countOf(told(), "ForeColor = 0"), 4);
+    EXPECT_EQ(countOf(drawn(), "ForeColor = 0"), 4);
     object.setBlackWhite(true);
     object.pgrid(0, 0, 100, 10, 5, 5, 0, 0, 100, 10, 5, 5, 0, 255, 128);
     Lines colours;
-    for (const auto& line : told())
+    for (const auto& line : drawn())
         if (line.starts_with("ForeColor")) colours.push_back(line);
     EXPECT_EQ(colours,
               (Lines{"ForeColor = 128", "ForeColor = 255", "ForeColor = 128", "ForeColor = 255"}));
@@ -119,7 +119,7 @@ TEST_F(PlotGrid, UnknownKindDrawsNothingAfterTheMessage) {
     useScreen();
     object.pgrid(0, 0, 100, 10, 5, 1, 0, 0, 100, 10, 5, 1, 7, 255, 128);
     EXPECT_EQ(messages.shown.size(), 1U);
-    EXPECT_EQ(told(), Lines{});
+    EXPECT_EQ(drawn(), Lines{});
 }
 
 TEST_F(PlotGrid, StepOfZeroIsADivisionFault) {
@@ -140,9 +140,9 @@ TEST_F(PlotGrid, LogarithmicAxisFromZeroTellsAndEndsInADivisionFault) {
 TEST_F(PlotGrid, StepsThatWouldNeverEndStopAtTheLimit) {
     useScreen();
     object.pgrid(0, 0, 100, 10, 5, 1e-15, 0, 0, 100, 10, 5, 1, 0, 0, 0);
-    EXPECT_EQ(countOf(told(), "Line"), clsplot1::kMostStrokes);
+    EXPECT_EQ(countOf(drawn(), "Line"), clsplot1::kMostStrokes);
     object.pgrid(0, 1, 100, 1e300, 1e-9, 1e-9, 0, 1, 100, 10, 5, 1, 3, 0, 0);
-    EXPECT_EQ(countOf(told(), "Line"), clsplot1::kMostStrokes);
+    EXPECT_EQ(countOf(drawn(), "Line"), clsplot1::kMostStrokes);
 }
 
 TEST_F(PlotGrid, NegativeStepDrawsNoLinesOfItsKind) {

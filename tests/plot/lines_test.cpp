@@ -10,34 +10,35 @@ TEST_F(PlotLines, WidthZeroKeepsThePenAndIsNotRemembered) {
     object.pline(0, 0, 1, 1, 2);
     object.pline(0, 0, 1, 1, 0);
     object.pline(0, 0, 1, 1, 2);
-    EXPECT_EQ(countOf(told(), "DrawWidth"), 1);
+    EXPECT_EQ(countOf(drawn(), "DrawWidth"), 1);
 }
 
 TEST_F(PlotLines, BoxOfWidthZeroSetsTheThinnestPenWithoutRememberingIt) {
     useScreen();
     object.pline(0, 0, 1, 1, 2);
-    told();
+    drawn();
     object.pbox(1, 1, 2, 2, 0);
-    EXPECT_EQ(told(), (Lines{"DrawWidth = 1.0000", "Line 56.7000 56.7000 113.4000 113.4000 0 22"}));
+    EXPECT_EQ(drawn(),
+              (Lines{"DrawWidth = 1.0000", "Line 56.7000 56.7000 113.4000 113.4000 0 22"}));
     object.pline(0, 0, 1, 1, 2);  // still believed to be the pen
-    EXPECT_EQ(countOf(told(), "DrawWidth"), 0);
+    EXPECT_EQ(countOf(drawn(), "DrawWidth"), 0);
 }
 
 TEST_F(PlotLines, BoxOfANewWidthSetsThePenTwice) {
     useScreen();
     object.pbox(1, 1, 2, 2, 3);
-    EXPECT_EQ(countOf(told(), "DrawWidth = 3.0000"), 2);
+    EXPECT_EQ(countOf(drawn(), "DrawWidth = 3.0000"), 2);
 }
 
 TEST_F(PlotLines, AlternativeLineIsGreenWhateverThePenAndTheNextOneIsNot) {
     useScreen();
     object.setBlackWhite(true);
     object.ChangeColor(255, 2);
-    told();
+    drawn();
     object.pline(0, 0, 1, 0, 0, true);
     object.pline(0, 0, 1, 0, 0);
-    EXPECT_EQ(told(), (Lines{"Line 0.0000 0.0000 56.7000 0.0000 32768 6",
-                             "Line 0.0000 0.0000 56.7000 0.0000 255 6"}));
+    EXPECT_EQ(drawn(), (Lines{"Line 0.0000 0.0000 56.7000 0.0000 32768 6",
+                              "Line 0.0000 0.0000 56.7000 0.0000 255 6"}));
 }
 
 TEST_F(PlotLines, FailureOfTheSurfaceInALineIsSwallowedAndThePenStays) {
@@ -48,10 +49,10 @@ TEST_F(PlotLines, FailureOfTheSurfaceInALineIsSwallowedAndThePenStays) {
     EXPECT_EQ(object.LastX(), 5);
     failAt = "DrawWidth";
     EXPECT_EQ(faultOf([&] { object.pline(0, 0, 1, 1, 3); }), 0);
-    EXPECT_EQ(told(), Lines{"DrawWidth = 2.0000"});
+    EXPECT_EQ(drawn(), Lines{"DrawWidth = 2.0000"});
     failAt.clear();
     object.pline(0, 0, 1, 1, 3);  // 3 was never set, so it isn't remembered
-    EXPECT_EQ(countOf(told(), "DrawWidth = 3.0000"), 1);
+    EXPECT_EQ(countOf(drawn(), "DrawWidth = 3.0000"), 1);
 }
 
 TEST_F(PlotLines, FailureOfTheSurfaceInOtherLinesIsAFault) {
@@ -80,7 +81,7 @@ TEST_F(PlotLines, RelativeLineMovesBothAxesFromTheirOwnValues) {
     object.plinerelto(1, 2, 0);
     EXPECT_EQ(object.LastX(), 11);
     EXPECT_EQ(object.LastY(), 22);
-    EXPECT_EQ(told(), Lines{"Line 567.0000 1134.0000 623.7000 1247.4000 0 6"});
+    EXPECT_EQ(drawn(), Lines{"Line 567.0000 1134.0000 623.7000 1247.4000 0 6"});
 }
 
 TEST_F(PlotLines, MillimetreLineLeavesThePenIn32BitsAndTheMoveDoesNot) {
@@ -98,9 +99,10 @@ TEST_F(PlotLines, DashedLineOfTenMillimetresHasTwoDashesAndAnEmptyRest) {
     useUpwardWindow();  // 10 mm a unit
     object.plinedot(1, 5, 2, 5, 1, 3, 1);
     // The pen on the start, then a dash from 0 to 3 mm and one from 4 to 7 mm.
-    EXPECT_EQ(told(), (Lines{"DrawWidth = 1.0000", "Line 567.0000 2835.0000 567.0000 2835.0000 0 6",
-                             "Line 567.0000 2835.0000 737.1000 2835.0000 0 6",
-                             "Line 793.8000 2835.0000 963.9000 2835.0000 0 6"}));
+    EXPECT_EQ(drawn(),
+              (Lines{"DrawWidth = 1.0000", "Line 567.0000 2835.0000 567.0000 2835.0000 0 6",
+                     "Line 567.0000 2835.0000 737.1000 2835.0000 0 6",
+                     "Line 793.8000 2835.0000 963.9000 2835.0000 0 6"}));
     EXPECT_NEAR(object.LastX(), 1.8, 1e-6);  // the start of the period that isn't drawn
 }
 
@@ -128,7 +130,7 @@ TEST_F(PlotLines, DashedLineWithoutLengthIsADivisionFault) {
 TEST_F(PlotLines, DashedLineOfHairDashesEnds) {
     useScreen();
     object.plinedot(1, 1, 100, 1, 1, 1e-12, 0);
-    EXPECT_EQ(countOf(told(), "Line"), clsplot1::kMostStrokes + 1);
+    EXPECT_EQ(countOf(drawn(), "Line"), clsplot1::kMostStrokes + 1);
 }
 
 TEST_F(PlotLines, ArrowIsSixLinesWithItsBarATenthOfARadianOffTheSquare) {
@@ -149,7 +151,7 @@ TEST_F(PlotLines, ArrowIsSixLinesWithItsBarATenthOfARadianOffTheSquare) {
                          line(16, 20, 10 - s / 3, 20 + c / 3),
                          line(16, 20, 10 + s / 3, 20 - c / 3),
                          line(16, 20, 10 + s * 2 / 3, 20 - c * 2 / 3)};
-    Lines lines = told();
+    Lines lines = drawn();
     ASSERT_EQ(lines.size(), 7U);
     EXPECT_EQ(lines[0], "DrawWidth = 1.0000");
     for (std::size_t i = 0; i < expected.size(); ++i) {

@@ -76,27 +76,27 @@ TEST_F(PlotDevice, PaperPlotStandsFifteenFromTheLeftAndFortyFromTheTop) {
 
 TEST_F(PlotDevice, BindingTheScreenBlackensThePenAndNamesTheFont) {
     object.pinitialize(0, 0, 1, 1, 2, screen);
-    EXPECT_EQ(told(), (Lines{"ForeColor = 0", "Font = 굴림체"}));
+    EXPECT_EQ(drawn(), (Lines{"ForeColor = 0", "Font = 굴림체"}));
 }
 
 TEST_F(PlotDevice, BindingThePrinterSetsTwipsAndLeavesThePen) {
     object.pinitialize(0, 0, 1, 1, 1, printer);
-    EXPECT_EQ(told(), (Lines{"ScaleMode = 1", "Font = 굴림체"}));
+    EXPECT_EQ(drawn(), (Lines{"ScaleMode = 1", "Font = 굴림체"}));
 }
 
 TEST_F(PlotDevice, MagnificationOfZeroCountsAsOne) {
     object.pinitialize(0, 0, 0, 3, 2, screen);
-    told();
+    drawn();
     EXPECT_DOUBLE_EQ(object.cx(1), 56.7);
     object.plwidth(1);  // the mean of 1 and 3
-    EXPECT_EQ(told(), Lines{"DrawWidth = 2.0000"});
+    EXPECT_EQ(drawn(), Lines{"DrawWidth = 2.0000"});
 }
 
 TEST_F(PlotDevice, PenWidthIsAtLeastOnePixel) {
     useScreen();
     object.plwidth(0);
     object.plwidth(-4);
-    EXPECT_EQ(told(), (Lines{"DrawWidth = 1.0000", "DrawWidth = 1.0000"}));
+    EXPECT_EQ(drawn(), (Lines{"DrawWidth = 1.0000", "DrawWidth = 1.0000"}));
 }
 
 TEST_F(PlotDevice, RelativeMoveTakesTheNewYFromTheNewX) {
@@ -126,7 +126,7 @@ TEST_F(PlotDevice, ColourOnANewObjectIsBlackWhateverWasAsked) {
     useScreen();
     object.ChangeColor(255, 2);
     object.ChangeColor(255, 1);
-    EXPECT_EQ(told(), (Lines{"ForeColor = 0", "ForeColor = 0"}));
+    EXPECT_EQ(drawn(), (Lines{"ForeColor = 0", "ForeColor = 0"}));
 }
 
 TEST_F(PlotDevice, ColoursAreToldOnChangeOnly) {
@@ -138,7 +138,7 @@ TEST_F(PlotDevice, ColoursAreToldOnChangeOnly) {
     object.ChangeColor(65280, 1);
     object.ChangeColor(77, 3);
     object.ChangeColor(0, 2);
-    EXPECT_EQ(told(), (Lines{"ForeColor = 255", "BackColor = 65280", "ForeColor = 0"}));
+    EXPECT_EQ(drawn(), (Lines{"ForeColor = 255", "BackColor = 65280", "ForeColor = 0"}));
 }
 
 TEST_F(PlotDevice, BlackingThePenIsRememberedAsBlack) {
@@ -148,27 +148,27 @@ TEST_F(PlotDevice, BlackingThePenIsRememberedAsBlack) {
     object.setBlackWhite(false);
     object.ChangeColor(255, 2);
     object.setBlackWhite(true);
-    told();
+    drawn();
     object.ChangeColor(255, 2);
-    EXPECT_EQ(told(), Lines{"ForeColor = 255"});
+    EXPECT_EQ(drawn(), Lines{"ForeColor = 255"});
 }
 
 TEST_F(PlotDevice, ClearErasesTheScreenAndEndsThePrintersJob) {
     useScreen();
     object.Clear();
-    EXPECT_EQ(told(), Lines{"Cls"});
+    EXPECT_EQ(drawn(), Lines{"Cls"});
     usePrinter();
     object.Clear();
-    EXPECT_EQ(told(), Lines{"EndDoc"});
+    EXPECT_EQ(drawn(), Lines{"EndDoc"});
     bind(3, printer);
     object.Clear();
     object.EndPlot();
-    EXPECT_EQ(told(), Lines{});
+    EXPECT_EQ(drawn(), Lines{});
 }
 
 TEST_F(PlotDevice, ClearBeforeBindingDoesNothing) {
     EXPECT_EQ(faultOf([&] { object.Clear(); }), 0);
-    EXPECT_EQ(told(), Lines{});
+    EXPECT_EQ(drawn(), Lines{});
 }
 
 TEST_F(PlotDevice, NextSheetAsksOnTheScreenAndLeavesThePicture) {
@@ -177,7 +177,7 @@ TEST_F(PlotDevice, NextSheetAsksOnTheScreenAndLeavesThePicture) {
     object.SkipPage1();
     EXPECT_EQ(messages.texts(), (Lines{"Preceed to Next Page ? ", "Preceed to Next Page ? "}));
     EXPECT_EQ(messages.shown[0].icon, Icon::None);
-    EXPECT_EQ(told(), Lines{});
+    EXPECT_EQ(drawn(), Lines{});
 }
 
 TEST_F(PlotDevice, NextSheetOnPaperEndsTheJobOrTheSheet) {
@@ -185,14 +185,14 @@ TEST_F(PlotDevice, NextSheetOnPaperEndsTheJobOrTheSheet) {
     object.SkipPage();
     object.SkipPage1();
     object.EndPlot();
-    EXPECT_EQ(told(), (Lines{"EndDoc", "NewPage", "EndDoc"}));
+    EXPECT_EQ(drawn(), (Lines{"EndDoc", "NewPage", "EndDoc"}));
     EXPECT_TRUE(messages.shown.empty());
 }
 
 TEST_F(PlotDevice, EndPlotLeavesTheScreenAlone) {
     useScreen();
     object.EndPlot();
-    EXPECT_EQ(told(), Lines{});
+    EXPECT_EQ(drawn(), Lines{});
 }
 
 TEST_F(PlotDevice, OrientationIsAskedForOnceAndNotOnTheScreen) {
@@ -205,7 +205,7 @@ TEST_F(PlotDevice, OrientationIsAskedForOnceAndNotOnTheScreen) {
     EXPECT_EQ(messages.texts(), Lines{"change printer orientation at control pannel"});
     EXPECT_EQ(messages.shown[0].icon, Icon::Warning);
     EXPECT_EQ(starts.commands, Lines{"control.exe"});
-    EXPECT_EQ(told(), Lines{});
+    EXPECT_EQ(drawn(), Lines{});
 }
 
 TEST_F(PlotDevice, SetOrintIsPortraitUpToOne) {
@@ -213,7 +213,7 @@ TEST_F(PlotDevice, SetOrintIsPortraitUpToOne) {
     object.SetOrint(0);
     object.SetOrint(1);
     object.SetOrint(2);
-    EXPECT_EQ(told(), (Lines{"Orientation = 1", "Orientation = 1", "Orientation = 2"}));
+    EXPECT_EQ(drawn(), (Lines{"Orientation = 1", "Orientation = 1", "Orientation = 2"}));
 }
 
 TEST_F(PlotDevice, PrinterModeComesFromThePrintersPlanes) {
@@ -226,7 +226,8 @@ TEST_F(PlotDevice, PrinterModeComesFromThePrintersPlanes) {
     object.GetPrinterMode(false);
     object.pfillMode(1);
     object.ChangeColor(255, 2);
-    EXPECT_EQ(told(), (Lines{"DrawMode = 1", "ForeColor = 255", "DrawMode = 13", "ForeColor = 0"}));
+    EXPECT_EQ(drawn(),
+              (Lines{"DrawMode = 1", "ForeColor = 255", "DrawMode = 13", "ForeColor = 0"}));
 }
 
 TEST_F(PlotDevice, PrinterTypeIsExactlyTheLetterT) {
@@ -235,8 +236,8 @@ TEST_F(PlotDevice, PrinterTypeIsExactlyTheLetterT) {
         object.setPrinterType(text);
         object.pfillMode(1);
     }
-    EXPECT_EQ(told(), (Lines{"DrawMode = 13", "DrawMode = 13", "DrawMode = 1", "DrawMode = 1",
-                             "DrawMode = 1"}));
+    EXPECT_EQ(drawn(), (Lines{"DrawMode = 13", "DrawMode = 13", "DrawMode = 1", "DrawMode = 1",
+                              "DrawMode = 1"}));
 }
 
 TEST_F(PlotDevice, BindingAgainKeepsPenAndWidth) {
@@ -246,7 +247,7 @@ TEST_F(PlotDevice, BindingAgainKeepsPenAndWidth) {
     EXPECT_EQ(object.LastX(), 7);
     EXPECT_EQ(object.LastY(), 8);
     object.plineto(9, 9, 3);
-    EXPECT_EQ(countOf(told(), "DrawWidth"), 0);
+    EXPECT_EQ(countOf(drawn(), "DrawWidth"), 0);
 }
 
 TEST_F(PlotDevice, DrawingWithoutASurfaceIsAFault) {
@@ -284,7 +285,7 @@ TEST_F(PlotDevice, NothingInfiniteReachesTheSurface) {
     EXPECT_EQ(faultOf([&] { object.pcircle(1, 1, nan, 0, 0, 0); }), 6);
     EXPECT_EQ(faultOf([&] { object.pcircle(1, 1, 1, nan, 0, 0); }), 6);
     EXPECT_EQ(faultOf([&] { object.pline(1, 1, 2, 2, nan); }), 6);
-    for (const auto& line : told()) {
+    for (const auto& line : drawn()) {
         EXPECT_EQ(line.find("inf"), std::string::npos) << line;
         EXPECT_EQ(line.find("nan"), std::string::npos) << line;
     }

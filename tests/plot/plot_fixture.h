@@ -31,8 +31,8 @@ protected:
         recorded.clear();
     }
 
-    // What the surfaces were told since the last such call.
-    Lines told() {
+    // What the surfaces were given since the last such call.
+    Lines drawn() {
         Lines result;
         result.swap(recorded);
         return result;
@@ -49,7 +49,7 @@ protected:
     RecordingSurface printer{RecordingSurface::Kind::Printer,
                              [this](const std::string& line) { take(line); }};
     clsplot1 object{messages, starts, printer};
-    // While it isn't empty, a surface that is told something beginning like this fails.
+    // While it isn't empty, a surface that is given something beginning like this fails.
     std::string failAt;
 
 private:

@@ -58,7 +58,7 @@ protected:
         PlotSource source{points, cfg, panel, texts, messages};
         kelvo::plot(object, kind, kind == SurfaceKind::Screen ? screen : printer, source);
         boxes = panel.boxes;
-        Lines calls = told();
+        Lines calls = drawn();
         saves = std::erase(calls, "takeScale");
         return calls;
     }
@@ -248,7 +248,7 @@ TEST_F(PointPlots, BindingComesFirstThenTheScaleThenTheDrawing) {
     PanelDouble panel(cfg, recorded);
     PlotSource source{points, cfg, panel, texts, messages};
     kelvo::plot(object, SurfaceKind::Screen, screen, source);
-    const auto lines = told();
+    const auto lines = drawn();
     ASSERT_GT(lines.size(), 5U);
     EXPECT_EQ(Lines(lines.begin(), lines.begin() + 4),
               (Lines{"ForeColor = 0", "Font = 굴림체", "takeScale", "Cls"}));

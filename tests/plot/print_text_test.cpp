@@ -147,7 +147,7 @@ protected:
         std::vector<Placed> result;
         Placed now{1, 0, 0, {}};
         double size = 0;
-        for (const auto& line : told()) {
+        for (const auto& line : drawn()) {
             double v = 0;
             if (line == "EndDoc") ++now.sheet;
             if (std::sscanf(line.c_str(), "fontsize = %lf", &v) == 1) size = v;
@@ -184,7 +184,7 @@ TEST_F(UserPrint, EachSheetIsAJobOfItsOwnAndSetUpAnew) {
     mode.font = "바탕";
     disk.putText("/work/a.txt", numberedLines(63));
     print("a.txt");
-    const Lines lines = told();
+    const Lines lines = drawn();
     const Lines setUp{"ScaleMode = 1",  "Font = 굴림체",      "Font = 바탕",      "FontBold = 0",
                       "FontItalic = 0", "FontStrikethru = 0", "FontUnderline = 0"};
     ASSERT_GT(lines.size(), setUp.size());
@@ -201,7 +201,7 @@ TEST_F(UserPrint, EndSwitchesTheStylesOff) {
     mode.style = 2;
     disk.putText("/work/a.txt", "x\r\n");
     print("a.txt");
-    const Lines lines = told();
+    const Lines lines = drawn();
     EXPECT_EQ(Lines(lines.end() - 5, lines.end()),
               (Lines{"FontBold = 0", "FontItalic = 0", "FontStrikethru = 0", "FontUnderline = 0",
                      "EndDoc"}));
@@ -224,7 +224,7 @@ TEST_F(UserPrint, StylesAreSetByTheirIndexAndTheChecks) {
     disk.putText("/work/a.txt", "");
     const auto setUp = [&] {
         print("a.txt");
-        Lines lines = told();
+        Lines lines = drawn();
         lines.resize(lines.size() - 5);
         lines.erase(lines.begin(), lines.begin() + 2);
         return lines;
@@ -298,7 +298,7 @@ TEST_F(UserPrint, FormFeedWithTwoLinesBehindItReadsPastTheEnd) {
 TEST_F(UserPrint, MissingFileIsToldAndNothingIsDrawn) {
     print("kelvo.tmp");
     EXPECT_EQ(messages.texts(), Lines{"먼저 실행을 하십시오"});
-    EXPECT_EQ(told(), Lines{});
+    EXPECT_EQ(drawn(), Lines{});
 }
 
 TEST_F(UserPrint, LastLineReadStaysInTheSharedLine) {

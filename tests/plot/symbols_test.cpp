@@ -9,9 +9,9 @@ TEST_F(PlotSymbols, CircleOfFourMillimetresHasARadiusOfTwoTimesTheMagnification)
     double lw = 1;
     object.pinitialize(15, 40, 1.3, 1.3, 1, printer);
     object.pwindow(0, 0, 137, 1.1, 0, 1.1, 137, 0, 0);
-    told();
+    drawn();
     object.ticmark(0.5, 0.5, 4, 0, lw);
-    const auto lines = told();
+    const auto lines = drawn();
     ASSERT_EQ(lines.size(), 2U);
     EXPECT_NE(lines[1].find(" 147.4200 0 0.0000"), std::string::npos)
         << lines[1];  // 2 x 1.3 x 56.7
@@ -22,7 +22,7 @@ TEST_F(PlotSymbols, UnknownKindOnlySetsThePen) {
     useScreen();
     double lw = 3;
     object.ticmark(5, 5, 4, 6, lw);
-    EXPECT_EQ(told(), Lines{"DrawWidth = 3.0000"});
+    EXPECT_EQ(drawn(), Lines{"DrawWidth = 3.0000"});
     EXPECT_EQ(lw, 3);
 }
 
@@ -31,10 +31,10 @@ TEST_F(PlotSymbols, PlusAndCrossWidenTheCallersWidthEachTime) {
     double lw = 1;
     object.ticmark(5, 5, 4, 3, lw);
     EXPECT_EQ(lw, 1.4);
-    EXPECT_EQ(countOf(told(), "DrawWidth = 1.4000"), 1);
+    EXPECT_EQ(countOf(drawn(), "DrawWidth = 1.4000"), 1);
     object.ticmark(5, 5, 4, 4, lw);
     EXPECT_EQ(lw, 1.4 * 1.4);
-    EXPECT_EQ(countOf(told(), "DrawWidth = 1.9600"), 1);
+    EXPECT_EQ(countOf(drawn(), "DrawWidth = 1.9600"), 1);
 }
 
 TEST_F(PlotSymbols, TrianglesPointTowardAndAwayFromGrowingY) {
@@ -51,14 +51,14 @@ TEST_F(PlotSymbols, BoxIsThreeQuartersAsWideAsHigh) {
     useScreen();
     double lw = 0;
     object.ticmark(50, 50, 4, 2, lw);
-    EXPECT_EQ(told()[0], "Line 2920.0500 2948.4000 2920.0500 2721.6000 0 6");
+    EXPECT_EQ(drawn()[0], "Line 2920.0500 2948.4000 2920.0500 2721.6000 0 6");
 }
 
 TEST_F(PlotSymbols, SymbolHasTheSameSizeInEveryWindow) {
     double lw = 0;
     const auto heights = [&] {
         std::vector<double> result;
-        for (const auto& line : told()) {
+        for (const auto& line : drawn()) {
             double v[4];
             if (std::sscanf(line.c_str(), "Line %lf %lf %lf %lf", &v[0], &v[1], &v[2], &v[3]) == 4)
                 result.push_back(v[3] - v[1]);

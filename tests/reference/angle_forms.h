@@ -1,4 +1,4 @@
-// The angle forms step by step as they are told. Shares no line with src/.
+// The angle forms step by step. Shares no line with src/.
 #pragma once
 
 #include <cmath>

@@ -1,4 +1,4 @@
-// Geocentric coordinates and the two shifts as their formulas are told. Shares no line with src/.
+// Geocentric coordinates and the two shifts by their plain formulas. Shares no line with src/.
 #pragma once
 
 #include <cmath>

@@ -1,4 +1,4 @@
-// FormatNum step by step as it is told, on the platform's decimal formatter: what the fast one is
+// FormatNum step by step, on the platform's decimal formatter: what the fast one is
 // held against. Slow on purpose; shares no line with src/.
 #pragma once
 

@@ -1,4 +1,4 @@
-// The approximate geoid above Bessel as told. Shares no line with src/.
+// The approximate geoid above Bessel, term by term. Shares no line with src/.
 #pragma once
 
 #include <cmath>

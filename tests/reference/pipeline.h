@@ -1,4 +1,4 @@
-// The four pipelines with the parameters of a run's start, step by step as told, on the other
+// The four pipelines with the parameters of a run's start, step by step, on the other
 // references. Shares no line with src/.
 #pragma once
 

@@ -1,4 +1,4 @@
-// The projection as its formulas are told, every power by std::pow and nothing kept between
+// The projection by its plain formulas, every power by std::pow and nothing kept between
 // steps: the yardstick for the digits of the fast one. Shares no line with src/.
 #pragma once
 

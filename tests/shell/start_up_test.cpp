@@ -103,7 +103,7 @@ TEST_F(StartUp, NumbersAreReadAsAStreamPartedByBlanksCommasAndLineEnds) {
     EXPECT_EQ(kelvo.cfg().dS, 7);
     EXPECT_EQ(kelvo.cfg().dH, 0.3);
     EXPECT_EQ(kelvo.cfg().US0, 0.9996);
-    // What stands behind the 27th number is the line of the flags.
+    // What follows the 27th number is the line of the flags.
     EXPECT_EQ(kelvo.cfg().AddFlag, kNotAdded);
     EXPECT_EQ(kelvo.cfg().CorrFlag, Flag::On);
     EXPECT_EQ(kelvo.recent(1), "/app/data/a.dat");
