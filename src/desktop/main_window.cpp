@@ -185,9 +185,8 @@ void MainWindow::convertFiles(const QStringList& paths) {
     });
     const QStringList done = runs.convert(paths, this);
     if (gate_.isClosed()) return;
-    QString text = QStringLiteral("데이터 파일 %1개 중 %2개를 끝냈습니다.")
-                       .arg(paths.size())
-                       .arg(done.size());
+    QString text =
+        QStringLiteral("데이터 파일 %1개 중 %2개를 끝냈습니다.").arg(paths.size()).arg(done.size());
     for (const QString& line : done.first(std::min(done.size(), kMostLinesOfABox))) {
         text += QLatin1Char('\n') + line;
     }

@@ -17,8 +17,8 @@ QString SeveralRuns::convertOne(const QString& path) {
 }
 
 QStringList SeveralRuns::convert(const QStringList& paths, QWidget* parent) {
-    QProgressDialog progress(QString(), QStringLiteral("취소"), 0,
-                             static_cast<int>(paths.size()), parent);
+    QProgressDialog progress(QString(), QStringLiteral("취소"), 0, static_cast<int>(paths.size()),
+                             parent);
     progress.setObjectName(QStringLiteral("severalRuns"));
     progress.setWindowTitle(QStringLiteral("여러 데이터 파일 변환"));
     progress.setWindowModality(Qt::WindowModal);

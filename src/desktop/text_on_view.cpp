@@ -14,11 +14,19 @@
 
 namespace kelvo::desktop {
 
+namespace {
+
+constexpr int kMostCheckedLines = 20'000;  // checking more would hold up the typing
+
+}  // namespace
+
 TextOnView::TextOnView(frmKelvo& program, WidgetBook& book, StatusBar& status,
                        MessageBoxes& messages)
     : program_(program), book_(book), status_(status), messages_(messages) {
     TextViewer* viewer = book.viewer();
     connect(viewer, &TextViewer::modifiedChanged, this, &TextOnView::refresh);
+    connect(viewer, &TextViewer::loaded, this, &TextOnView::check);
+    connect(viewer, &TextViewer::edited, this, &TextOnView::check);
     connect(viewer, &TextViewer::placeChanged, this, [this] {
         if (textIsOnView()) status_.setPlace(book_.viewer()->place());
     });
@@ -77,8 +85,23 @@ void TextOnView::showSaving() {
     }
 }
 
+void TextOnView::check() {
+    findings_.clear();
+    const QString path = qt(program_.fileOnView());
+    TextViewer* viewer = book_.viewer();
+    if (path.endsWith(QLatin1String(".dat"), Qt::CaseInsensitive) &&
+        viewer->editor().blockCount() <= kMostCheckedLines) {
+        findings_ = program_.findingsIn(viewer->text());
+    }
+    status_.setFindings(path, findings_);
+    showNotes();
+}
+
 void TextOnView::showNotes() {
     std::vector<LineNote> notes;
+    for (const RunMessage& finding : findings_) {
+        notes.push_back({static_cast<int>(finding.line), qt(finding.text)});
+    }
     const StatusLine& line = program_.status();
     if (!line.messages().empty() && line.dataFile() == program_.fileOnView()) {
         for (const RunMessage& message : line.messages()) {

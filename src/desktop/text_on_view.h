@@ -4,6 +4,7 @@
 
 #include <QObject>
 #include <QString>
+#include <vector>
 
 #include "desktop/status_bar.h"
 #include "desktop/widget_book.h"
@@ -33,6 +34,7 @@ public:
 
 private:
     void showSaving();
+    void check();
     void showNotes();
     [[nodiscard]] bool plotIsOnView() const;
     [[nodiscard]] bool textIsOnView() const;
@@ -42,6 +44,7 @@ private:
     WidgetBook& book_;
     StatusBar& status_;
     MessageBoxes& messages_;
+    std::vector<RunMessage> findings_;  // in the text on view
 };
 
 }  // namespace kelvo::desktop

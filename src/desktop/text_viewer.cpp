@@ -87,6 +87,7 @@ void TextViewer::load(const QString& path, const std::string& text) {
     pause_.stop();
     emit modifiedChanged(false);
     emit placeChanged();
+    emit loaded();
 }
 
 std::string TextViewer::text() const {

@@ -47,6 +47,7 @@ public:
     void setFurtherActions(std::vector<QAction*> actions) { furtherActions_ = std::move(actions); }
 
 signals:
+    void loaded();
     void edited();  // a while after the last letter typed
     void modifiedChanged(bool on);
     void placeChanged();

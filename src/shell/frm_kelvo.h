@@ -7,6 +7,8 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "form/form.h"
 #include "form/services.h"
@@ -50,6 +52,9 @@ public:
     // on the screen. A fault leaves the old file whole.
     [[nodiscard]] const std::string& fileOnView() const;
     void saveOnView();
+
+    // What the check finds in the text of a data file, with the known points that a run would read.
+    [[nodiscard]] std::vector<RunMessage> findingsIn(std::string_view dataFile) const;
 
     // Prints a text file in the mode of the print mode panel.
     void PrintFile(const std::string& name);

@@ -60,6 +60,28 @@ private slots:
         QVERIFY(viewer().editor().noteOf(4).isEmpty());
     }
 
+    void whatTheCheckFindsIsMarkedInTheDataFileAndGoesWhenItIsMended() {
+        openData("a.dat",
+                 "1st 0 0 -24\r\nWGS A 37.3533 126.3229 30\r\nWSG B 37.3633 126.3429 30\r\nend\r\n "
+                 "\r\n");
+        auto* button = window_->findChild<QPushButton*>("statusFindings");
+        QVERIFY(button->isVisible());
+        QVERIFY(!viewer().editor().noteOf(3).isEmpty());
+        QTest::mouseClick(button, Qt::LeftButton);
+        auto* list = window_->findChild<QListWidget*>("statusMessageList");
+        QVERIFY(list->count() > 0);
+        list->setCurrentRow(list->count() - 1);
+        QTest::keyClick(list, Qt::Key_Return);
+        QCOMPARE(viewer().editor().textCursor().blockNumber(), 2);
+        for (int letter = 0; letter < 3; ++letter) QTest::keyClick(keyTarget(), Qt::Key_Delete);
+        QTest::keyClicks(keyTarget(), QStringLiteral("WGS"));
+        QTRY_VERIFY(viewer().editor().noteOf(3).isEmpty());
+        QVERIFY2(!button->isVisible(), qPrintable(button->text()));
+        // A report isn't checked.
+        hands_->click("mnuBatchGo");
+        QVERIFY(!button->isVisible());
+    }
+
     void controlSSavesTheTextOnViewToTheFileOnView() {
         openData("a.dat", "* a\r\nend\r\n");
         QTest::keyClicks(keyTarget(), QStringLiteral("*x "));
@@ -82,6 +104,8 @@ private slots:
         QTest::keyClick(keyTarget(), Qt::Key_S, Qt::ControlModifier);
         QCOMPARE(hands_->lines.size(), before + 1);
         QVERIFY(hands_->lines.back().starts_with("dialog|save"));
+        QTest::mouseClick(window_->findChild<QPushButton*>("plotSave"), Qt::LeftButton);
+        QCOMPARE(hands_->lines.size(), before + 2);
         hands_->click("cmdShow");
         hands_->click("cmdClose");
         QCOMPARE(label("statusSaving")->text(), QString());
