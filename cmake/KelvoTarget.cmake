@@ -7,7 +7,9 @@
 
 function(kelvo_compile_options target)
     target_compile_features(${target} PUBLIC cxx_std_20)
-    set_target_properties(${target} PROPERTIES CXX_EXTENSIONS OFF)
+    # One set of objects serves the programs and libkelvo, which shows its C functions only.
+    set_target_properties(${target} PROPERTIES CXX_EXTENSIONS OFF
+        POSITION_INDEPENDENT_CODE ON CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
     target_compile_options(${target} PRIVATE
         -ffp-contract=off -fno-math-errno -Wall -Wextra -Wconversion -Wshadow
         -Wnon-virtual-dtor -Wold-style-cast

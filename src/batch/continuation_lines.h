@@ -10,8 +10,8 @@ namespace kelvo {
 // Whether a line continues a block of lines: it begins with three blanks and holds a field.
 [[nodiscard]] bool isContinuationLine(std::string_view line);
 
-// Reads the next line and returns whether it continues a block of lines. Otherwise, and at the end of
-// the file, the block is over; a line that was read stays in LineBuf for the main loop.
+// Reads the next line and returns whether it continues a block of lines. Otherwise, and at the end
+// of the file, the block is over; a line that was read stays in LineBuf for the main loop.
 [[nodiscard]] bool readContinuationLine(CurrentRun& run);
 
 }  // namespace kelvo

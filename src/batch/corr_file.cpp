@@ -30,9 +30,12 @@ void fillSlot(CorrPoint& point, const FieldStore& fields, MessageBoxes& messages
     point.UserLam = degrees(6);
 }
 
+}  // namespace
+
 // The loop has two points of re-entry, and the end of the file is looked at in one of them only.
-void readPoints(CorrPointTable& table, TextReader& file, FieldStore& fields,
-                MessageBoxes& messages) {
+void ReadCorrFile(CorrPointTable& table, TextReader& file, FieldStore& fields,
+                  MessageBoxes& messages) {
+    table.CorrCount = 0;
     file.readLine(fields.LineBuf);
     while (!file.atEnd()) {
         genSub::ParseFields(fields, kCorrFields);
@@ -50,8 +53,6 @@ void readPoints(CorrPointTable& table, TextReader& file, FieldStore& fields,
     }
 }
 
-}  // namespace
-
 void ReadCorrFile(CorrPointTable& table, const std::string& path, FieldStore& fields, Disk& disk,
                   MessageBoxes& messages) {
     table.CorrCount = 0;
@@ -63,7 +64,7 @@ void ReadCorrFile(CorrPointTable& table, TextReader& file, const std::string& pa
                   FieldStore& fields, MessageBoxes& messages) {
     table.CorrCount = 0;
     try {
-        readPoints(table, file, fields, messages);
+        ReadCorrFile(table, file, fields, messages);
     } catch (RuntimeFault& fault) {
         fault.addPlace(path + " " + std::to_string(file.lineInHand()) + "번째 줄");
         throw;

@@ -24,5 +24,8 @@ void ReadCorrFile(CorrPointTable& table, const std::string& path, FieldStore& fi
 // The same of a file that is open; `path` is what a fault names.
 void ReadCorrFile(CorrPointTable& table, TextReader& file, const std::string& path,
                   FieldStore& fields, MessageBoxes& messages);
+// The same, and a fault names no file.
+void ReadCorrFile(CorrPointTable& table, TextReader& file, FieldStore& fields,
+                  MessageBoxes& messages);
 
 }  // namespace kelvo

@@ -54,11 +54,12 @@ void RunBatch(ConversionState& state, const RunPlaces& places, RunView& view, Di
     view.runBegins();
 
     const std::string outPath = resultFileOf(places.dataFile);
+    TextReader data(disk, places.dataFile);
     requireFilesOfTheirOwn(disk, std::array{outPath, places.detPath},
                            std::array{places.dataFile, places.CorPath});
-    TextReader data(disk, places.dataFile);
     TextWriter out(disk, outPath);
     TextWriter det(disk, places.detPath);
+    view.detailIsOpen();
 
     state.ParaDirty = true;
     AnnouncedMessages announced(messages, view);

@@ -20,7 +20,8 @@ struct RunPlaces {
 class RunView {
 public:
     virtual ~RunView() = default;
-    virtual void runBegins() {}  // the one-point panel goes out of the way
+    virtual void runBegins() {}     // the one-point panel goes out of the way
+    virtual void detailIsOpen() {}  // from here on a fault, too, leaves a detail file of this run
     // A box is about to be shown; the line of the data file that it is about counts from 1.
     virtual void messageComes(long /*line*/, const std::string& /*text*/) {}
     virtual void showResult() {}  // the result file comes into the viewer

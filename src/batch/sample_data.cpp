@@ -3,6 +3,7 @@
 #include <array>
 #include <string_view>
 
+#include "common/text_constants.h"
 #include "common/text_file.h"
 
 namespace kelvo {
@@ -241,10 +242,14 @@ std::span<const std::string_view> sampleManual() {
     return std::span(kLines).subspan(kFirstEnd + 1);
 }
 
+std::string sampleDataText() {
+    std::string text;
+    for (const std::string_view line : kLines) text.append(line).append(kLineEnd);
+    return text;
+}
+
 void WriteSampleData(Disk& disk, const std::string& path) {
-    TextWriter file(disk, path);
-    for (const std::string_view line : kLines) file.line(line);
-    file.close();
+    replaceWholeText(disk, path, sampleDataText());
 }
 
 }  // namespace kelvo

@@ -12,8 +12,10 @@ namespace kelvo {
 // The part of the sample after its first `end`: the manual, which its users leave there.
 [[nodiscard]] std::span<const std::string_view> sampleManual();
 
-// Writes the sample data file, which is the manual of the data-file language, replacing any
-// file of that name.
+// The sample data file, which is the manual of the data-file language.
+[[nodiscard]] std::string sampleDataText();
+
+// Writes it, replacing any file of that name as a whole.
 void WriteSampleData(Disk& disk, const std::string& path);
 
 }  // namespace kelvo

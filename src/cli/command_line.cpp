@@ -1,9 +1,7 @@
 #include "cli/command_line.h"
 
-#include <map>
 #include <string_view>
 
-#include "batch/run_batch.h"
 #include "common/disk.h"
 
 #ifdef _WIN32
@@ -68,15 +66,6 @@ CommandLineReading readCommandLine(std::span<const std::string> arguments) {
         }
     }
     if (line.dataFiles.empty()) return refused("no data file is given");
-
-    if (line.wish == CommandLine::Wish::Check) return {.line = line, .complaint = {}};
-    std::map<std::string, std::string> writers;
-    for (const std::string& data : line.dataFiles) {
-        const auto [first, fresh] = writers.emplace(resultFileOf(data), data);
-        if (!fresh) {
-            return refused(first->second + " and " + data + " would both write " + first->first);
-        }
-    }
     return {.line = line, .complaint = {}};
 }
 

@@ -24,7 +24,7 @@ struct CommandLineReading {
 };
 
 // Reads the arguments after the program's name. Refused: no data file, an unknown option, "-"
-// for standard input, two data files that would write the same result file in a conversion.
+// for standard input.
 [[nodiscard]] CommandLineReading readCommandLine(std::span<const std::string> arguments);
 
 // The arguments of this process after the program's name, in UTF-8 on every platform.

@@ -2,16 +2,20 @@
 #include <cstdio>
 #include <memory>
 #include <new>
+#include <set>
 #include <string>
 
 #include "batch/run_batch.h"
 #include "cli/check_files.h"
 #include "cli/command_line.h"
 #include "cli/progress_bar.h"
+#include "cli/shared_files.h"
 #include "common/application_folder.h"
 #include "common/disk.h"
 #include "common/paths.h"
 #include "common/run_time_fault.h"
+#include "common/shown_line.h"
+#include "common/standard_streams.h"
 
 #ifdef _WIN32
 #include <windows.h>
@@ -34,16 +38,23 @@ void print(std::FILE* stream, const std::string& text) {
     std::fwrite(text.data(), 1, text.size(), stream);
 }
 
+void printUsage(const std::string& complaint) {
+    print(stderr, shownLine("kelvo-batch: " + complaint) + "\n" + usageText());
+}
+
+// Of a line that begins with the name of its data file.
+constexpr std::size_t kLongestPrefix = 500;
+
 // Lines of standard error, each after the name of its data file if there are several.
 class StandardError {
 public:
     explicit StandardError(ProgressBar& bar) : bar_(bar) {}
 
-    void setPrefix(std::string prefix) { prefix_ = std::move(prefix); }
+    void setName(const std::string& name) { prefix_ = shownLine(name, kLongestPrefix) + ": "; }
 
     void line(const std::string& text) {
         bar_.clear();
-        print(stderr, prefix_ + text + "\n");
+        print(stderr, prefix_ + shownLine(text, kLongestShownLine - prefix_.size()) + "\n");
     }
 
 private:
@@ -93,8 +104,22 @@ void copyFile(Disk& disk, const std::string& from, const std::string& to) {
     target->close();
 }
 
-std::string detailBeside(const std::string& data) {
-    return genSub::StripExtension(data) + ".det";
+// Sees whether a run came so far that its detail file is of this run.
+class DetailWatch final : public RunView {
+public:
+    void detailIsOpen() override { isOpen = true; }
+
+    bool isOpen = false;
+};
+
+// What killed programs left beside the files of this call.
+void tidyUp(Disk& disk, const CommandLine& line, const std::string& folder) {
+    std::set<std::string> folders{folder};
+    for (const std::string& data : line.dataFiles) {
+        const std::size_t separator = data.rfind(kPathSeparator);
+        folders.insert(separator == std::string::npos ? "." : data.substr(0, separator + 1));
+    }
+    for (const std::string& name : folders) disk.tidy(name);
 }
 
 // Every file is a run of its own: nothing of one shows in another.
@@ -102,36 +127,42 @@ int runAll(const CommandLine& line, const std::string& folder, StandardError& er
            ProgressBar& bar) {
     const bool several = line.dataFiles.size() > 1;
     const std::string detail = folder + kPathSeparator + "kelvo.det";
-    PlatformDisk disk;
-    RunView noScreen;
+    const std::string known = folder + kPathSeparator + "kelvo.cor";
+    PlatformDisk disk(Pipes::Wait);
     StandardErrorMessages messages(error, line.quiet);
+    if (const auto complaint = complaintAboutSharedFiles(disk, line.dataFiles, detail, known)) {
+        printUsage(*complaint);
+        return kWrongUsage;
+    }
+    tidyUp(disk, line, folder);
 
     bool good = true;
-    bool lastEnded = false;
+    DetailWatch last;
     std::size_t done = 0;
     for (const std::string& data : line.dataFiles) {
         bar.show(done++, data);
-        if (several) error.setPrefix(data + ": ");
-        const RunPlaces places{.dataFile = data,
-                               .detPath = several ? detailBeside(data) : detail,
-                               .CorPath = folder + kPathSeparator + "kelvo.cor"};
+        if (several) error.setName(data);
+        const RunPlaces places{
+            .dataFile = data, .detPath = several ? detailBeside(data) : detail, .CorPath = known};
         const auto state = std::make_unique<ConversionState>();
-        lastEnded = ends([&] { RunBatch(*state, places, noScreen, disk, messages); }, error);
-        good &= lastEnded;
+        last = {};
+        good &= ends([&] { RunBatch(*state, places, last, disk, messages); }, error);
     }
-    // As ever, kelvo.det is that of the last run.
-    const std::string last = detailBeside(line.dataFiles.back());
-    if (several && lastEnded && !disk.sameFile(last, detail))
-        good &= ends([&] { copyFile(disk, last, detail); }, error);
+    // As ever, kelvo.det is that of the last run, also where a fault ended it.
+    const std::string lastDetail = detailBeside(line.dataFiles.back());
+    if (several && last.isOpen && !disk.sameFile(lastDetail, detail))
+        good &= ends([&] { copyFile(disk, lastDetail, detail); }, error);
     return good ? kRunEnded : kRunTimeFault;
 }
 
 // Findings are what was asked for and go to standard output.
 int checkAll(const CommandLine& line, const std::string& folder) {
     PlatformDisk disk;
-    const CheckOutput output{
-        .finding = [](const std::string& text) { print(stdout, text + "\n"); },
-        .failure = [](const std::string& text) { print(stderr, "kelvo-batch: " + text + "\n"); }};
+    const CheckOutput output{.finding = [](const std::string& text) { print(stdout, text + "\n"); },
+                             .failure =
+                                 [](const std::string& text) {
+                                     print(stderr, shownLine("kelvo-batch: " + text) + "\n");
+                                 }};
     switch (checkFiles(line.dataFiles, folder + kPathSeparator + "kelvo.cor", disk, output)) {
         case CheckResult::Clean:
             return kNothingFound;
@@ -143,15 +174,13 @@ int checkAll(const CommandLine& line, const std::string& folder) {
     return kNotRead;
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+int runCommand(int argc, char** argv) {
 #ifdef _WIN32
     SetConsoleOutputCP(CP_UTF8);
 #endif
     const CommandLineReading reading = readCommandLine(argumentsOfProcess(argc, argv));
     if (!reading.line) {
-        print(stderr, "kelvo-batch: " + reading.complaint + "\n" + usageText());
+        printUsage(reading.complaint);
         return kWrongUsage;
     }
     const CommandLine& line = *reading.line;
@@ -177,4 +206,17 @@ int main(int argc, char** argv) {
         error);
     if (!folderStands) return checks ? kNotRead : kRunTimeFault;
     return checks ? checkAll(line, folder) : runAll(line, folder, error, bar);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    secureStandardStreams();
+    try {
+        return runCommand(argc, argv);
+    } catch (const std::bad_alloc&) {
+        // Memory may have ended before there was a line to say so in.
+        std::fputs("run-time error 7: 메모리가 모자랍니다\n", stderr);
+        return kRunTimeFault;
+    }
 }

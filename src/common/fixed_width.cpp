@@ -97,6 +97,42 @@ private:
     std::array<char, kCount> text_;
 };
 
+enum class Blanked : bool { No, Yes };
+
+template <Blanked blanked>
+void appendNumber(std::string& line, double value, int width, int decimals) {
+    width = std::max(width, 0);
+    decimals = std::max(decimals, 0);
+    if (width > kLongestMask || decimals > kLongestMask) return;
+
+    const bool minus = finite(value) < 0;
+    const RoundedDigits rounded = roundedDigits(value, decimals);
+    // The sign of a number that rounds to zero stops the blanking: sign and zeros stay.
+    const bool minusZero = minus && rounded.digits == 0;
+    const int count = digitCount(rounded.digits);
+    const long integerDigits = std::max(long{count} + rounded.zeros - decimals, 0L);
+    const long places = std::max<long>(integerDigits, width);
+    const long shown = minusZero ? places : std::max<long>(integerDigits, std::min<long>(width, 1));
+    // The sign goes in front of the first digit, if a blank stands there to take it.
+    const bool sign = minus && (minusZero || places > shown);
+
+    const long blanks = blanked == Blanked::Yes ? places - shown - (sign && !minusZero ? 1 : 0) : 0;
+    const long length = blanks + (sign ? 1 : 0) + shown + (decimals > 0 ? 1 + decimals : 0);
+    line.resize(line.size() + static_cast<std::size_t>(length), ' ');
+    char* const end = line.data() + line.size();
+    // The digits without their point first; what is in front of it then moves up by one.
+    char* first = end - (shown + decimals);
+    std::fill(first, end, '0');
+    std::memcpy(end - rounded.zeros - count, SixteenDigits(rounded.digits).last(count),
+                static_cast<std::size_t>(count));
+    if (decimals > 0) {
+        std::memmove(first - 1, first, static_cast<std::size_t>(shown));
+        --first;
+        end[-decimals - 1] = '.';
+    }
+    if (sign) first[-1] = '-';
+}
+
 void appendFill(std::string& line, long count, char fill) {
     if (count > 0) line.append(static_cast<std::size_t>(count), fill);
 }
@@ -118,36 +154,11 @@ std::string Blanks(int n) {
 }
 
 void appendFormatNum(std::string& line, double value, int width, int decimals) {
-    width = std::max(width, 0);
-    decimals = std::max(decimals, 0);
-    if (width > kLongestMask || decimals > kLongestMask) return;
+    appendNumber<Blanked::Yes>(line, value, width, decimals);
+}
 
-    const bool minus = finite(value) < 0;
-    const RoundedDigits rounded = roundedDigits(value, decimals);
-    // The sign of a number that rounds to zero stops the blanking: sign and zeros stay.
-    const bool minusZero = minus && rounded.digits == 0;
-    const int count = digitCount(rounded.digits);
-    const long integerDigits = std::max(long{count} + rounded.zeros - decimals, 0L);
-    const long places = std::max<long>(integerDigits, width);
-    const long shown = minusZero ? places : std::max<long>(integerDigits, std::min<long>(width, 1));
-
-    const std::size_t start = line.size();
-    const long length = (minusZero ? 1 : 0) + places + (decimals > 0 ? 1 + decimals : 0);
-    line.resize(start + static_cast<std::size_t>(length), ' ');
-    const char* const front = line.data() + start;
-    char* const end = line.data() + line.size();
-    // The digits without their point first; what is in front of it then moves up by one.
-    char* first = end - (shown + decimals);
-    std::fill(first, end, '0');
-    std::memcpy(end - rounded.zeros - count, SixteenDigits(rounded.digits).last(count),
-                static_cast<std::size_t>(count));
-    if (decimals > 0) {
-        std::memmove(first - 1, first, static_cast<std::size_t>(shown));
-        --first;
-        end[-decimals - 1] = '.';
-    }
-    // The sign goes in front of the first digit, if a blank stands there to take it.
-    if (minus && first > front) first[-1] = '-';
+void appendBareNum(std::string& line, double value, int width, int decimals) {
+    appendNumber<Blanked::No>(line, value, width, decimals);
 }
 
 std::string FormatNum(double value, int width, int decimals) {

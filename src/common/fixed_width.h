@@ -27,6 +27,9 @@ namespace kelvo::genSub {
 // Appends FormatNum to a line; what every table uses.
 void appendFormatNum(std::string& line, double value, int width, int decimals);
 
+// The same without its blanks.
+void appendBareNum(std::string& line, double value, int width, int decimals);
+
 // Where a text stands in its columns. Any other number: as it is, nothing filled.
 enum class Align : int { Left = 0, Right = 1 };
 

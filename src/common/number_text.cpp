@@ -67,7 +67,7 @@ bool vanishes(std::string_view mantissa, std::string_view exponent) {
     const auto [end, error] =
         std::from_chars(exponent.data(), exponent.data() + exponent.size(), power);
     if (error != std::errc{} && !exponent.empty()) return exponent.front() == '-';
-    return place + power < 0;
+    return power < -place;  // the sum of the two could leave the range of an integer
 }
 
 // The usual number: digits, a point, an exponent introduced by E. Nothing for any other.

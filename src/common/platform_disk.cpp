@@ -1,22 +1,16 @@
-#include <algorithm>
 #include <array>
 #include <cerrno>
-#include <cstdio>
+#include <chrono>
 #include <filesystem>
-#include <random>
 #include <system_error>
+#include <utility>
 
 #include "common/disk.h"
-#include "common/run_time_fault.h"
-
-#ifdef _WIN32
-#include <io.h>
-#include <windows.h>
-#else
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-#endif
+#include "common/file_calls.h"
+#include "common/file_faults.h"
+#include "common/file_replacement.h"
+#include "common/folder_turn.h"
+#include "common/letter_case.h"
 
 namespace kelvo {
 
@@ -24,121 +18,60 @@ namespace fs = std::filesystem;
 
 namespace {
 
-fs::path pathOf(const std::string& path) {
-    return {std::u8string(path.begin(), path.end())};
-}
+constexpr std::chrono::milliseconds kPatience{500};
 
-std::string textOf(const fs::path& path) {
-    const std::u8string text = path.u8string();
-    return {text.begin(), text.end()};
-}
-
-Fault faultOf(int error, const fs::path& path) {
-    std::error_code ignored;
-    switch (error) {
-        case ENOENT:
-            // A missing folder and a missing file have one error; the folder tells them apart.
-            if (!path.has_filename()) return Fault::PathNotFound;
-            return path.has_parent_path() && !fs::is_directory(path.parent_path(), ignored)
-                       ? Fault::PathNotFound
-                       : Fault::FileNotFound;
-        case ENOTDIR:
-        case ENAMETOOLONG:
-            return Fault::PathNotFound;
-        case ENOSPC:
-        case EFBIG:
-#ifdef EDQUOT
-        case EDQUOT:
-#endif
-            return Fault::DiskFull;
-        case EACCES:
-        case EPERM:
-        case EROFS:
-            return fs::is_directory(path, ignored) ? Fault::PathFileAccess
-                                                   : Fault::PermissionDenied;
-        case EIO:
-        case ENXIO:
-        case ENODEV:
-            return Fault::DiskNotReady;
-        default:
-            return Fault::PathFileAccess;
+// A file open for reading, or for writing at its end.
+class OpenSystemFile {
+public:
+    OpenSystemFile(Pipes pipes, fs::path path, bool append)
+        : calls_(pipes),
+          path_(std::move(path)),
+          file_(append ? calls_.openForAppending(path_) : calls_.openForReading(path_)) {
+        if (file_ < 0) raiseError(-file_, path_);
     }
-}
+    ~OpenSystemFile() {
+        if (file_ >= 0) calls_.close(file_);
+    }
+    OpenSystemFile(const OpenSystemFile&) = delete;
+    OpenSystemFile& operator=(const OpenSystemFile&) = delete;
 
-[[noreturn]] void raiseError(int error, const fs::path& path) {
-    const Fault fault = faultOf(error, path);
-    raise(fault, std::string(faultSentence(fault)) + " (" + textOf(path) + ")");
-}
+    std::size_t read(std::span<char> buffer) {
+        const std::int64_t count = calls_.read(file_, buffer.data(), buffer.size());
+        if (count < 0) raiseError(static_cast<int>(-count), path_);
+        return static_cast<std::size_t>(count);
+    }
+    void write(std::string_view bytes) {
+        if (const int error = calls_.write(file_, bytes); error < 0) raiseError(-error, path_);
+    }
+    void close() {
+        const int error = calls_.close(std::exchange(file_, -EBADF));
+        if (error < 0) raiseError(-error, path_);
+    }
 
-using File = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
-
-File openFile(const fs::path& path, const char* mode) {
-    std::error_code ignored;
-    if (fs::is_directory(path, ignored)) raiseError(EISDIR, path);
-#ifdef _WIN32
-    const std::wstring wideMode(mode, mode + std::char_traits<char>::length(mode));
-    std::FILE* file = _wfopen(path.c_str(), wideMode.c_str());
-#else
-    std::FILE* file = std::fopen(path.c_str(), mode);
-#endif
-    if (file == nullptr) raiseError(path.empty() ? ENOTDIR : errno, path);
-    // Readers and writers buffer by themselves.
-    std::setvbuf(file, nullptr, _IONBF, 0);
-    return {file, &std::fclose};
-}
+private:
+    SystemFileCalls calls_;
+    fs::path path_;
+    FileHandle file_;
+};
 
 class FileReader final : public ByteReader {
 public:
-    explicit FileReader(fs::path path) : path_(std::move(path)), file_(openFile(path_, "rb")) {}
-
-    std::size_t read(std::span<char> buffer) override {
-        const std::size_t count = std::fread(buffer.data(), 1, buffer.size(), file_.get());
-        if (count < buffer.size() && std::ferror(file_.get()) != 0) raiseError(errno, path_);
-        return count;
-    }
+    FileReader(Pipes pipes, fs::path path) : file_(pipes, std::move(path), false) {}
+    std::size_t read(std::span<char> buffer) override { return file_.read(buffer); }
 
 private:
-    fs::path path_;
-    File file_;
+    OpenSystemFile file_;
 };
 
-class FileWriter final : public ByteWriter {
+class FileAppender final : public ByteWriter {
 public:
-    FileWriter(fs::path path, const char* mode)
-        : path_(std::move(path)), file_(openFile(path_, mode)) {}
-
-    void write(std::string_view bytes) override {
-        if (std::fwrite(bytes.data(), 1, bytes.size(), file_.get()) != bytes.size())
-            raiseError(errno, path_);
-    }
-
-    void close() override {
-        if (std::fclose(file_.release()) != 0) raiseError(errno, path_);
-    }
-
-    // Hands the bytes to the medium itself, so that the rename that follows can't come first.
-    void settle() {
-#ifdef _WIN32
-        if (_commit(_fileno(file_.get())) != 0) raiseError(errno, path_);
-#else
-        if (fsync(fileno(file_.get())) != 0 && errno != EINVAL && errno != EROFS)
-            raiseError(errno, path_);
-#endif
-    }
+    FileAppender(Pipes pipes, fs::path path) : file_(pipes, std::move(path), true) {}
+    void write(std::string_view bytes) override { file_.write(bytes); }
+    void close() override { file_.close(); }
 
 private:
-    fs::path path_;
-    File file_;
+    OpenSystemFile file_;
 };
-
-// A name beside the target that no other program, and no other copy of this one, is using.
-fs::path nameBeside(const fs::path& target) {
-    std::random_device random;
-    std::array<char, 32> suffix{};
-    std::snprintf(suffix.data(), suffix.size(), ".%08x%08x.new", random(), random());
-    // The name is its own, so that also the longest name allowed has room beside it.
-    return target.parent_path() / ("kelvo" + std::string(suffix.data()));
-}
 
 // Where a link leads in the end, also if nothing is there yet.
 fs::path behindLinks(fs::path path) {
@@ -152,74 +85,96 @@ fs::path behindLinks(fs::path path) {
     return path;
 }
 
-void renameOver(const fs::path& from, const fs::path& to) {
-#ifdef _WIN32
-    if (MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) ==
-        0)
-        raiseError(EACCES, to);
-#else
-    if (std::rename(from.c_str(), to.c_str()) != 0) raiseError(errno, to);
-#endif
+// The system would take such a name for what stands in front of the NUL.
+fs::path checkedPath(const std::string& path) {
+    if (path.find('\0') != std::string::npos) raise(Fault::FileNotFound);
+    return pathOf(path);
 }
 
-void settleFolder([[maybe_unused]] const fs::path& folder) {
-#ifndef _WIN32
-    // So that the new name outlives a power cut; a folder that can't be opened changes nothing.
-    const int descriptor = ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY);
-    if (descriptor < 0) return;
-    fsync(descriptor);
-    ::close(descriptor);
-#endif
+bool areOneFile(const fs::path& one, const fs::path& other) {
+    std::error_code error;
+    return fs::equivalent(one, other, error) && !error;
+}
+
+// Found out from any file in it whose name has letters.
+bool ignoresCase(const SystemFileCalls& calls, const fs::path& folder) {
+    if (kFileNamesIgnoreCase) return true;
+    for (const std::string& name : calls.namesIn(folder)) {
+        std::string changed = upperCased(name);
+        if (changed == name) changed = lowerCased(name);
+        if (changed != name) return areOneFile(folder / pathOf(name), folder / pathOf(changed));
+    }
+    return false;
+}
+
+void endWhatWasLeftAt(SystemFileCalls& calls, const fs::path& path, const std::string& name) {
+    if (isNameOfNewFile(name)) calls.removeLeftover(path);
+    if (!isNameOfCopy(name) || !calls.isLeftover(path)) return;
+    const FileHandle file = calls.openForReading(path);
+    if (file < 0) return;
+    std::string bytes;
+    const int error = calls.readAll(file, bytes);
+    calls.close(file);
+    if (error == 0) finishInPlace(calls, path, bytes);
+}
+
+void endWhatWasLeft(const fs::path& folder) {
+    SystemFileCalls calls;
+    for (const std::string& name : calls.namesIn(folder))
+        endWhatWasLeftAt(calls, folder / pathOf(name), name);
 }
 
 }  // namespace
 
 std::unique_ptr<ByteReader> PlatformDisk::openForReading(const std::string& path) {
-    return std::make_unique<FileReader>(pathOf(path));
+    return std::make_unique<FileReader>(pipes_, checkedPath(path));
 }
 
 std::unique_ptr<ByteWriter> PlatformDisk::openForWriting(const std::string& path) {
-    return std::make_unique<FileWriter>(pathOf(path), "wb");
+    return writeAnew(std::make_unique<SystemFileCalls>(pipes_), behindLinks(checkedPath(path)));
 }
 
 std::unique_ptr<ByteWriter> PlatformDisk::openForAppending(const std::string& path) {
-    return std::make_unique<FileWriter>(pathOf(path), "ab");
+    return std::make_unique<FileAppender>(pipes_, checkedPath(path));
 }
 
 void PlatformDisk::replace(const std::string& path, std::string_view bytes) {
-    const fs::path target = behindLinks(pathOf(path));
-    std::error_code ignored;
-    const bool there = fs::exists(target, ignored);
-    if (there) {
-        // A file that may not be written is refused, and a device or pipe is written in place.
-        { const File probe = openFile(target, "r+b"); }
-        if (!fs::is_regular_file(target, ignored)) {
-            FileWriter device(target, "wb");
-            device.write(bytes);
-            device.close();
-            return;
-        }
-    }
-    const fs::path fresh = nameBeside(target);
-    try {
-        FileWriter writer(fresh, "wb");
-        writer.write(bytes);
-        writer.settle();
-        writer.close();
-        if (there) fs::permissions(fresh, fs::status(target, ignored).permissions(), ignored);
-        renameOver(fresh, target);
-    } catch (const RuntimeFault& fault) {
-        fs::remove(fresh, ignored);
-        // The user knows the file by its own name, not by the one beside it.
-        raise(fault.fault(), std::string(faultSentence(fault.fault())) + " (" + path + ")");
-    }
-    settleFolder(target.parent_path());
+    SystemFileCalls calls(pipes_);
+    replaceFile(calls, behindLinks(checkedPath(path)), bytes);
+}
+
+void PlatformDisk::rename(const std::string& from, const std::string& to) {
+    SystemFileCalls calls(pipes_);
+    const fs::path source = checkedPath(from);
+    if (const int error = calls.rename(source, checkedPath(to)); error < 0)
+        raiseError(-error, source);
 }
 
 bool PlatformDisk::sameFile(const std::string& one, const std::string& other) {
+    return areOneFile(pathOf(one), pathOf(other));
+}
+
+std::string PlatformDisk::placeOf(const std::string& path) {
+    const SystemFileCalls calls;
+    const fs::path file = behindLinks(pathOf(path));
+    if (auto identity = calls.identityOf(file)) return *identity;
+    const fs::path folder = file.has_parent_path() ? file.parent_path() : fs::path(".");
+    const std::string name = textOf(file.filename());
+    const auto identity = calls.identityOf(folder);
+    if (!identity) return textOf(file);
+    return *identity + "/" + (ignoresCase(calls, folder) ? upperCased(name) : name);
+}
+
+void PlatformDisk::tidy(const std::string& folder) {
+    endWhatWasLeft(pathOf(folder));
+    if (std::exchange(temporaryFolderIsTidy_, true)) return;
     std::error_code error;
-    const bool same = fs::equivalent(pathOf(one), pathOf(other), error);
-    return !error && same;
+    const fs::path temporary = fs::temp_directory_path(error);
+    if (!error) endWhatWasLeft(temporary);
+}
+
+std::unique_ptr<Turn> PlatformDisk::takeTurn(const std::string& folder) {
+    return takeTurnAt(pathOf(folder), kPatience);
 }
 
 std::string PlatformDisk::currentFolder() {

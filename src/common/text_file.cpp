@@ -14,9 +14,20 @@ namespace {
 constexpr std::size_t kWriteBuffer = 32768;
 constexpr int kEndOfFile = -1;
 
+void closeQuietly(ByteWriter& file) {
+    try {
+        file.close();
+    } catch (const RuntimeFault&) {
+        // Another fault is on its way; a late failure of this file adds nothing to it.
+    }
+}
+
 }  // namespace
 
-TextReader::TextReader(Disk& disk, const std::string& path) : file_(disk.openForReading(path)) {}
+TextReader::TextReader(Disk& disk, const std::string& path)
+    : TextReader(disk.openForReading(path)) {}
+
+TextReader::TextReader(std::unique_ptr<ByteReader> file) : file_(std::move(file)) {}
 
 bool TextReader::fill() {
     if (next_ < end_) return true;
@@ -72,6 +83,27 @@ void TextReader::readLine(std::string& line) {
     decodeCodePage(raw_, line);
 }
 
+bool TextReader::isAtEndOfItem() {
+    const int next = peek();
+    return next == ',' || next == '\r' || next == '\n' || next == kEndOfFile;
+}
+
+// Behind the opening quote; up to the closing one, which goes with it.
+void TextReader::readQuoted() {
+    bool ownQuotes = false;
+    for (int next = peek(); next != kEndOfFile; next = peek()) {
+        if (ownQuotes && (next == '\r' || next == '\n')) return;
+        ++next_;
+        if (next == '"') {
+            // `""x"`: a quote that the text itself begins with.
+            if (raw_.empty() && !isAtEndOfItem() && peek() != ' ') ownQuotes = true;
+            if (!ownQuotes || isAtEndOfItem()) return;
+        }
+        raw_.push_back(static_cast<char>(next));
+        checkLength(raw_.size());
+    }
+}
+
 void TextReader::readTextItem(std::string& item) {
     if (atEnd()) raise(Fault::InputPastEnd);
     while (peek() == ' ') ++next_;
@@ -79,17 +111,12 @@ void TextReader::readTextItem(std::string& item) {
     const bool quoted = peek() == '"';
     if (quoted) {
         ++next_;
-        while (peek() != '"' && peek() != kEndOfFile) {
-            raw_.push_back(buffer_[next_++]);
-            checkLength(raw_.size());
-        }
-        if (peek() == '"') ++next_;
+        readQuoted();
     }
-    while (peek() != ',' && peek() != '\r' && peek() != '\n' && peek() != kEndOfFile) {
+    for (std::size_t length = raw_.size(); !isAtEndOfItem(); checkLength(++length)) {
         // Behind the closing quote only the end of the item is looked for.
         if (!quoted) raw_.push_back(buffer_[next_]);
         ++next_;
-        checkLength(raw_.size());
     }
     if (peek() == ',')
         ++next_;
@@ -124,14 +151,17 @@ double TextReader::readNumber() {
 }
 
 TextWriter::TextWriter(Disk& disk, const std::string& path, WriteMode mode)
-    : file_(mode == WriteMode::Append ? disk.openForAppending(path) : disk.openForWriting(path)) {
+    : TextWriter(mode == WriteMode::Append ? disk.openForAppending(path)
+                                           : disk.openForWriting(path)) {}
+
+TextWriter::TextWriter(std::unique_ptr<ByteWriter> file) : file_(std::move(file)) {
     buffer_.reserve(kWriteBuffer + 1024);
 }
 
 TextWriter::~TextWriter() {
     try {
         if (file_) close();
-    } catch (const RuntimeFault&) {
+    } catch (const std::exception&) {
         // Another fault is on its way; a late failure of this file adds nothing to it.
         file_.reset();
     }
@@ -153,20 +183,29 @@ void TextWriter::flush() {
 void TextWriter::close() {
     if (!file_) return;
     const std::unique_ptr<ByteWriter> file = std::exchange(file_, nullptr);
-    if (!buffer_.empty()) file->write(std::exchange(buffer_, {}));
+    try {
+        if (!buffer_.empty()) file->write(std::exchange(buffer_, {}));
+    } catch (const RuntimeFault&) {
+        // What did arrive stands.
+        closeQuietly(*file);
+        throw;
+    }
     file->close();
 }
 
-std::string readWholeText(Disk& disk, const std::string& path) {
+std::string readWholeFile(Disk& disk, const std::string& path, std::size_t largest) {
     const auto file = disk.openForReading(path);
     std::string bytes;
     std::array<char, 65536> buffer{};
     while (const std::size_t count = file->read(buffer)) {
         bytes.append(buffer.data(), count);
-        if (bytes.size() > kLargestText)
-            raise(Fault::Overflow, "파일이 너무 큽니다 (" + path + ")");
+        if (bytes.size() > largest) raise(Fault::Overflow, "파일이 너무 큽니다 (" + path + ")");
     }
+    return bytes;
+}
 
+std::string readWholeText(Disk& disk, const std::string& path, std::size_t largest) {
+    const std::string bytes = readWholeFile(disk, path, largest);
     std::string text;
     text.reserve(bytes.size() + bytes.size() / 2);
     std::string_view rest = bytes;

@@ -21,8 +21,8 @@ class TextReader {
 public:
     // Faults as Disk::openForReading.
     TextReader(Disk& disk, const std::string& path);
-    // Of bytes from anywhere.
-    explicit TextReader(std::unique_ptr<ByteReader> bytes) : file_(std::move(bytes)) {}
+    // Text from wherever the bytes come.
+    explicit TextReader(std::unique_ptr<ByteReader> file);
 
     [[nodiscard]] bool atEnd();
 
@@ -30,7 +30,9 @@ public:
     void readLine(std::string& line);
 
     // Reads one text item: leading blanks go; it ends at a comma or a line end, which goes with
-    // it. An item in double quotes is read without them. Fault 62 at the end of the file.
+    // it. An item in double quotes is read without them; if it begins with a quote of its own,
+    // behind the opening one, it ends at a quote with which the item ends. Fault 62 at the end of
+    // the file.
     void readTextItem(std::string& item);
 
     // Reads one number: any run of blanks, commas and line ends parts it from the one before. A
@@ -46,6 +48,8 @@ private:
     bool fill();
     [[nodiscard]] int peek();
     void skipLineEnd();
+    [[nodiscard]] bool isAtEndOfItem();
+    void readQuoted();
     static void checkLength(std::size_t length);
 
     std::unique_ptr<ByteReader> file_;
@@ -64,6 +68,8 @@ class TextWriter {
 public:
     // Opens at once. Faults as Disk::openForWriting and openForAppending.
     TextWriter(Disk& disk, const std::string& path, WriteMode mode = WriteMode::Replace);
+    // To wherever the bytes go.
+    explicit TextWriter(std::unique_ptr<ByteWriter> file);
     TextWriter(const TextWriter&) = delete;
     TextWriter& operator=(const TextWriter&) = delete;
     // What was written stands in the file, also when the writer goes in the course of a fault.
@@ -84,8 +90,13 @@ private:
 // The largest file that is held as a whole, in bytes; a larger one is fault 6.
 inline constexpr std::size_t kLargestText = 64U << 20U;
 
+// The bytes of a file as they stand; more than `largest` are fault 6.
+[[nodiscard]] std::string readWholeFile(Disk& disk, const std::string& path,
+                                        std::size_t largest = kLargestText);
+
 // The whole text of a file with every line end made CR LF, and a text put in place of a file.
-[[nodiscard]] std::string readWholeText(Disk& disk, const std::string& path);
+[[nodiscard]] std::string readWholeText(Disk& disk, const std::string& path,
+                                        std::size_t largest = kLargestText);
 void replaceWholeText(Disk& disk, const std::string& path, std::string_view text);
 
 }  // namespace kelvo

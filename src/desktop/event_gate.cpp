@@ -3,8 +3,15 @@
 #include <QCursor>
 #include <QGuiApplication>
 #include <exception>
+#include <new>
 
 namespace kelvo::desktop {
+
+namespace {
+
+constexpr int kOutOfMemory = 7;
+
+}  // namespace
 
 void EventGate::run(const Work& work, Event event) {
     if (closed_) return;
@@ -31,6 +38,9 @@ void EventGate::guarded(const Work& work) {
     } catch (const RuntimeFault& fault) {
         closed_ = true;
         onFault(fault.number(), fault.text());
+    } catch (const std::bad_alloc&) {
+        closed_ = true;
+        onFault(kOutOfMemory, "메모리가 모자랍니다");
     } catch (const std::exception& failure) {
         closed_ = true;
         onFault(0, failure.what());

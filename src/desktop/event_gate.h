@@ -28,6 +28,9 @@ public:
     // Told of a fault; the program is expected to end soon, and no event gets through any more.
     std::function<void(int number, const std::string& text)> onFault;
 
+    // True while an event is on its way through the form.
+    [[nodiscard]] bool isBusy() const { return depth_ > 0; }
+
     [[nodiscard]] bool isClosed() const { return closed_; }
     void close() { closed_ = true; }
 

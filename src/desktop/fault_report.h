@@ -6,14 +6,13 @@
 
 namespace kelvo::desktop {
 
-// Writes text that would be lost into a new file of the application folder, in the code page of
-// all text files. The file's path, or an empty one if that failed, too.
-[[nodiscard]] QString writeRescueFile(const std::string& applicationFolder,
-                                      const std::string& text);
+// What became of text that no file held.
+struct Rescued {
+    bool wasNeeded = false;  // there was some; then it is on the clipboard, too
+    QString file{};          // where it was written; empty if there was no room anywhere
+};
 
-// Number, sentence, what was saved and what not. `rescueFile` is empty if there was nothing to
-// rescue; `rescueFailed` says that there was and that it couldn't be written.
-[[nodiscard]] QString faultReport(int number, const std::string& text, const QString& rescueFile,
-                                  bool rescueFailed);
+// Number, sentence, what was saved and what not.
+[[nodiscard]] QString faultReport(int number, const std::string& text, const Rescued& rescued);
 
 }  // namespace kelvo::desktop

@@ -5,18 +5,22 @@
 #include <algorithm>
 #include <array>
 
+#include "desktop/native_paths.h"
+
 namespace kelvo::desktop {
 
-QStringList openableFiles(const QMimeData& data) {
+std::vector<std::string> openableFiles(const QMimeData& data) {
     constexpr std::array<const char*, 3> endings{".dat", ".out", ".det"};
-    QStringList paths;
+    std::vector<std::string> paths;
     for (const QUrl& url : data.urls()) {
-        const QString path = url.toLocalFile();
-        const bool known = std::any_of(endings.begin(), endings.end(), [&path](const char* ending) {
-            return path.endsWith(QLatin1String(ending), Qt::CaseInsensitive);
-        });
+        std::string path = fileOfUrl(url);
+        const QString shown = QString::fromStdString(path);
+        const bool known =
+            std::any_of(endings.begin(), endings.end(), [&shown](const char* ending) {
+                return shown.endsWith(QLatin1String(ending), Qt::CaseInsensitive);
+            });
         if (!known) return {};
-        paths << path;
+        paths.push_back(std::move(path));
     }
     return paths;
 }
@@ -39,8 +43,8 @@ bool FileDrop::eventFilter(QObject* watched, QEvent* event) {
             return QObject::eventFilter(watched, event);
     }
     auto* drag = static_cast<QDropEvent*>(event);
-    const QStringList paths = openableFiles(*drag->mimeData());
-    if (paths.isEmpty()) return QObject::eventFilter(watched, event);
+    const std::vector<std::string> paths = openableFiles(*drag->mimeData());
+    if (paths.empty()) return QObject::eventFilter(watched, event);
     drag->acceptProposedAction();
     if (event->type() == QEvent::Drop) open_(paths);
     return true;

@@ -12,25 +12,35 @@
 #include <cstdio>
 
 #include "common/application_folder.h"
+#include "common/standard_streams.h"
+#include "desktop/end_signals.h"
 #include "desktop/fault_report.h"
 #include "desktop/help_file.h"
 #include "desktop/look_of_window.h"
 #include "desktop/main_window.h"
+#include "desktop/native_paths.h"
 
 using namespace kelvo;
 using namespace kelvo::desktop;
 
 namespace {
 
+// The toolkit would wait for the other end of a pipe.
+void setAsideIfNoFile(const QString& path) {
+    const QFileInfo found(path);
+    if (found.exists() && !found.isFile()) QFile::rename(path, path + QStringLiteral(".old"));
+}
+
 int reportStart(const RuntimeFault& fault) {
     QMessageBox::critical(nullptr, QStringLiteral("Kelvo"),
-                          faultReport(fault.number(), fault.text(), {}, false));
+                          faultReport(fault.number(), fault.text(), {}));
     return 1;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
+    secureStandardStreams();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("kelvo"));
     // No display name: it would stand after the form's titles.
@@ -67,8 +77,9 @@ int main(int argc, char** argv) {
         }
         makeApplicationFolder(folder);
         const QString shownFolder = QString::fromStdString(folder);
-        QSettings settings(QDir(shownFolder).filePath(QStringLiteral("window.ini")),
-                           QSettings::IniFormat);
+        const QString settingsFile = QDir(shownFolder).filePath(QStringLiteral("window.ini"));
+        setAsideIfNoFile(settingsFile);
+        QSettings settings(settingsFile, QSettings::IniFormat);
         QFile help(QStringLiteral(":/kelvo/KelvoHelp.txt"));
         if (help.open(QIODevice::ReadOnly)) provideHelpFile(shownFolder, help.readAll(), settings);
         setTheme(application, themeNamed(parser.isSet(themeOption)
@@ -80,12 +91,18 @@ int main(int argc, char** argv) {
 
         // A name on the command line counts from where the program was started, not from the
         // folder of the data file that it will have moved to.
-        QString dataFile = parser.positionalArguments().value(0);
-        if (!dataFile.isEmpty()) dataFile = QFileInfo(dataFile).absoluteFilePath();
+        const QString shownFile = parser.positionalArguments().value(0);
+        std::string dataFile;
+        if (!shownFile.isEmpty()) dataFile = absoluteName(argumentShownAs(shownFile, argc, argv));
 
         MainWindow window(folder);
         if (!window.start()) return 1;
-        if (!dataFile.isEmpty()) window.openDataFile(dataFile);
+        const EndSignals endSignals;
+        QObject::connect(&endSignals, &EndSignals::endWanted, &window,
+                         &MainWindow::endWithoutAsking);
+        QObject::connect(&application, &QGuiApplication::commitDataRequest, &window,
+                         &MainWindow::prepareForTheEnd);
+        if (!dataFile.empty()) window.openDataFile(dataFile);
         if (window.gate().isClosed()) return 1;
         return QApplication::exec();
     } catch (const RuntimeFault& fault) {

@@ -18,6 +18,7 @@
 #include "desktop/fault_report.h"
 #include "desktop/file_drop.h"
 #include "desktop/menu_keys.h"
+#include "desktop/native_paths.h"
 #include "desktop/text_viewer.h"
 #include "panels/point_texts.h"
 
@@ -33,12 +34,15 @@ constexpr int kEntryOpen = 2;  // mnuFileItem(2): 기존파일 열기
 
 MainWindow::MainWindow(const std::string& applicationFolder)
     : applicationFolder_(applicationFolder),
-      lock_(qt(applicationFolder)),
       messages_(dialogParent_),
-      dialogs_(dialogParent_, [this]() -> QPrinter& { return systemPrinter(); }) {
+      dialogs_(dialogParent_, [this]() -> QPrinter& { return systemPrinter(); }),
+      rawPrinter_([this](const QString& text) { book_->say(text); }),
+      alarm_(gate_),
+      journal_(applicationFolder),
+      unsavedTextBar_(new UnsavedTextBar(this)) {
     setObjectName(QStringLiteral("frmKelvo"));
     setAccessibleDescription(QStringLiteral("frmKelvo"));
-    dialogParent_ = {this, &lock_};
+    dialogParent_.window = this;
     gate_.before = [this](EventGate::Event event) { beforeEvent(event); };
     gate_.after = [this](EventGate::Event event) { afterEvent(event); };
     gate_.onFault = [this](int number, const std::string& text) { reportFault(number, text); };
@@ -53,7 +57,9 @@ MainWindow::MainWindow(const std::string& applicationFolder)
                                                                       .screen = primaryScreen_,
                                                                       .pointer = pointer_,
                                                                       .surfaces = *this,
-                                                                      .programEnd = end_});
+                                                                      .programEnd = end_,
+                                                                      .alarm = alarm_,
+                                                                      .journal = journal_});
     stage_ = new PanelStage;
     setCentralWidget(stage_);
     book_ = std::make_unique<WidgetBook>(program_->form(), gate_, *menuBar(), stage_);
@@ -63,7 +69,9 @@ MainWindow::MainWindow(const std::string& applicationFolder)
     leadIntoMenus(*menuBar());
     addBottomLine();
     addCornerMenus();
-    new FileDrop(*this, [this](const QStringList& paths) { openFiles(paths); });
+    new FileDrop(*this, [this](const std::vector<std::string>& paths) { openFiles(paths); });
+    watchUnsavedText();
+    addBringBack();
 }
 
 MainWindow::~MainWindow() {
@@ -175,13 +183,19 @@ void MainWindow::chooseDataFiles() {
     dialog.setFileMode(QFileDialog::ExistingFiles);
     dialog.setNameFilter(QStringLiteral("데이터 파일 (*.dat)"));
     dialog.setDirectory(QFileInfo(qt(program_->state().RecentFiles[1])).absolutePath());
-    if (dialog.exec() == QDialog::Accepted) convertFiles(dialog.selectedFiles());
+    if (dialog.exec() != QDialog::Accepted) return;
+    std::vector<std::string> paths;
+    for (const QString& path : dialog.selectedFiles()) {
+        paths.push_back(QDir::toNativeSeparators(path).toStdString());
+    }
+    convertFiles(paths);
 }
 
-void MainWindow::convertFiles(const QStringList& paths) {
-    SeveralRuns runs(*program_, *book_, [this](const QString& path) {
+void MainWindow::convertFiles(const std::vector<std::string>& paths) {
+    SeveralRuns runs(*program_, *book_, [this](const std::string& path) {
         openDataFile(path);
-        return QFileInfo(qt(program_->state().RecentFiles[1])) == QFileInfo(path);
+        const QFileInfo current(qt(program_->state().RecentFiles[1]));
+        return current == QFileInfo(qt(path));
     });
     const QStringList done = runs.convert(paths, this);
     if (gate_.isClosed()) return;
@@ -198,6 +212,7 @@ bool MainWindow::start() {
     gate_.run([this] { Main(*program_); });
     if (gate_.isClosed()) return false;
     place_.restore(QSettings(settingsFile(), QSettings::IniFormat));
+    offerUnsavedText();
     show();
     return true;
 }
@@ -206,27 +221,26 @@ QString MainWindow::settingsFile() const {
     return QDir(qt(applicationFolder_)).filePath(QStringLiteral("window.ini"));
 }
 
-void MainWindow::openDataFile(const QString& path) {
+void MainWindow::openDataFile(const std::string& path) {
     gate_.run([this, &path] {
-        dialogs_.chooseNext(QDir::toNativeSeparators(path).toStdString());
+        dialogs_.chooseNext(path);
         program_->form().find("mnuFileItem")->clickEntry(kEntryOpen);
     });
     dialogs_.forgetChosen();
 }
 
-void MainWindow::openResultFile(const QString& path) {
-    gate_.run(
-        [this, &path] { program_->OpenRichText(QDir::toNativeSeparators(path).toStdString()); });
+void MainWindow::openResultFile(const std::string& path) {
+    gate_.run([this, &path] { program_->OpenRichText(path); });
 }
 
-void MainWindow::openFiles(const QStringList& paths) {
-    const auto isDataFile = [](const QString& path) {
-        return path.endsWith(QLatin1String(".dat"), Qt::CaseInsensitive);
+void MainWindow::openFiles(const std::vector<std::string>& paths) {
+    const auto isDataFile = [](const std::string& path) {
+        return qt(path).endsWith(QLatin1String(".dat"), Qt::CaseInsensitive);
     };
     if (paths.size() > 1 && std::all_of(paths.begin(), paths.end(), isDataFile)) {
         return convertFiles(paths);
     }
-    const QString& path = paths.first();
+    const std::string& path = paths.front();
     if (isDataFile(path)) {
         openDataFile(path);
     } else {
@@ -237,11 +251,13 @@ void MainWindow::openFiles(const QStringList& paths) {
 void MainWindow::beforeEvent(EventGate::Event event) {
     if (event == EventGate::Event::Typing) return;
     book_->takeViewerText();
-    lock_.take();
 }
 
-void MainWindow::afterEvent(EventGate::Event event) {
-    if (event == EventGate::Event::Command) lock_.release();
+void MainWindow::afterEvent(EventGate::Event /*event*/) {
+    if (dialogParent_.nobodyAnswers && !end_.hasEnded()) {
+        // The end was wanted while this event was on its way.
+        QMetaObject::invokeMethod(this, &MainWindow::endWithoutAsking, Qt::QueuedConnection);
+    }
     if (end_.hasEnded()) {
         gate_.close();
         QApplication::exit(0);

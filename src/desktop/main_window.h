@@ -7,6 +7,7 @@
 #include <string>
 
 #include "desktop/event_gate.h"
+#include "desktop/fault_report.h"
 #include "desktop/look_menu.h"
 #include "desktop/panel_layouts.h"
 #include "desktop/panel_stage.h"
@@ -16,10 +17,13 @@
 #include "desktop/several_runs.h"
 #include "desktop/status_bar.h"
 #include "desktop/text_on_view.h"
+#include "desktop/timer_alarm.h"
+#include "desktop/unsaved_text_bar.h"
 #include "desktop/widget_book.h"
 #include "desktop/window_place.h"
 #include "desktop/work_menu.h"
 #include "shell/frm_kelvo.h"
+#include "shell/journal_folder.h"
 
 namespace kelvo::desktop {
 
@@ -34,15 +38,23 @@ public:
     // Runs Main and shows the window. False if a fault ended the start.
     bool start();
 
-    // Does what choosing this data file in the open dialog does.
-    void openDataFile(const QString& path);
+    // Does what choosing this data file in the open dialog does. The name is the system's, of any
+    // bytes.
+    void openDataFile(const std::string& path);
     // Shows what a run has written.
-    void openResultFile(const QString& path);
+    void openResultFile(const std::string& path);
     // Each data file as a run of its own; a box says at the end what each one gave.
-    void convertFiles(const QStringList& paths);
+    void convertFiles(const std::vector<std::string>& paths);
 
     // What a printed document is called, and the file that it is printed into: no path, no ending.
     [[nodiscard]] QString documentName() const;
+
+    // Ends as closing does, but asks and shows nothing: what is unsaved waits for the next start,
+    // and what a box asks is cancelled. For a session that ends and a terminal that goes.
+    void endWithoutAsking();
+
+    // Puts away what is unsaved, and the settings as far as they can be, and goes on.
+    void prepareForTheEnd();
 
     [[nodiscard]] frmKelvo& program() { return *program_; }
     [[nodiscard]] WidgetBook& book() { return *book_; }
@@ -64,7 +76,7 @@ private:
     Surface& printer() override { return paper_; }
 
     // Several data files are converted one after the other; of anything else the first is shown.
-    void openFiles(const QStringList& paths);
+    void openFiles(const std::vector<std::string>& paths);
     void buildPanels();
     void bindWindow();
     void addShortcuts();
@@ -75,6 +87,11 @@ private:
     void copyPoint(const std::string& text);
     void beforeEvent(EventGate::Event event);
     void afterEvent(EventGate::Event event);
+    void watchUnsavedText();
+    void addBringBack();
+    void keepUnsavedText();
+    void offerUnsavedText();
+    [[nodiscard]] Rescued rescueUnsavedText();
     void reportFault(int number, const std::string& text);
     void printWaitingSheets();
     [[nodiscard]] QPrinter& systemPrinter();
@@ -82,7 +99,6 @@ private:
 
     std::string applicationFolder_;
     EventGate gate_;
-    FolderLock lock_;
     DialogParent dialogParent_;
     PaperSurface paper_;
     std::unique_ptr<QPrinter> printer_;  // asked for late: looking for printers takes its time
@@ -97,6 +113,8 @@ private:
     PrimaryScreen primaryScreen_;
     OverridePointer pointer_;
     WindowEnd end_;
+    TimerAlarm alarm_;
+    JournalFolder journal_;
 
     std::unique_ptr<frmKelvo> program_;
     std::unique_ptr<WidgetBook> book_;
@@ -106,6 +124,8 @@ private:
     StatusBar* status_ = nullptr;
     TextOnView* text_ = nullptr;
     LookMenu* look_ = nullptr;
+    UnsavedTextBar* unsavedTextBar_;
+    QTimer latestTake_;  // of text typed without a pause
 };
 
 }  // namespace kelvo::desktop

@@ -13,11 +13,12 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QScreen>
+#include <QStandardPaths>
 #include <QWindow>
 #include <algorithm>
 #include <array>
-#include <chrono>
 
+#include "common/shown_line.h"
 #include "desktop/paper_surface.h"
 #include "desktop/widget_book.h"
 
@@ -27,22 +28,13 @@ namespace {
 
 constexpr double kTwipsPerPixel = 15;
 
-// While a box waits for its answer the pointer is free and so is the application folder.
+// While a box waits for its answer the pointer is free.
 class Waiting {
 public:
-    explicit Waiting(const DialogParent& parent) : parent_(parent) {
-        QGuiApplication::setOverrideCursor(Qt::ArrowCursor);
-        if (parent_.lock != nullptr) parent_.lock->release();
-    }
-    ~Waiting() {
-        if (parent_.lock != nullptr) parent_.lock->take();
-        QGuiApplication::restoreOverrideCursor();
-    }
+    Waiting() { QGuiApplication::setOverrideCursor(Qt::ArrowCursor); }
+    ~Waiting() { QGuiApplication::restoreOverrideCursor(); }
     Waiting(const Waiting&) = delete;
     Waiting& operator=(const Waiting&) = delete;
-
-private:
-    const DialogParent& parent_;
 };
 
 QMessageBox::Icon iconOf(Icon icon) {
@@ -89,22 +81,10 @@ protected:
 
 }  // namespace
 
-FolderLock::FolderLock(const QString& folder) : file_(QDir(folder).filePath("kelvo.lock")) {
-    file_.setStaleLockTime(std::chrono::seconds(30));
-}
-
-// After a while the work goes on without it: a lock that nobody gives back must not stop anyone.
-void FolderLock::take() {
-    file_.tryLock(std::chrono::seconds(3));
-}
-void FolderLock::release() {
-    file_.unlock();
-}
-
 Answer ScreenMessages::show(const Message& message) {
-    const Waiting waiting(parent_);
-    QString text = qt(message.text);
-    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    if (parent_.nobodyAnswers) return message.buttons == Buttons::Ok ? Answer::Ok : Answer::Cancel;
+    const Waiting waiting;
+    const QString text = boxText(message.text);
     QMessageBox box(iconOf(message.icon), qt(message.title), text, buttonsOf(message.buttons),
                     parent_.window);
     box.setTextFormat(Qt::PlainText);
@@ -129,6 +109,13 @@ Answer ScreenMessages::show(const Message& message) {
         default:
             return message.buttons == Buttons::Ok ? Answer::Ok : Answer::Cancel;
     }
+}
+
+QString boxText(const std::string& text) {
+    QStringList lines;
+    for (const QString& line : qt(text).split(QStringLiteral("\r\n")))
+        lines << qt(shownLine(line.toStdString()));
+    return lines.join(QLatin1Char('\n'));
 }
 
 QStringList qtFilters(const std::string& filter) {
@@ -156,7 +143,8 @@ std::optional<std::string> ScreenDialogs::show(DialogKind kind,
         chosen_.pop_front();
         return path;
     }
-    const Waiting waiting(parent_);
+    if (parent_.nobodyAnswers) return std::nullopt;
+    const Waiting waiting;
     QFileDialog dialog(parent_.window, qt(properties.title));
     const bool saving = kind == DialogKind::Save;
     dialog.setAcceptMode(saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
@@ -196,7 +184,8 @@ std::optional<std::string> ScreenDialogs::show(DialogKind kind,
 }
 
 std::optional<std::string> ScreenDialogs::showPrinterDialog() {
-    const Waiting waiting(parent_);
+    if (parent_.nobodyAnswers) return std::nullopt;
+    const Waiting waiting;
     QPrintDialog dialog(&printer_(), parent_.window);
     // Nothing is printed here: the printer is chosen.
     dialog.setWindowTitle(QStringLiteral("Printer설정"));
@@ -219,8 +208,14 @@ void DetachedPrograms::start(const std::string& command) {
 }
 
 void RawPrintService::print(const std::string& path) {
-    QProcess::startDetached(QStringLiteral("lp"), {QStringLiteral("-o"), QStringLiteral("raw"),
-                                                   QStringLiteral("--"), qt(path)});
+    const QString program = QStandardPaths::findExecutable(QStringLiteral("lp"));
+    const QStringList arguments{QStringLiteral("-o"), QStringLiteral("raw"), QStringLiteral("--"),
+                                qt(path)};
+    if (program.isEmpty() || !QProcess::startDetached(program, arguments)) {
+        tell_(
+            QStringLiteral("인쇄하지 못했습니다: 인쇄 프로그램 lp가 없습니다 "
+                           "(꾸러미 cups-client를 설치하십시오)."));
+    }
 }
 
 void ScreenBeeper::beep() {

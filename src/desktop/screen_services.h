@@ -1,7 +1,6 @@
 // The services of the form on a real desktop: boxes, dialogs, programs, clock, screen.
 #pragma once
 
-#include <QLockFile>
 #include <QPrinter>
 #include <QWidget>
 #include <deque>
@@ -12,23 +11,10 @@
 
 namespace kelvo::desktop {
 
-// Two programs on one application folder take turns: one that is at work holds this lock, and
-// lets it go while it waits for an answer of its user.
-class FolderLock {
-public:
-    explicit FolderLock(const QString& folder);
-
-    void take();
-    void release();
-
-private:
-    QLockFile file_;
-};
-
 // The window that boxes belong to; it exists only after its services.
 struct DialogParent {
     QWidget* window = nullptr;
-    FolderLock* lock = nullptr;
+    bool nobodyAnswers = false;  // the session ends: questions are cancelled, nothing is shown
 };
 
 class ScreenMessages final : public MessageBoxes {
@@ -64,10 +50,16 @@ public:
     void start(const std::string& command) override;
 };
 
-// Hands the text to the platform's raw print service.
+// Hands the text to the platform's raw print service, the program lp.
 class RawPrintService final : public RawPrinter {
 public:
+    // `tell` is given a word for people where that program is missing.
+    explicit RawPrintService(std::function<void(const QString&)> tell) : tell_(std::move(tell)) {}
+
     void print(const std::string& path) override;
+
+private:
+    std::function<void(const QString&)> tell_;
 };
 
 class ScreenBeeper final : public Beeper {
@@ -99,6 +91,10 @@ public:
 private:
     bool ended_ = false;
 };
+
+// A text with CR LF line ends as a box shows it: no line longer than can be read, nothing in it
+// that isn't seen.
+[[nodiscard]] QString boxText(const std::string& text);
 
 // "Data Files (*.dat)|*.dat|All Files (*.*)|*.*" as a list of Qt's filters.
 [[nodiscard]] QStringList qtFilters(const std::string& filter);

@@ -5,9 +5,9 @@
 
 namespace kelvo::desktop {
 
-QString SeveralRuns::convertOne(const QString& path) {
-    const QString name = QFileInfo(path).fileName();
-    if (!QFileInfo(path).isReadable() || !open_(path)) {
+QString SeveralRuns::convertOne(const std::string& path) {
+    const QString name = QFileInfo(qt(path)).fileName();
+    if (!QFileInfo(qt(path)).isReadable() || !open_(path)) {
         return name + QStringLiteral(": 열지 못했습니다");
     }
     book_.gate().run([this] { program_.form().find("mnuBatchGo")->click(); });
@@ -16,7 +16,7 @@ QString SeveralRuns::convertOne(const QString& path) {
     return QStringLiteral("%1: %2점, 알림 %3개").arg(name).arg(points).arg(messages);
 }
 
-QStringList SeveralRuns::convert(const QStringList& paths, QWidget* parent) {
+QStringList SeveralRuns::convert(const std::vector<std::string>& paths, QWidget* parent) {
     QProgressDialog progress(QString(), QStringLiteral("취소"), 0, static_cast<int>(paths.size()),
                              parent);
     progress.setObjectName(QStringLiteral("severalRuns"));
@@ -24,8 +24,8 @@ QStringList SeveralRuns::convert(const QStringList& paths, QWidget* parent) {
     progress.setWindowModality(Qt::WindowModal);
     progress.setMinimumDuration(0);
     QStringList done;
-    for (const QString& path : paths) {
-        progress.setLabelText(QFileInfo(path).fileName());
+    for (const std::string& path : paths) {
+        progress.setLabelText(QFileInfo(qt(path)).fileName());
         progress.setValue(static_cast<int>(done.size()));
         if (onProgress) onProgress(static_cast<int>(done.size()));
         if (progress.wasCanceled() || book_.gate().isClosed()) break;

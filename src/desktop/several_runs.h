@@ -3,6 +3,8 @@
 
 #include <QStringList>
 #include <functional>
+#include <string>
+#include <vector>
 
 #include "desktop/widget_book.h"
 #include "shell/frm_kelvo.h"
@@ -12,7 +14,7 @@ namespace kelvo::desktop {
 class SeveralRuns {
 public:
     // Makes a file the current data file; false if it didn't become that.
-    using Open = std::function<bool(const QString& path)>;
+    using Open = std::function<bool(const std::string& path)>;
 
     SeveralRuns(frmKelvo& program, WidgetBook& book, Open open)
         : program_(program), book_(book), open_(std::move(open)) {}
@@ -20,13 +22,13 @@ public:
     // Shows how far it is and can be cancelled between two files. A fault of a run ends the
     // program as it does for a single file. Gives a line a file: its points and messages, or that
     // it couldn't be opened.
-    QStringList convert(const QStringList& paths, QWidget* parent);
+    QStringList convert(const std::vector<std::string>& paths, QWidget* parent);
 
     // Called before each file with what was done so far; for tests and for a view of the progress.
     std::function<void(int done)> onProgress;
 
 private:
-    [[nodiscard]] QString convertOne(const QString& path);
+    [[nodiscard]] QString convertOne(const std::string& path);
 
     frmKelvo& program_;
     WidgetBook& book_;

@@ -2,12 +2,11 @@
 
 #include <QAction>
 #include <QDir>
-#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QPushButton>
 #include <QShortcut>
 
-#include "common/code_page.h"
 #include "common/run_time_fault.h"
 #include "desktop/plot_view.h"
 #include "desktop/text_viewer.h"
@@ -42,7 +41,10 @@ TextOnView::TextOnView(frmKelvo& program, WidgetBook& book, StatusBar& status,
     connect(saving, &QAction::triggered, this, &TextOnView::save);
     auto* opening = new QAction(QStringLiteral("결과 파일 열기(&O)..."), this);
     connect(opening, &QAction::triggered, this, &TextOnView::openResult);
-    viewer->setFurtherActions({saving, opening});
+    viewer->addFurtherAction(saving);
+    viewer->addFurtherAction(opening);
+    connect(&status.bringBack(), &QPushButton::clicked, this,
+            [this] { book_.gate().run([this] { program_.bringBackText(); }); });
 }
 
 bool TextOnView::plotIsOnView() const {
@@ -53,21 +55,14 @@ bool TextOnView::textIsOnView() const {
     return book_.at("Richtxt")->isVisible();
 }
 
-bool TextOnView::isInItsFile() const {
-    QFile file(qt(program_.fileOnView()));
-    if (!file.open(QIODevice::ReadOnly)) return false;
-    const std::string bytes = encodeCodePage(book_.viewer()->text());
-    if (file.size() != static_cast<qint64>(bytes.size())) return false;
-    return file.readAll() ==
-           QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
-}
-
 // The mark says that the text differs from the file it came from; nothing is ever asked.
 void TextOnView::refresh() {
     TextViewer* viewer = book_.viewer();
-    if (viewer->isModified() && !viewer->hasUntakenText() && isInItsFile()) {
-        viewer->setModified(false);
+    if (!viewer->hasUntakenText()) {
+        const bool unsaved = program_.textIsUnsaved();
+        if (viewer->isModified() != unsaved) viewer->setModified(unsaved);
     }
+    status_.bringBack().setVisible(program_.canBringBackText());
     status_.setUnsaved(textIsOnView() && viewer->isModified());
     status_.setPlace(textIsOnView() ? viewer->place() : QString());
     showSaving();

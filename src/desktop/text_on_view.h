@@ -38,7 +38,6 @@ private:
     void showNotes();
     [[nodiscard]] bool plotIsOnView() const;
     [[nodiscard]] bool textIsOnView() const;
-    [[nodiscard]] bool isInItsFile() const;
 
     frmKelvo& program_;
     WidgetBook& book_;

@@ -109,14 +109,15 @@ QString TextViewer::place() const {
 }
 
 void TextViewer::showMenu(const QPoint& place) {
-    QMenu* menu = editor_->createStandardContextMenu();
+    QMenu* menu = editor_->createStandardContextMenu(place);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->addSeparator();
     menu->addAction(QStringLiteral("찾기\tCtrl+F"), this, [this] { searchBar_->openFor(false); });
     menu->addAction(QStringLiteral("바꾸기\tCtrl+H"), this, [this] { searchBar_->openFor(true); });
     menu->addSeparator();
     for (QAction* action : furtherActions_) menu->addAction(action);
-    menu->exec(editor_->mapToGlobal(place));
-    delete menu;
+    emit menuComes();
+    menu->popup(editor_->viewport()->mapToGlobal(place));
 }
 
 }  // namespace kelvo::desktop

@@ -44,13 +44,14 @@ public:
     [[nodiscard]] QString place() const;
 
     // Stand at the end of the context menu.
-    void setFurtherActions(std::vector<QAction*> actions) { furtherActions_ = std::move(actions); }
+    void addFurtherAction(QAction* action) { furtherActions_.push_back(action); }
 
 signals:
     void loaded();
     void edited();  // a while after the last letter typed
     void modifiedChanged(bool on);
     void placeChanged();
+    void menuComes();  // the context menu is about to show the further actions
 
 private:
     void addShortcuts();

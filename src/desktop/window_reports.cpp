@@ -8,7 +8,6 @@
 
 #include "desktop/fault_report.h"
 #include "desktop/main_window.h"
-#include "desktop/text_viewer.h"
 
 namespace kelvo::desktop {
 
@@ -51,13 +50,18 @@ void MainWindow::printWaitingSheets() {
 
 void MainWindow::reportFault(int number, const std::string& text) {
     QApplication::restoreOverrideCursor();
-    lock_.release();
-    TextViewer* viewer = book_ ? book_->viewer() : nullptr;
-    const bool unsaved = viewer != nullptr && viewer->isModified();
-    QString rescueFile;
-    if (unsaved) rescueFile = writeRescueFile(applicationFolder_, viewer->text());
-    const QString report = faultReport(number, text, rescueFile, unsaved && rescueFile.isEmpty());
-    if (onFaultReport) {
+    Rescued rescued;
+    if (book_) {
+        book_->takeViewerText();
+        if (program_->textIsUnsaved()) {
+            program_->keepUnsavedText();
+            rescued = rescueUnsavedText();
+        }
+    }
+    const QString report = faultReport(number, text, rescued);
+    if (dialogParent_.nobodyAnswers) {
+        // Nobody is there to read it.
+    } else if (onFaultReport) {
         onFaultReport(report);
     } else {
         QMessageBox box(QMessageBox::Critical, QStringLiteral("Kelvo"), report, QMessageBox::Ok,

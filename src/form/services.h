@@ -2,8 +2,11 @@
 // implementation for the screen and one for tests. Every one may raise a RuntimeFault.
 #pragma once
 
+#include <chrono>
+#include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "common/disk.h"
 #include "common/ports.h"
@@ -89,6 +92,44 @@ public:
     virtual void end() = 0;
 };
 
+// Calls back once, a while later, when no handler is at work.
+class Alarm {
+public:
+    virtual ~Alarm() = default;
+    // A new time takes the place of the one before.
+    virtual void set(std::chrono::milliseconds later, std::function<void()> ring) = 0;
+    virtual void cancel() = 0;
+};
+
+// A text of the viewer that stands in no file.
+struct UnsavedText {
+    std::string path;   // the file that it belongs to
+    std::string text;   // UTF-8, CR LF line ends
+    std::string since;  // date and time as people read them
+};
+
+// Where unsaved texts outlive the program. What fails is tried again with the next text.
+class JournalStore {
+public:
+    virtual ~JournalStore() = default;
+
+    // A text that stands in the viewer, and the last one that had to leave it.
+    enum class Shelf { OnView, Discarded };
+
+    // Puts the text on a shelf of this program in place of the one there. False if that failed.
+    virtual bool keep(Shelf shelf, const UnsavedText& text) = 0;
+    virtual void clear(Shelf shelf) = 0;
+
+    // What programs that ended have left on that shelf, the newest first. It stays there until
+    // forget(), and no other program is given it meanwhile.
+    struct Left {
+        UnsavedText text;
+        std::string name;
+    };
+    [[nodiscard]] virtual std::vector<Left> left(Shelf shelf) = 0;
+    virtual void forget(Shelf shelf, const std::string& name) = 0;
+};
+
 struct Services {
     Disk& disk;
     MessageBoxes& messages;
@@ -101,6 +142,8 @@ struct Services {
     BusyPointer& pointer;
     Surfaces& surfaces;
     ProgramEnd& programEnd;
+    Alarm& alarm;
+    JournalStore& journal;
 };
 
 }  // namespace kelvo

@@ -18,7 +18,7 @@ public:
 
     // Takes the options and boxes into the settings and writes plot.cfg; of the three scales
     // only that of the kind that is on. A box that holds no number is fault 13 and leaves the
-    // file as it was.
+    // file as it was. Where another program has saved it, what this one changed goes into that.
     void SavePcfgFile();
 
     // Reads plot.cfg and shows it. A file that can't be read is replaced by one for the grid
@@ -41,9 +41,13 @@ public:
 
 private:
     [[nodiscard]] PointPlot chosenKind() const;
-    [[nodiscard]] float valueOf(double number, PointPlot kind);
+    [[nodiscard]] static float valueOf(double number, PointPlot kind, MessageBoxes& messages);
     void showAngles(const PlotScale& scale);
-    void readPcfgFile();
+    void takePanel(PlotCfg& cfg, MessageBoxes& messages) const;
+    void showSettings();
+    void noteUntouchedPanel();
+    [[nodiscard]] std::string path() const;
+    void readInto(PlotCfg& cfg) const;
     void writePcfgFile();
 
     ScaleControls on_;

@@ -87,12 +87,13 @@ void copyWithPages(TextReader& from, TextWriter& to, const std::string& margin,
 
 void fastPrint(const std::string& fileName, const std::string& ending, const PrintMode& mode,
                PrintServices& services) {
+    // Also where nothing is copied: the printer's own program would tell nobody.
+    const auto from = openOrTell(fileName, services);
+    if (!from) return;
     std::string toPrinter = fileName;
     std::unique_ptr<Busy> busy;
     const bool paged = ending == "DAT";
     if (paged || mode.LeftMargin > 0) {
-        const auto from = openOrTell(fileName, services);
-        if (!from) return;
         toPrinter = kTemporary;
         busy = std::make_unique<Busy>(services.pointer);
         if (services.disk.sameFile(fileName, toPrinter)) raise(Fault::FileAlreadyOpen, toPrinter);

@@ -1,124 +1,100 @@
 #include "shell/configuration.h"
 
-#include <array>
+#include <algorithm>
 #include <string>
-#include <string_view>
-#include <variant>
 
 #include "batch/sample_data.h"
-#include "common/checked_arithmetic.h"
 #include "common/code_page.h"
-#include "common/number_text.h"
 #include "common/paths.h"
+#include "common/run_time_fault.h"
 #include "common/text_constants.h"
 #include "common/text_file.h"
+#include "shell/configuration_merge.h"
+#include "shell/configuration_text.h"
 
 namespace kelvo {
 
 namespace {
 
-constexpr std::size_t kZone = 14;  // columns
-constexpr std::size_t kMostRecent = 5;
+using RecentFiles = std::array<std::string, 6>;
 
-// A number of the parameter set, and whether its line of the file ends after it.
-struct StoredNumber {
-    std::variant<double TransPara::*, ShiftKind TransPara::*, TmZone TransPara::*,
-                 UtmZone TransPara::*>
-        field;
-    bool lineEnds = false;
-};
-
-constexpr std::array<StoredNumber, 27> kNumbers{{
-    {&TransPara::dX},          {&TransPara::dY},         {&TransPara::dZ, true},
-    {&TransPara::Omega},       {&TransPara::Phi},        {&TransPara::Kappa, true},
-    {&TransPara::dS, true},    {&TransPara::Kind, true}, {&TransPara::dPhi},
-    {&TransPara::dLam},        {&TransPara::dH, true},   {&TransPara::a},
-    {&TransPara::f, true},     {&TransPara::Zone, true}, {&TransPara::Phi0},
-    {&TransPara::Lam0, true},  {&TransPara::X0},         {&TransPara::Y0, true},
-    {&TransPara::S0, true},    {&TransPara::Ua},         {&TransPara::Uf, true},
-    {&TransPara::UZone, true}, {&TransPara::UPhi0},      {&TransPara::ULam0, true},
-    {&TransPara::UX0},         {&TransPara::UY0, true},  {&TransPara::US0, true},
-}};
-
-double numberOf(double value) {
-    return value;
-}
-template <class Named>
-double numberOf(Named value) {
-    return static_cast<std::int16_t>(value);
-}
-void assign(double& field, double value) {
-    field = value;
-}
-// Any 16-bit number, also one without a name.
-template <class Named>
-void assign(Named& field, double value) {
-    field = Named{roundedInteger16(value)};
-}
-
-// One line of items, each at the start of a zone.
-class ZonedLine {
-public:
-    void text(std::string_view item) {
-        if (!line_.empty()) line_.resize((line_.size() / kZone + 1) * kZone, ' ');
-        line_ += item;
-    }
-    void number(double value) { text((value < 0 ? "" : " ") + generalTextInFile(value) + " "); }
-    [[nodiscard]] const std::string& line() const { return line_; }
-
-private:
-    std::string line_;
-};
-
-void readParameters(TextReader& file, ProgramState& state) {
-    TransPara& Cfg = state.Cfg;
-    file.readTextItem(Cfg.Editor);
-    for (const StoredNumber& stored : kNumbers) {
-        const double value = file.readNumber();
-        std::visit([&](auto field) { assign(Cfg.*field, value); }, stored.field);
-    }
-    FieldStore& fields = state.conversion.fields;
-    file.readLine(fields.LineBuf);
-    genSub::ParseFields(fields, 2);
-    assign(Cfg.AddFlag, double{fields.FieldSng(1)});
-    assign(Cfg.CorrFlag, double{fields.FieldSng(2)});
+std::string textOf(const Configuration& configuration, std::string_view flagGap) {
+    std::string text = parameterLines(configuration.Cfg, flagGap);
+    for (std::size_t i = 1; i <= kMostRecentFiles && !configuration.RecentFiles[i].empty(); ++i)
+        text += pathLine(configuration.RecentFiles[i]);
+    return text;
 }
 
 void readRecentFiles(TextReader& file, ProgramState& state, Disk& disk, int& count) {
-    std::string item;
-    while (!file.atEnd()) {
+    RecentFiles inFile;
+    for (std::size_t place = 1; !file.atEnd(); ++place) {
         ++count;
-        file.readTextItem(item);
+        const std::string item = readPath(file);
+        if (place < inFile.size()) inFile[place] = item;
         if (genSub::FileExists(disk, item) == genSub::kFileIsMissing) continue;
-        if (count > static_cast<int>(kMostRecent)) raise(Fault::Subscript);
+        if (count > static_cast<int>(kMostRecentFiles))
+            raise(Fault::Subscript, "최근 파일이 다섯을 넘습니다");
         state.RecentFiles[static_cast<std::size_t>(count)] = item;
     }
+    state.saved.recentInFile = inFile;
 }
 
-// The whole file as a text; `flagGap` is the text item between the two flags.
-std::string configurationText(const TransPara& Cfg, std::string_view flagGap) {
-    std::string text = Cfg.Editor + std::string(kLineEnd);
-    ZonedLine line;
-    for (const StoredNumber& stored : kNumbers) {
-        std::visit([&](auto field) { line.number(numberOf(Cfg.*field)); }, stored.field);
-        if (!stored.lineEnds) continue;
-        text.append(line.line()).append(kLineEnd);
-        line = {};
+// What another program has saved, for a program that saves after it.
+Configuration readTheirs(Disk& disk, const std::string& path) {
+    Configuration theirs;
+    FieldStore fields;
+    TextReader file(disk, path);
+    readParameters(file, theirs.Cfg, fields);
+    for (std::size_t place = 1; place <= kMostRecentFiles && !file.atEnd(); ++place)
+        theirs.RecentFiles[place] = readPath(file);
+    return theirs;
+}
+
+// The sample never takes the place of something that a user has written.
+void writeSample(Disk& disk, const std::string& path) {
+    if (genSub::FileExists(disk, path) != genSub::kFileIsMissing) {
+        std::string held;
+        try {
+            held = readWholeText(disk, path);
+        } catch (const RuntimeFault&) {
+            // Kept aside under another name, if nothing else.
+        }
+        if (held != sampleDataText()) keepAside(disk, path);
     }
-    line.number(numberOf(Cfg.AddFlag));
-    line.text(flagGap);
-    line.number(numberOf(Cfg.CorrFlag));
-    return text.append(line.line()).append(kLineEnd);
+    WriteSampleData(disk, path);
 }
 
 void writeFirstConfiguration(ProgramState& state, Disk& disk) {
     const std::string sample =
         state.inApplicationFolder(std::string("data") + kPathSeparator + "test.dat");
-    WriteSampleData(disk, sample);
+    writeSample(disk, sample);
     fillFirstStart(state.Cfg);
-    std::string text = configurationText(state.Cfg, "    ");
-    text.append(sample).append(kLineEnd);
-    disk.replace(state.CfgPath, encodeCodePage(text));
+    std::string text = parameterLines(state.Cfg, "    ");
+    disk.replace(state.CfgPath, encodeCodePage(text + pathLine(sample)));
+}
+
+// This program's configuration with that of another one that has saved meanwhile.
+MergedConfiguration mergedWithFile(const ProgramState& state, Disk& disk) {
+    const Configuration mine{state.Cfg, state.RecentFiles};
+    const Configuration before{state.saved.cfgInFile, state.saved.recentInFile};
+    try {
+        MergedConfiguration merged = mergedConfiguration(mine, state.saved.cfgInPanels,
+                                                         readTheirs(disk, state.CfgPath), before);
+        if (!merged.conflicts.empty()) keepAside(disk, state.CfgPath);
+        return merged;
+    } catch (const RuntimeFault&) {
+        // It can't be read, so it can't have been meant for this program.
+        keepAside(disk, state.CfgPath);
+        return {.configuration = mine, .conflicts = {}};
+    }
+}
+
+void tellConflicts(const std::vector<std::string>& conflicts, MessageBoxes& messages) {
+    if (conflicts.empty()) return;
+    std::string text = "다른 Kelvo 창에서 저장한 설정과 이 창의 설정이 서로 다릅니다:";
+    for (const std::string& words : conflicts) text.append(kLineEnd).append("  ").append(words);
+    messages.tell(text.append(kLineEnd).append(
+        "이 창의 값을 저장하였고, 다른 창에서 저장한 설정은 kelvo.cfg.old에 남겼습니다."));
 }
 
 }  // namespace
@@ -138,26 +114,34 @@ void fillFirstStart(TransPara& Cfg) {
 
 int readConfiguration(ProgramState& state, Disk& disk) {
     int count = 0;
-    for (int recoveries = 0;; ++recoveries) {
-        try {
+    SettingsFile settings(disk, state.CfgPath, state.saved.cfgFile);
+    settings.readOrReplace(
+        [&] {
             TextReader file(disk, state.CfgPath);
-            readParameters(file, state);
+            readParameters(file, state.Cfg, state.conversion.fields);
             readRecentFiles(file, state, disk, count);
-            return count;
-        } catch (const RuntimeFault&) {
-            if (recoveries == 2) throw;
-        }
-        writeFirstConfiguration(state, disk);
-        if (recoveries == 1) count = 0;
-    }
+        },
+        [&](int recovery) {
+            writeFirstConfiguration(state, disk);
+            if (recovery == 2) count = 0;
+        });
+    state.saved.cfgInFile = state.saved.cfgInPanels = state.Cfg;
+    return count;
 }
 
-void WriteCfgFile(const ProgramState& state, Disk& disk, MessageBoxes& messages) {
+void WriteCfgFile(ProgramState& state, Disk& disk, MessageBoxes& messages) {
     try {
-        std::string text = configurationText(state.Cfg, "   ");
-        for (std::size_t i = 1; i <= kMostRecent && !state.RecentFiles[i].empty(); ++i)
-            text.append(state.RecentFiles[i]).append(kLineEnd);
-        disk.replace(state.CfgPath, encodeCodePage(text));
+        MergedConfiguration written{.configuration = {state.Cfg, state.RecentFiles},
+                                    .conflicts = {}};
+        SettingsFile settings(disk, state.CfgPath, state.saved.cfgFile);
+        settings.write(encodeCodePage(textOf(written.configuration, "   ")), [&] {
+            written = mergedWithFile(state, disk);
+            return encodeCodePage(textOf(written.configuration, "   "));
+        });
+        state.saved.cfgInFile = written.configuration.Cfg;
+        state.saved.recentInFile = written.configuration.RecentFiles;
+        state.saved.cfgInPanels = state.Cfg;
+        tellConflicts(written.conflicts, messages);
     } catch (const RuntimeFault&) {
         messages.tell("CFG파일 에러");
     }

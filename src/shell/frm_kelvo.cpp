@@ -45,7 +45,9 @@ Services withMessages(const Services& services, MessageBoxes& messages) {
             .screen = services.screen,
             .pointer = services.pointer,
             .surfaces = services.surfaces,
-            .programEnd = services.programEnd};
+            .programEnd = services.programEnd,
+            .alarm = services.alarm,
+            .journal = services.journal};
 }
 
 }  // namespace
@@ -60,6 +62,8 @@ struct frmKelvo::Members final : RunView {
     }
 
     void Form_Load();
+    void noteUntouchedPanels();
+    void saveSettings();
     void Form_Close();
     void mnuBatchGo_Click();
 
@@ -97,8 +101,7 @@ struct frmKelvo::Members final : RunView {
     RecentFileList recent{state, window, menus, services.disk, services.messages};
     PointPictures pictures{settings, state, services};
     ResultViewer viewer{
-        viewerControls, settings.controls(), state, printMode, pictures, recent, cmd,
-        services.disk};
+        viewerControls, settings.controls(), state, printMode, pictures, recent, cmd, services};
     Printing printing{viewerControls, menus, printMode, viewer, pictures, cmd, state, services};
     FileMenu fileMenu{menus,  frmeOne, state,    viewer,
                       recent, cmd,     services, [this] { Form_Close(); }};
@@ -135,12 +138,29 @@ void frmKelvo::Members::Form_Load() {
     parameters.FillDefault();
     settings.RestorePcfgFile();
     state.conversion.ParaDirty = true;
+    noteUntouchedPanels();
 }
 
-void frmKelvo::Members::Form_Close() {
+// The panels give some values back otherwise than they were read, with nobody touching them.
+void frmKelvo::Members::noteUntouchedPanels() {
+    const TransPara asRead = state.Cfg;
+    try {
+        parameters.SaveCfg();
+    } catch (const RuntimeFault&) {
+        // A box that is empty from the start: the values in front of it are noted.
+    }
+    state.saved.cfgInPanels = std::exchange(state.Cfg, asRead);
+}
+
+void frmKelvo::Members::saveSettings() {
     parameters.SaveCfg();
     writeCfgFile();
     settings.SavePcfgFile();
+}
+
+void frmKelvo::Members::Form_Close() {
+    saveSettings();
+    viewer.journal().keepNow();
     services.programEnd.end();
 }
 
@@ -203,6 +223,44 @@ void frmKelvo::OpenRichText(const std::string& path) {
 
 void frmKelvo::UpdateRecentFiles(const std::string& name) {
     members_->recent.UpdateRecentFiles(name);
+}
+
+void frmKelvo::saveSettings() {
+    members_->saveSettings();
+}
+
+UnsavedText frmKelvo::textOnView() const {
+    return members_->viewer.journal().onView();
+}
+
+bool frmKelvo::keepUnsavedText() {
+    return members_->viewer.journal().keepNow();
+}
+
+bool frmKelvo::textIsUnsaved() const {
+    return members_->viewer.journal().textIsUnsaved();
+}
+
+bool frmKelvo::canBringBackText() {
+    return members_->viewer.journal().canBringBack();
+}
+
+void frmKelvo::bringBackText() {
+    ResultViewer& viewer = members_->viewer;
+    viewer.journal().bringBack([&](const UnsavedText& text) { viewer.showUnsaved(text); });
+}
+
+std::optional<UnsavedText> frmKelvo::waitingText() {
+    return members_->viewer.journal().waiting();
+}
+
+void frmKelvo::bringBackWaitingText() {
+    ResultViewer& viewer = members_->viewer;
+    viewer.journal().bringBackWaiting([&](const UnsavedText& text) { viewer.showUnsaved(text); });
+}
+
+void frmKelvo::putWaitingTextAside() {
+    members_->viewer.journal().putWaitingAside();
 }
 
 void frmKelvo::PrintFile(const std::string& name) {

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -55,12 +56,37 @@ public:
 
     // What the check finds in the text of a data file, with the known points that a run would read.
     [[nodiscard]] std::vector<RunMessage> findingsIn(std::string_view dataFile) const;
+    // The parameters and plot settings to their files, as at the end. Faults as Form_Close.
+    void saveSettings();
 
     // Prints a text file in the mode of the print mode panel.
     void PrintFile(const std::string& name);
 
     // Puts a file on top of the recent list, menu and caption included.
     void UpdateRecentFiles(const std::string& name);
+
+    // The text in the viewer, and what became of those that had to leave it without being saved.
+
+    // The text on view and the file it belongs to.
+    [[nodiscard]] UnsavedText textOnView() const;
+
+    // True if the text on view differs from that of its file.
+    [[nodiscard]] bool textIsUnsaved() const;
+
+    // Puts it into the journal at once, as before an end that leaves no time to ask. False if
+    // there is something unsaved and no room for it.
+    bool keepUnsavedText();
+
+    // "되살리기": the last text that closing the panel, a run or a load took off the view unsaved
+    // comes back into the viewer, not saved yet; what is unsaved there takes its place.
+    [[nodiscard]] bool canBringBackText();
+    void bringBackText();
+
+    // The text that was unsaved when a program before this one ended, to be offered at the start:
+    // it comes into the viewer, or is put aside. Then the next one may be asked for.
+    [[nodiscard]] std::optional<UnsavedText> waitingText();
+    void bringBackWaitingText();
+    void putWaitingTextAside();
 
 private:
     struct Members;

@@ -71,7 +71,10 @@ void RecentFileList::UpdateRecentFiles(const std::string& name) {
     }
     try {
         const std::string folder = folderToWorkIn(name);
-        if (!folder.empty()) disk_.setCurrentFolder(folder);
+        if (!folder.empty()) {
+            disk_.tidy(folder);
+            disk_.setCurrentFolder(folder);
+        }
     } catch (const RuntimeFault& fault) {
         tell(fault);
     }

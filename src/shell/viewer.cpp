@@ -1,5 +1,7 @@
 #include "shell/viewer.h"
 
+#include <algorithm>
+
 #include "batch/run_batch.h"
 #include "common/letter_case.h"
 #include "common/paths.h"
@@ -13,11 +15,23 @@ namespace {
 constexpr std::string_view kShowNumbers = "수치보기";
 constexpr std::string_view kShowPicture = "그림보기";
 
+void requireUsable(std::string_view text, const std::string& path) {
+    std::size_t lines = 0;
+    std::size_t longest = 0;
+    for (std::size_t at = 0; at < text.size(); ++lines) {
+        const std::size_t end = std::min(text.find("\r\n", at), text.size());
+        longest = std::max(longest, end - at);
+        at = end + 2;
+    }
+    if (lines > kMostLinesOnView || longest > kLongestLineOnView)
+        raise(Fault::Overflow, "줄이 너무 많거나 너무 길어서 볼 수 없습니다 (" + path + ")");
+}
+
 }  // namespace
 
 ResultViewer::ResultViewer(const ViewerControls& controls, const ScaleControls& scale,
                            ProgramState& state, PrintModePanel& printMode, PointPictures& pictures,
-                           RecentFileList& recent, CommonDialog& cmd, Disk& disk)
+                           RecentFileList& recent, CommonDialog& cmd, const Services& services)
     : on_(controls),
       scale_(scale),
       state_(state),
@@ -25,7 +39,13 @@ ResultViewer::ResultViewer(const ViewerControls& controls, const ScaleControls& 
       pictures_(pictures),
       recent_(recent),
       cmd_(cmd),
-      disk_(disk) {
+      disk_(services.disk),
+      journal_(services.journal, services.alarm, services.clock, [this] {
+          return UnsavedText{.path = fileName_, .text = on_.Richtxt.text(), .since = {}};
+      }) {
+    on_.Richtxt.onChange = [this] {
+        if (!loading_) journal_.changed();
+    };
     on_.cmdShow.onClick = [this] { cmdShow_Click(); };
     on_.cmdSave.onClick = [this] { cmdSave_Click(); };
     on_.cmdSaveAs.onClick = [this] { cmdSaveAs_Click(); };
@@ -40,19 +60,31 @@ void ResultViewer::showTextPanel() {
 }
 
 void ResultViewer::load(const std::string& path) {
-    const std::string text = readWholeText(disk_, path);
+    const std::string text = readWholeText(disk_, path, kLargestOnView);
+    requireUsable(text, path);
+    journal_.aboutToGo();
     fileName_ = path;
-    on_.Richtxt.setText(text);
+    showText(text);
+    journal_.isInItsFile();
     if (onLoaded) onLoaded(path);
 }
 
-void ResultViewer::save(const std::string& path) {
-    saveCopy(path);
-    if (onSaved) onSaved(path);
+void ResultViewer::showText(const std::string& text) {
+    loading_ = true;
+    on_.Richtxt.setText(text);
+    loading_ = false;
+}
+
+void ResultViewer::showUnsaved(const UnsavedText& text) {
+    showTextPanel();
+    on_.cmdShow.setEnabled(false);
+    on_.frmeFile.setCaption(text.path);
+    fileName_ = text.path;
+    showText(text.text);
 }
 
 void ResultViewer::saveOnView() {
-    if (!fileName_.empty()) save(fileName_);
+    if (!fileName_.empty()) saveUnder(fileName_);
 }
 
 void ResultViewer::OpenRichText(const std::string& Path) {
@@ -89,7 +121,7 @@ void ResultViewer::showRunResult() {
 }
 
 void ResultViewer::cmdSave_Click() {
-    save(fileName_);
+    saveUnder(fileName_);
     on_.frmeFile.setVisible(false);
     printMode_.showWhatWasShown();
 }
@@ -107,19 +139,26 @@ void ResultViewer::cmdSaveAs_Click() {
         if (fault.fault() != Fault::DialogCancelled) throw;
         return;
     }
-    save(name);
+    saveUnder(name);
     OpenRichText(name);
     if (upperCased(genSub::FileExtensionOf(name)) == "DAT") recent_.UpdateRecentFiles(name);
 }
 
+void ResultViewer::saveUnder(const std::string& path) {
+    saveCopy(path);
+    journal_.isInItsFile();
+    if (onSaved) onSaved(path);
+}
+
 void ResultViewer::cmdClose_Click() {
+    journal_.aboutToGo();
     on_.frmeFile.setVisible(false);
 }
 
 void ResultViewer::saveAndHide(const std::string& name) {
     on_.Richtxt.setVisible(false);
     fileName_ = name;
-    save(name);
+    saveUnder(name);
 }
 
 void ResultViewer::saveCopy(const std::string& name) {

@@ -10,21 +10,28 @@
 #include "panels/scale_controls.h"
 #include "shell/common_dialog.h"
 #include "shell/recent_files.h"
+#include "shell/text_journal.h"
 #include "shell/window_controls.h"
 
 namespace kelvo {
 
 class PointPictures;
 
+// What one screen can use: more of it takes minutes and gigabytes to show.
+inline constexpr std::size_t kLargestOnView = 16U << 20U;  // bytes
+inline constexpr std::size_t kMostLinesOnView = 500'000;
+inline constexpr std::size_t kLongestLineOnView = 1U << 20U;  // bytes
+
 class ResultViewer {
 public:
     ResultViewer(const ViewerControls& controls, const ScaleControls& scale, ProgramState& state,
                  PrintModePanel& printMode, PointPictures& pictures, RecentFileList& recent,
-                 CommonDialog& cmd, Disk& disk);
+                 CommonDialog& cmd, const Services& services);
     ResultViewer(const ResultViewer&) = delete;
     ResultViewer& operator=(const ResultViewer&) = delete;
 
-    // The one way to show a text file. The panels have changed when a fault of loading comes out.
+    // The one way to show a text file. The panels have changed when a fault of loading comes out;
+    // a text too large to be shown is fault 6.
     void OpenRichText(const std::string& Path);
 
     // Takes the numbers of a run and its plot in turn, by the caption of cmdShow. Fault 53 where
@@ -38,8 +45,15 @@ public:
     // goes into the recent list. Cancelling ends it silently; other faults come out.
     void cmdSaveAs_Click();
 
-    // Nothing is saved and nothing asked.
+    // Nothing is saved and nothing asked; what was unsaved can be brought back.
     void cmdClose_Click();
+
+    // Shows a text as one of the file that it belongs to, not yet saved there.
+    void showUnsaved(const UnsavedText& text);
+
+    // What is known of texts that stand in no file. The text that loading, closing or a run takes
+    // off the view unsaved goes there.
+    [[nodiscard]] TextJournal& journal() { return journal_; }
 
     // What the File menu's save does with the text: it goes to `name`, which the box keeps, and
     // the box is hidden.
@@ -67,7 +81,8 @@ public:
 private:
     void showTextPanel();
     void load(const std::string& path);
-    void save(const std::string& path);
+    void showText(const std::string& text);
+    void saveUnder(const std::string& path);
 
     const ViewerControls& on_;
     const ScaleControls& scale_;
@@ -78,6 +93,8 @@ private:
     CommonDialog& cmd_;
     Disk& disk_;
     std::string fileName_;  // changes by loading and by the File menu's save only
+    bool loading_ = false;
+    TextJournal journal_;
 };
 
 }  // namespace kelvo

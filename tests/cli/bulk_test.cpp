@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -99,6 +100,88 @@ TEST_F(Bulk, AnOldDetailOfAFileThatFailsIsNotTakenForThatOfTheLastRun) {
     folder.put("gone.det", "OLD");
     EXPECT_EQ(run({"first.dat", "gone.dat"}).exitCode, 1);
     EXPECT_FALSE(std::filesystem::exists(folder.file("kelvo.det")));
+}
+
+TEST_F(Bulk, TheDetailOfALastRunThatFailsIsTheOneThatStands) {
+    const std::string known = "기지 37.3 127 30 37.2959 127.0007 40 1\r\n*\r\n*\r\n";
+    folder.put("kelvo.cor", known);
+    folder.put("one.dat", "CORRECTION\r\n" + kWgs);
+    folder.put("two.dat", "CORRECTION\r\nWGS two 37.3 127 50\r\nTM PARA\r\n1 2\r\n");
+    ASSERT_EQ(run({"two.dat"}).exitCode, 1);
+    const std::string two = folder.bytes("kelvo.det");
+    ASSERT_NE(two.find("two"), std::string::npos) << "its detail begins before the fault";
+    ASSERT_EQ(run({"one.dat"}).exitCode, 0);
+    EXPECT_EQ(run({"one.dat", "two.dat"}).exitCode, 1);
+    EXPECT_EQ(folder.bytes("two.det"), two);
+    EXPECT_EQ(folder.bytes("kelvo.det"), two);
+}
+
+// No run is allowed to harm what another one of the same call reads or has written.
+class SharedFiles : public Bulk {
+protected:
+    SharedFiles() {
+        folder.put("kelvo.cor", "known\r\n");
+        for (const char* name : {"x.dat", "x.txt", "x.det", "y.dat", "kelvo.dat"})
+            folder.put(name, kWgs);
+    }
+    // All files and what they hold.
+    [[nodiscard]] std::string everything() const {
+        std::map<std::string, std::string> files;
+        for (const auto& entry : std::filesystem::directory_iterator(folder.path()))
+            if (entry.is_regular_file())
+                files[entry.path().filename()] = TemporaryFolder::readBytes(entry.path());
+        std::string all;
+        for (const auto& [name, bytes] : files) all += name + "=" + bytes + "|";
+        return all;
+    }
+    void expectRefused(const std::vector<std::string>& names) {
+        const std::string before = everything();
+        const ProgramRun ended = run(names);
+        EXPECT_EQ(ended.exitCode, 2) << names.back() << ended.err;
+        EXPECT_NE(ended.err.find("would"), std::string::npos) << ended.err;
+        EXPECT_TRUE(everything() == before) << names.front() << " " << names.back();
+    }
+};
+
+TEST_F(SharedFiles, OfOneResultAreRefused) {
+    expectRefused({"x.dat", "x.txt"});
+    expectRefused({"x.dat", "x.dat"});
+    expectRefused({"x.dat", "./x.txt"});
+    expectRefused({"y.dat", "x.dat", folder.file("x.txt")});
+}
+
+TEST_F(SharedFiles, ThatAreTheDetailOfAnotherAreRefused) {
+    expectRefused({"x.dat", "x.det"});
+    expectRefused({"x.dat", "./x.det"});
+    expectRefused({"x.det", "x.dat"});
+}
+
+TEST_F(SharedFiles, BehindLinksAreRefused) {
+    std::filesystem::create_symlink("x.dat", folder.file("y.out"));
+    expectRefused({"y.dat", "x.dat"});
+    std::filesystem::remove(folder.file("y.out"));
+    std::filesystem::create_hard_link(folder.file("x.dat"), folder.file("y.det"));
+    expectRefused({"x.dat", "y.dat"});
+    std::filesystem::remove(folder.file("y.det"));
+    std::filesystem::create_directory_symlink(".", folder.file("here"));
+    expectRefused({"x.dat", "here/x.txt"});
+}
+
+TEST_F(SharedFiles, ThatTheDetailOfTheLastRunWouldTakeAreRefused) {
+    expectRefused({"kelvo.dat", "y.dat"});
+    std::filesystem::create_symlink("x.dat", folder.file("kelvo.det"));
+    expectRefused({"x.dat", "y.dat"});
+    std::filesystem::remove(folder.file("kelvo.det"));
+    std::filesystem::create_symlink("kelvo.cor", folder.file("kelvo.det"));
+    expectRefused({"x.dat", "y.dat"});
+}
+
+TEST_F(SharedFiles, ThatOnlyLookAlikeAreNot) {
+    EXPECT_EQ(run({"x.dat", "y.dat"}).exitCode, 0);
+    EXPECT_EQ(run({"x.dat", "kelvo.dat"}).exitCode, 0);
+    folder.put("X.txt", kWgs);
+    EXPECT_EQ(run({"x.dat", "X.txt"}).exitCode, 0) << "case tells names apart here";
+    EXPECT_FALSE(folder.bytes("X.out").empty());
 }
 
 }  // namespace

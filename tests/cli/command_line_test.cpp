@@ -69,12 +69,6 @@ TEST(BatchCommandLine, BehindTwoHyphensANameMayBeginWithOne) {
     EXPECT_EQ(reading.line->dataFiles, (std::vector<std::string>{"-a.dat", "-"}));
 }
 
-TEST(BatchCommandLine, FilesThatWouldWriteOneResultAreRefused) {
-    EXPECT_FALSE(read({"a.dat", "a.txt"}).line);
-    EXPECT_FALSE(read({"a.dat", "a.dat"}).line);
-    EXPECT_TRUE(read({"a.dat", "b.dat"}).line);
-}
-
 TEST(BatchCommandLine, HelpAndVersionNeedNoDataFile) {
     ASSERT_TRUE(read({"--help"}).line);
     EXPECT_EQ(read({"--help"}).line->wish, CommandLine::Wish::Help);

@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <random>
+#include <regex>
+#include <set>
 #include <sstream>
 
 #include "cli/program_bench.h"
@@ -137,7 +139,25 @@ TEST_F(HostileContent, NothingInAFileReachesAnotherFile) {
     EXPECT_EQ(folder.bytes("a.dat"), data + kEnd);
 }
 
-TEST_F(HostileContent, ARunStartsNoProgramAndOpensTwoFilesForWriting) {
+TEST_F(HostileContent, LinesOfTheProgramAreShortAndSteerNoTerminal) {
+    const auto check = [](const ProgramRun& ended, int exitCode) {
+        EXPECT_EQ(ended.exitCode, exitCode);
+        EXPECT_EQ(ended.err.find('\x1b'), std::string::npos);
+        std::istringstream lines(ended.err);
+        for (std::string line; std::getline(lines, line);) EXPECT_LT(line.size(), 2000U);
+    };
+    const std::string name = "a\x1b[2J" + std::string(200, 'x') + ".dat";
+    check(run(folder.file(name)), 1);
+    check(run("--\x1b[2J"), 2);
+    check(run(folder.path() + std::string(20'000, '/') + "\x1b[2J"), 1);
+
+    // A name of 15 MB in a fault.
+    const std::string point = "p\x1b[2J" + std::string(15'000'000, 'n');
+    folder.put("a.dat", "INPUT deg\r\nWGS " + point + " 1e308 1e308 1e308\r\nend\r\n\r\n");
+    check(run(folder.file("a.dat")), 1);
+}
+
+TEST_F(HostileContent, ARunStartsNoProgramAndPutsTwoFilesInPlace) {
     const std::string tracer = "/usr/bin/strace";
     const std::string calls = folder.file("calls");
     if (access(tracer.c_str(), X_OK) != 0) GTEST_SKIP() << "no strace here";
@@ -157,13 +177,21 @@ TEST_F(HostileContent, ARunStartsNoProgramAndOpensTwoFilesForWriting) {
         GTEST_SKIP() << "no tracing here: " << ended.err;
     ASSERT_EQ(ended.exitCode, 0) << ended.err;
     std::istringstream lines(folder.bytes("calls"));
-    std::string written;
+    const std::regex newFile(folder.path() + "/kelvo\\.[0-9a-f]{16}\\.new");
+    std::set<std::string> written;
+    std::set<std::string> putInPlace;
     int programs = 0;
     for (std::string line; std::getline(lines, line);) {
         if (line.find(".profraw") != std::string::npos) continue;  // the compiler's own measuring
+        const std::string first = line.substr(line.find('"') + 1);
+        const std::string name = first.substr(0, first.find('"'));
+        const std::string last = line.substr(0, line.rfind('"'));
         if (line.find("O_WRONLY") != std::string::npos ||
             line.find("O_RDWR") != std::string::npos) {
-            written += line.substr(line.find('"') + 1, line.rfind('"') - line.find('"') - 1) + "\n";
+            if (!std::regex_match(name, newFile)) written.insert(name);
+        } else if (line.find(" rename(") != std::string::npos) {
+            EXPECT_TRUE(std::regex_match(name, newFile)) << line;
+            putInPlace.insert(last.substr(last.rfind('"') + 1));
         } else if (line.find("execve(") != std::string::npos) {
             ++programs;
         } else {
@@ -171,7 +199,8 @@ TEST_F(HostileContent, ARunStartsNoProgramAndOpensTwoFilesForWriting) {
         }
     }
     EXPECT_EQ(programs, 1) << "the program itself";
-    EXPECT_EQ(written, folder.file("a.out") + "\n" + folder.file("kelvo.det") + "\n");
+    EXPECT_EQ(written, (std::set<std::string>{folder.file("a.out"), folder.file("kelvo.det")}));
+    EXPECT_EQ(putInPlace, written);
 }
 
 }  // namespace

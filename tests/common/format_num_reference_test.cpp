@@ -25,6 +25,12 @@ void expectSameText(double value, Mask mask) {
     ASSERT_EQ(genSub::FormatNum(value, mask.width, mask.decimals),
               reference::FormatNum(value, mask.width, mask.decimals))
         << std::hexfloat << value << " in " << mask.width << "." << mask.decimals;
+    std::string bare = "x";
+    genSub::appendBareNum(bare, value, mask.width, mask.decimals);
+    std::string expected = reference::FormatNum(value, mask.width, mask.decimals);
+    expected.erase(0, expected.find_first_not_of(' '));
+    ASSERT_EQ(bare, "x" + expected)
+        << std::hexfloat << value << " bare in " << mask.width << "." << mask.decimals;
 }
 
 TEST(FormatNumReference, NumbersOfEveryMagnitudeGiveTheSameText) {

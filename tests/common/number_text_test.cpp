@@ -92,6 +92,21 @@ TEST(NumberRule, AVeryLongExponentDoesNotOverflow) {
     EXPECT_EQ(leadingNumber("1e-99999999999999999999"), 0);
 }
 
+TEST(NumberRule, AnExponentAtTheLimitOfAnIntegerIsAsLargeOrSmallAsItSays) {
+    for (const char* text :
+         {"1e9223372036854775807", "12345e9223372036854775800", "0.001e9223372036854775807",
+          "-1d9223372036854775807", "1e9223372036854775808", "1e2147483647", "1e4294967295"}) {
+        EXPECT_TRUE(readNumber(text).tooLarge) << text;
+        EXPECT_EQ(readNumber(text).value, 0) << text;
+    }
+    for (const char* text :
+         {"1e-9223372036854775808", "0.0001e-9223372036854775808", "12345e-9223372036854775807",
+          "1e-9223372036854775809", "1e-2147483648", "0e9223372036854775807"}) {
+        EXPECT_FALSE(readNumber(text).tooLarge) << text;
+        EXPECT_EQ(readNumber(text).value, 0) << text;
+    }
+}
+
 TEST(NumberRule, EveryDigitOfALongNumberCounts) {
     EXPECT_EQ(leadingNumber("400000.000000000000000000001"), 400000);
     EXPECT_EQ(leadingNumber("200000.99999999999999999999"), 200001);

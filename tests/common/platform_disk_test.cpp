@@ -6,6 +6,8 @@
 #include "support/faults.h"
 #include "support/temporary_folder.h"
 
+#include <sys/stat.h>
+
 namespace kelvo {
 namespace {
 
@@ -57,19 +59,6 @@ TEST(PlatformDisk, AFullDiskIsFault61) {
               61);
 }
 
-TEST(PlatformDisk, AFileThatMayNotBeWrittenIsRefusedAlsoForReplacing) {
-    if (geteuid() == 0) GTEST_SKIP() << "root may write everything";
-    const TemporaryFolder folder;
-    PlatformDisk disk;
-    folder.put("a", "old");
-    fs::permissions(folder.file("a"), fs::perms::owner_read);
-    for (const int fault : {faultOf([&] { disk.openForWriting(folder.file("a")); }),
-                            faultOf([&] { disk.replace(folder.file("a"), "new"); })}) {
-        EXPECT_TRUE(fault == 70 || fault == 75) << fault;
-    }
-    EXPECT_EQ(folder.bytes("a"), "old");
-}
-
 TEST(PlatformDisk, ReplacingFollowsALinkAndLeavesNothingBeside) {
     const TemporaryFolder folder;
     PlatformDisk disk;
@@ -92,6 +81,85 @@ TEST(PlatformDisk, KnowsOneFileUnderTwoNames) {
     EXPECT_TRUE(disk.sameFile(folder.file("a"), folder.file("c")));
     EXPECT_FALSE(disk.sameFile(folder.file("a"), folder.file("b")));
     EXPECT_FALSE(disk.sameFile(folder.file("none"), folder.file("none")));
+}
+
+TEST(PlatformDisk, KnowsOnePlaceAlsoWhereNothingIsYet) {
+    const TemporaryFolder folder;
+    PlatformDisk disk;
+    folder.put("a", "x");
+    fs::create_symlink("b", folder.file("to b"));
+    fs::create_directory_symlink(folder.path(), folder.file("here"));
+    EXPECT_EQ(disk.placeOf(folder.file("a")), disk.placeOf(folder.file("here/./a")));
+    EXPECT_EQ(disk.placeOf(folder.file("b")), disk.placeOf(folder.file("here/b")));
+    EXPECT_EQ(disk.placeOf(folder.file("b")), disk.placeOf(folder.file("to b")));
+    EXPECT_NE(disk.placeOf(folder.file("a")), disk.placeOf(folder.file("b")));
+    EXPECT_NE(disk.placeOf(folder.file("b")), disk.placeOf(folder.file("B")));
+    EXPECT_NE(disk.placeOf(folder.file("b")), disk.placeOf(folder.file("none/b")));
+}
+
+TEST(PlatformDisk, RenamesOverWhatHadTheName) {
+    const TemporaryFolder folder;
+    PlatformDisk disk;
+    folder.put("a", "new");
+    folder.put("b", "old");
+    disk.rename(folder.file("a"), folder.file("b"));
+    EXPECT_EQ(folder.bytes("b"), "new");
+    EXPECT_FALSE(fs::exists(folder.file("a")));
+    EXPECT_EQ(faultOf([&] { disk.rename(folder.file("a"), folder.file("b")); }), 53);
+}
+
+TEST(PlatformDisk, ANameWithANulIsNoFile) {
+    const TemporaryFolder folder;
+    PlatformDisk disk;
+    folder.put("a", "x");
+    const std::string name = folder.file("a") + std::string(1, '\0') + "b";
+    EXPECT_EQ(faultOf([&] { disk.openForReading(name); }), 53);
+    EXPECT_EQ(faultOf([&] { disk.replace(name, "y"); }), 53);
+    EXPECT_EQ(folder.bytes("a"), "x");
+}
+
+TEST(PlatformDisk, APipeThatNobodyFeedsIsRefusedAtOnce) {
+    const TemporaryFolder folder;
+    PlatformDisk disk;
+    ASSERT_EQ(mkfifo(folder.file("pipe").c_str(), 0600), 0);
+    EXPECT_EQ(faultOf([&] { disk.openForReading(folder.file("pipe")); }), 75);
+    EXPECT_EQ(faultOf([&] { disk.openForWriting(folder.file("pipe")); }), 71);
+    EXPECT_EQ(faultOf([&] { disk.openForAppending(folder.file("pipe")); }), 71);
+    EXPECT_EQ(faultOf([&] { disk.replace(folder.file("pipe"), "x"); }), 71);
+}
+
+TEST(PlatformDisk, TidyingTakesAwayWhatAKilledSaveLeft) {
+    const TemporaryFolder folder;
+    PlatformDisk disk;
+    folder.put("kelvo.0123456789abcdef.new", "half");
+    folder.put("kelvo.0123456789abcdeg.new", "another's");
+    folder.put("my.new", "mine");
+    disk.tidy(folder.path());
+    EXPECT_FALSE(fs::exists(folder.file("kelvo.0123456789abcdef.new")));
+    EXPECT_TRUE(fs::exists(folder.file("kelvo.0123456789abcdeg.new")));
+    EXPECT_TRUE(fs::exists(folder.file("my.new")));
+}
+
+TEST(PlatformDisk, TidyingLeavesWhatAProgramStillWrites) {
+    const TemporaryFolder folder;
+    PlatformDisk disk;
+    const auto report = disk.openForWriting(folder.file("a.out"));
+    report->write("half");
+    disk.tidy(folder.path());
+    report->close();
+    EXPECT_EQ(folder.bytes("a.out"), "half");
+}
+
+TEST(PlatformDisk, OnlyOneHasItsTurnAtAFolder) {
+    const TemporaryFolder folder;
+    PlatformDisk disk;
+    auto turn = disk.takeTurn(folder.path());
+    EXPECT_NE(turn, nullptr);
+    EXPECT_EQ(disk.takeTurn(folder.path()), nullptr);
+    turn.reset();
+    EXPECT_NE(disk.takeTurn(folder.path()), nullptr);
+    EXPECT_EQ(disk.takeTurn(folder.file("none")), nullptr);
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), fs::directory_iterator()), 0);
 }
 
 }  // namespace

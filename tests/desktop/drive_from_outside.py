@@ -1,18 +1,21 @@
 #!/usr/bin/env python3
 """Drives the real window from outside, as assistive technology does.
 
-    drive_from_outside.py KELVO [work|fault|titles]
+    drive_from_outside.py KELVO [work|fault|titles|ends]
 
 Starts the program on a display of its own. "work" finds every control by its description, does a
 batch run, walks one point there and back, and prints to a PDF file. "fault" asks for
 the plot with a box that holds no number while the viewer holds unsaved text, and looks at the
 report, the rescue file and the exit code. "titles" reads the titles of window, box and dialog
-from the display, under a window manager. Exit code 77 (skipped) with a clear word where a package is missing.
+from the display, under a window manager. "ends" types a text and ends the program by signals and by
+taking its display away: each time the next start brings the text back. Exit code 77 (skipped) with a
+clear word where a package is missing.
 """
 import os
 import pathlib
 import re
 import shutil
+import signal
 import subprocess
 import sys
 import tempfile
@@ -316,10 +319,81 @@ def look_at_titles(folder):
     print("box and dialog have their own titles")
 
 
+def started(folder, **environment):
+    """The program, once its window is there."""
+    for _ in range(4):  # on a busy machine the display takes its time to come up
+        program = subprocess.Popen([sys.argv[1], "--app-folder", str(folder)],
+                                   env=dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", **environment))
+        try:
+            control("frmKelvo")
+            return program
+        except SystemExit:
+            program.kill()
+            program.wait(20)
+    raise SystemExit("the window doesn't come")
+
+
+def journal(folder):
+    return [path for path in folder.glob("unsaved/*/viewer.txt")]
+
+
+def display_of_its_own():
+    number = ":%d" % (1000 + os.getpid() % 10000)
+    server = subprocess.Popen(["Xvfb", number, "-screen", "0", "1280x900x24", "-nolisten", "tcp"],
+                              stderr=subprocess.DEVNULL)
+    wait_for(lambda: pathlib.Path("/tmp/.X11-unix/X" + number[1:]).exists(), "the display")
+    return number, server
+
+
+def end_in_every_way(folder):
+    for number, way in enumerate(("SIGKILL", "SIGABRT", "SIGTERM", "SIGHUP", "display")):
+        server = None
+        if way == "display":
+            name, server = display_of_its_own()
+            program = started(folder, DISPLAY=name)
+        else:
+            program = started(folder)
+        choose("입력데이터수정")
+        wait_for(lambda: showing("Richtxt"), "the viewer")
+        typed = "저녁 내내 친 글 %d" % number
+        type_into("Richtxt", typed)
+        if way in ("SIGTERM", "SIGHUP"):
+            program.send_signal(getattr(signal, way))  # with no time to write a journal before
+            assert program.wait(20) == 0, way
+        else:
+            wait_for(lambda: journal(folder), "the journal", 10)
+            if way == "display":
+                server.terminate()
+                server.wait(20)
+            else:
+                program.send_signal(getattr(signal, way))
+            assert program.wait(20) != 0, way
+        assert journal(folder), way
+
+        program = started(folder)
+        try:
+            offer = find(lambda node: "저장하지 않고 끝난 글" in (node.get_name() or ""), "the offer")
+            assert "test.dat" in offer.get_name(), offer.get_name()
+            act(find(lambda node: node.get_name() == "되살리기", "its button"), "Press")
+            wait_for(lambda: text_of("Richtxt") == typed, "the text")
+            press("cmdSave")
+            wait_for(lambda: not journal(folder), "the journal to go")
+            assert (folder / "data/test.dat").read_bytes() == typed.encode("cp949")
+        finally:
+            program.terminate()
+            program.wait(20)
+        print("%s: the text came back and was saved" % way)
+
+
+
 def main():
     session = sys.argv[2] if len(sys.argv) > 2 else "work"
     with tempfile.TemporaryDirectory(prefix="kelvo") as place:
         folder = pathlib.Path(place) / "app"
+        if session == "ends":
+            end_in_every_way(folder)
+            print("done")
+            return
         environment = dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
         for _ in range(4):  # on a busy machine the display takes its time to come up
             program = subprocess.Popen([sys.argv[1], "--app-folder", str(folder)],

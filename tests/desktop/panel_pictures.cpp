@@ -98,7 +98,7 @@ int main(int argc, char** argv) {
     testing::WindowHands hands(window);
     Pictures pictures(QString::fromLocal8Bit(argv[1]));
     if (!window.start()) return 1;
-    window.openDataFile(QString::fromStdString(folder + "/data/현장1.dat"));
+    window.openDataFile(folder + "/data/현장1.dat");
     hands.click("cmdClose");
     pictures.take(window, "start");
 

@@ -17,7 +17,7 @@ class SeveralRunsTest final : public WindowCase {
 
 private slots:
     void eachFileIsARunOfItsOwn() {
-        const QStringList paths = putData(3);
+        const std::vector<std::string> paths = putData(3);
         window_->convertFiles(paths);
         for (int file = 1; file <= 3; ++file) {
             const std::string report = readBytes(folder_->file(result(file)));
@@ -32,7 +32,7 @@ private slots:
 
     // The reports are those of runs made one by one.
     void theReportsAreThoseOfSingleRuns() {
-        const QStringList paths = putData(2);
+        const std::vector<std::string> paths = putData(2);
         window_->openDataFile(paths[1]);
         hands_->click("mnuBatchGo");
         const std::string alone = readBytes(folder_->file(result(2)));
@@ -42,8 +42,8 @@ private slots:
     }
 
     void aFileThatIsGoneIsSaidAndTheOthersAreConverted() {
-        QStringList paths = putData(2);
-        QVERIFY(QFile::remove(paths[0]));
+        const std::vector<std::string> paths = putData(2);
+        QVERIFY(QFile::remove(qtText(paths[0])));
         window_->convertFiles(paths);
         const std::string& box = hands_->lines.back();
         QVERIFY2(box.find("d1.dat: 열지 못했습니다") != std::string::npos, box.c_str());
@@ -51,11 +51,12 @@ private slots:
     }
 
     void cancellingLeavesTheFilesThatAreStillToCome() {
-        const QStringList paths = putData(3);
-        desktop::SeveralRuns runs(window_->program(), window_->book(), [this](const QString& path) {
-            window_->openDataFile(path);
-            return true;
-        });
+        const std::vector<std::string> paths = putData(3);
+        desktop::SeveralRuns runs(window_->program(), window_->book(),
+                                  [this](const std::string& path) {
+                                      window_->openDataFile(path);
+                                      return true;
+                                  });
         runs.onProgress = [this](int done) {
             if (done == 1) window_->findChild<QProgressDialog*>("severalRuns")->cancel();
         };
@@ -103,13 +104,13 @@ private:
     [[nodiscard]] static std::string result(int file) {
         return "data/d" + std::to_string(file) + ".out";
     }
-    QStringList putData(int files) {
-        QStringList paths;
+    std::vector<std::string> putData(int files) {
+        std::vector<std::string> paths;
         for (int file = 1; file <= files; ++file) {
             const std::string number = std::to_string(file);
             folder_->put("data/d" + number + ".dat",
                          "WGS P" + number + " 37.353" + number + " 126.3229 30\r\nend\r\n \r\n");
-            paths << qtText(folder_->file("data/d" + number + ".dat"));
+            paths.push_back(folder_->file("data/d" + number + ".dat"));
         }
         return paths;
     }

@@ -214,7 +214,7 @@ private slots:
 private:
     void openData(const std::string& name, const std::string& text) {
         folder_->put("data/" + name, text);
-        window_->openDataFile(path(name.c_str()));
+        window_->openDataFile(folder_->file("data/" + name));
         if (!window_->book().at("frmeFile")->isVisible()) hands_->click("mnuBatchEdit");
     }
     [[nodiscard]] QString path(const char* name) const {

@@ -44,7 +44,7 @@ private slots:
         // Bytes that are no letters, a lone line feed at the end of one line, a form feed.
         const std::string bytes = "*\xFF\x81 \x0C\xA0\r\nend\r\n";
         folder_->put("data/odd.dat", bytes);
-        window_->openDataFile(qtText(folder_->file("data/odd.dat")));
+        window_->openDataFile(folder_->file("data/odd.dat"));
         QTextCursor caret(window_->book().viewer()->editor().document());
         caret.insertText("x");
         caret.deletePreviousChar();
@@ -57,7 +57,7 @@ private slots:
         for (int line = 0; line < 50000; ++line)
             text += "* 인천No-3  37.35332567  126.32293454  30.1756  \r\n";
         folder_->put("data/big.dat", encodeCodePage(text));
-        window_->openDataFile(qtText(folder_->file("data/big.dat")));
+        window_->openDataFile(folder_->file("data/big.dat"));
         QApplication::processEvents();
         QCOMPARE(window_->book().viewer()->editor().document()->blockCount(), 50001);
     }

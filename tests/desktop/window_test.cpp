@@ -14,6 +14,7 @@
 #include <QPrintDialog>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStatusBar>
 #include <QTest>
 #include <QTimer>
 #include <fstream>
@@ -157,7 +158,7 @@ private slots:
         const std::string path = folder_->path() + folders.toStdString() + "/현장1.dat";
         QVERIFY(QDir().mkpath(qtText(folder_->path()) + folders));
         std::ofstream(path) << "*\r\nend\r\n";
-        window_->openDataFile(qtText(path));
+        window_->openDataFile(path);
         window_->resize(700, 500);
         QApplication::processEvents();
         const auto* shown = window_->findChild<QLabel*>("frmeFileCaption");
@@ -168,7 +169,7 @@ private slots:
 
     void aPrintedDocumentIsNamedAfterItsFile() {
         folder_->put("data/현장1.dat", "WGS A 37.3533 126.3229 30\r\nend\r\n\r\n");
-        window_->openDataFile(qtText(folder_->file("data/현장1.dat")));
+        window_->openDataFile(folder_->file("data/현장1.dat"));
         hands_->click("mnuBatchGo");
         QCOMPARE(window_->documentName(), QStringLiteral("현장1"));
         hands_->click("cmdShow");
@@ -265,7 +266,7 @@ private slots:
         std::string text;
         for (int line = 0; line < 63; ++line) text += "line\r\n";
         folder_->put("long.dat", text + "end\r\n");
-        window_->openDataFile(qtText(folder_->file("long.dat")));
+        window_->openDataFile(folder_->file("long.dat"));
         // The numbers are on view only after a run has said so.
         hands_->click("mnuBatchGo");
         hands_->type("Richtxt", text);
@@ -331,7 +332,7 @@ private slots:
         QPlainTextEdit& editor = window_->book().viewer()->editor();
         for (QWidget* place : std::initializer_list<QWidget*>{
                  window_.get(), window_->book().at("txtdX"), editor.viewport()}) {
-            window_->openDataFile(qtText(folder_->file("data/test.dat")));
+            window_->openDataFile(folder_->file("data/test.dat"));
             drop(place, data);
             QVERIFY(window_->windowTitle().endsWith("other.dat"));
             QVERIFY(window_->book().viewer()->text() == "*\r\nend\r\n");
@@ -356,26 +357,25 @@ private slots:
         QVERIFY(window_->book().viewer()->text().find("끌어다 놓은 글") != std::string::npos);
     }
 
+    void aMissingPrintProgramIsReportedInTheStatusLine() {
+        const QByteArray path = qgetenv("PATH");
+        qputenv("PATH", "/nowhere");
+        hands_->click("mnuBatchGo");
+        hands_->click("mnuPrintMode");
+        hands_->click("optFast");
+        hands_->click("cmdModeSave");
+        hands_->click("cmdPrint");
+        qputenv("PATH", path);
+        auto* line = window_->findChild<QStatusBar*>();
+        QVERIFY(line != nullptr);
+        QVERIFY(line->currentMessage().contains("lp"));
+    }
+
     void closingWritesTheSettings() {
         hands_->click("mnuOneOpen");
         hands_->type("txtdPhi", "0.25");
         window_->close();
         QVERIFY(readBytes(folder_->file("kelvo.cfg")).find(" .25 ") != std::string::npos);
-    }
-
-    void twoWindowsOnOneFolderLeaveItsFilesWhole() {
-        MainWindow other(folder_->path());
-        QVERIFY(other.start());
-        WindowHands otherHands(other);
-        for (int turn = 0; turn < 5; ++turn) {
-            hands_->click("mnuBatchGo");
-            otherHands.click("mnuBatchGo");
-        }
-        window_->close();
-        other.close();
-        const std::string configuration = readBytes(folder_->file("kelvo.cfg"));
-        QCOMPARE(std::count(configuration.begin(), configuration.end(), '\n'), 18);
-        QVERIFY(!QFile::exists(qtText(folder_->file("kelvo.lock"))));
     }
 
 private:

@@ -10,6 +10,8 @@
 
 #include "cli/command_line.h"
 #include "common/run_time_fault.h"
+#include "common/shown_line.h"
+#include "common/standard_streams.h"
 #include "drivers/form_script.h"
 #include "support/escape.h"
 
@@ -48,19 +50,23 @@ void drive(const std::string& name) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    const std::vector<std::string> arguments = argumentsOfProcess(argc, argv);
-    if (arguments.size() != 1) {
-        std::fputs("usage: form_driver APP_FOLDER < script > transcript\n", stderr);
-        return 2;
-    }
-    std::ios::sync_with_stdio(false);
+    secureStandardStreams();
     try {
+        const std::vector<std::string> arguments = argumentsOfProcess(argc, argv);
+        if (arguments.size() != 1) {
+            std::fputs("usage: form_driver APP_FOLDER < script > transcript\n", stderr);
+            return 2;
+        }
+        std::ios::sync_with_stdio(false);
         drive(arguments.front());
     } catch (const RuntimeFault& fault) {
-        print("fault|" + std::to_string(fault.number()) + "|" + testing::escaped(fault.text()));
+        print("fault|" + std::to_string(fault.number()) + "|" +
+              testing::escaped(shownLine(fault.text())));
         return 1;
     } catch (const std::bad_alloc&) {
-        print("fault|7|메모리가 모자랍니다");
+        // By the plainest way: what failed may have been the stream's own memory.
+        std::cout.flush();
+        std::fputs("fault|7|메모리가 모자랍니다\n", stdout);
         return 1;
     }
     return 0;

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "common/run_time_fault.h"
+#include "common/standard_streams.h"
 #include "drivers/routine_bench.h"
 #include "support/escape.h"
 #include "support/message_line.h"
@@ -59,6 +60,7 @@ void printSurfaceLine(const std::string& line) {
 }  // namespace kelvo::testing
 
 int main() {
+    kelvo::secureStandardStreams();
     auto bench = std::make_unique<kelvo::testing::RoutineBench>();
     std::string line;
     while (std::getline(std::cin, line)) {

@@ -22,6 +22,19 @@ constexpr std::string_view kNumbers[] = {
     "1e16",  "9e99",       "6377397.155", "299.1528128", "500000",    "200000",     "&HFFFF",
     "1d5",   "1e400",      "0.9996",      "100000",      "1000000000"};
 
+// Where integers end, as numbers and as exponents.
+constexpr std::string_view kLimits[] = {"2147483647",
+                                        "-2147483649",
+                                        "4294967296",
+                                        "9223372036854775807",
+                                        "-9223372036854775809",
+                                        "18446744073709551616",
+                                        "1e2147483648",
+                                        "1e-2147483649",
+                                        "1e9223372036854775807",
+                                        "0.1e-9223372036854775808",
+                                        "1e18446744073709551616"};
+
 std::size_t below(Random& random, std::size_t limit) {
     return limit == 0 ? 0 : random() % limit;
 }
@@ -58,7 +71,7 @@ std::string aWord(Random& random, const Lines& lines) {
 void mutateLines(Random& random, Lines& lines, std::span<const std::string_view> known) {
     const std::size_t at = below(random, lines.size() + 1);
     const auto place = lines.begin() + static_cast<std::ptrdiff_t>(at);
-    switch (random() % 8) {
+    switch (random() % 9) {
         case 0:
         case 1:
             lines.insert(place, std::string(oneOf(random, known)));
@@ -74,6 +87,9 @@ void mutateLines(Random& random, Lines& lines, std::span<const std::string_view>
             return;
         case 5:
             if (place != lines.end()) replaceWord(random, *place, aWord(random, lines));
+            return;
+        case 6:
+            if (place != lines.end()) replaceWord(random, *place, oneOf(random, kLimits));
             return;
         default:
             if (place != lines.end()) replaceWord(random, *place, oneOf(random, kNumbers));

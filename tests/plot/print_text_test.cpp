@@ -50,6 +50,20 @@ protected:
     FastPrint() { mode.fast = true; }
 };
 
+TEST_F(FastPrint, AMissingFileIsToldWhateverTheMarginAndNothingIsPrinted) {
+    for (const std::int16_t margin : {std::int16_t{0}, std::int16_t{4}}) {
+        for (const char* name : {"gone.out", "gone.dat"}) {
+            mode.LeftMargin = margin;
+            messages.shown.clear();
+            print(name);
+            EXPECT_EQ(messages.texts(), Lines{"먼저 실행을 하십시오"}) << name << margin;
+            EXPECT_TRUE(rawPrinter.paths.empty()) << name << margin;
+            EXPECT_FALSE(disk.has("/app/code.bat"));
+            EXPECT_FALSE(disk.has("/work/temp"));
+        }
+    }
+}
+
 TEST_F(FastPrint, OutFileWithoutMarginGoesToThePrinterAsItStands) {
     disk.putText("/work/a.out", "one\r\n");
     print("a.out");

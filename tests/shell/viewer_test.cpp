@@ -191,5 +191,20 @@ TEST_F(Viewer, FolderThatMayNotBeWrittenIsReportedAndLeavesTheOldFileWhole) {
     EXPECT_EQ(disk.bytes("/app/data/a.dat"), before);
 }
 
+TEST_F(Viewer, ATextThatNoScreenCanUseIsAFault) {
+    start();
+    const std::pair<std::string, int> texts[] = {
+        {std::string(kLargestOnView + 1, '\n'), 6},
+        {std::string(kMostLinesOnView + 1, '\n'), 6},
+        {std::string(kMostLinesOnView, '\n'), 0},
+        {"a\n" + std::string(kLongestLineOnView + 1, 'x') + "\nb\n", 6},
+        {"a\n" + std::string(kLongestLineOnView, 'x') + "\nb\n", 0},
+    };
+    for (const auto& [text, fault] : texts) {
+        disk.putBytes("/app/kelvo.det", text);
+        EXPECT_EQ(testing::faultOf([&] { program->click("mnuCorrShow"); }), fault) << text.size();
+    }
+}
+
 }  // namespace
 }  // namespace kelvo

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 #include "common/code_page.h"
 #include "common/run_time_fault.h"
@@ -92,8 +93,16 @@ void MemoryDisk::replace(const std::string& path, std::string_view bytes) {
     files[full(path)] = bytes;
 }
 
+void MemoryDisk::rename(const std::string& from, const std::string& to) {
+    check("rename", from);
+    if (!has(full(from))) raise(Fault::FileNotFound);
+    requireFolderOf(full(to));
+    files[full(to)] = std::exchange(files[full(from)], {});
+    files.erase(full(from));
+}
+
 bool MemoryDisk::sameFile(const std::string& one, const std::string& other) {
-    return full(one) == full(other) && has(full(one));
+    return full(one) == full(other) && (has(full(one)) || folders.count(full(one)) != 0);
 }
 
 void MemoryDisk::setCurrentFolder(const std::string& path) {

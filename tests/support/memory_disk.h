@@ -19,7 +19,11 @@ public:
     std::unique_ptr<ByteWriter> openForWriting(const std::string& path) override;
     std::unique_ptr<ByteWriter> openForAppending(const std::string& path) override;
     void replace(const std::string& path, std::string_view bytes) override;
+    void rename(const std::string& from, const std::string& to) override;
     bool sameFile(const std::string& one, const std::string& other) override;
+    std::string placeOf(const std::string& path) override { return full(path); }
+    void tidy(const std::string&) override {}
+    std::unique_ptr<Turn> takeTurn(const std::string&) override { return std::make_unique<Turn>(); }
     std::string currentFolder() override { return current_; }
     void setCurrentFolder(const std::string& path) override;
 
@@ -32,8 +36,8 @@ public:
     [[nodiscard]] std::string text(const std::string& path) const;  // decoded, line ends kept
 
     // Called in front of every operation with its name ("read", "write", "close", "openForReading",
-    // "openForWriting", "openForAppending", "replace", "setCurrentFolder") and path; may raise a
-    // fault, which is how failures are injected.
+    // "openForWriting", "openForAppending", "replace", "rename", "setCurrentFolder") and path; may
+    // raise a fault, which is how failures are injected.
     std::function<void(const std::string& operation, const std::string& path)> before;
 
     std::map<std::string, std::string> files;

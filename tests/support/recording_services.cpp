@@ -128,6 +128,39 @@ private:
     RecordingServices& owner_;
 };
 
+// Rings only when a test says so.
+class RecordingServices::HeldAlarm final : public Alarm {
+public:
+    explicit HeldAlarm(RecordingServices& owner) : owner_(owner) {}
+    void set(std::chrono::milliseconds later, std::function<void()> bell) override {
+        owner_.alarmIn = later;
+        owner_.ring = std::move(bell);
+    }
+    void cancel() override { owner_.ring = nullptr; }
+
+private:
+    RecordingServices& owner_;
+};
+
+// In memory, and none left by other programs unless a test put them there.
+class RecordingServices::Journal final : public JournalStore {
+public:
+    explicit Journal(RecordingServices& owner) : owner_(owner) {}
+    bool keep(Shelf shelf, const UnsavedText& text) override {
+        if (owner_.journalIsFull) return false;
+        owner_.kept[shelf] = text;
+        return true;
+    }
+    void clear(Shelf shelf) override { owner_.kept.erase(shelf); }
+    std::vector<Left> left(Shelf shelf) override { return owner_.left[shelf]; }
+    void forget(Shelf shelf, const std::string& name) override {
+        std::erase_if(owner_.left[shelf], [&](const Left& one) { return one.name == name; });
+    }
+
+private:
+    RecordingServices& owner_;
+};
+
 struct RecordingServices::All {
     explicit All(RecordingServices& owner)
         : messages(owner),
@@ -137,7 +170,9 @@ struct RecordingServices::All {
           beeper(owner),
           pointer(owner),
           surfaces(owner),
-          programEnd(owner) {}
+          programEnd(owner),
+          alarm(owner),
+          journal(owner) {}
 
     Messages messages;
     Programs programs;
@@ -149,6 +184,8 @@ struct RecordingServices::All {
     Pointer pointer;
     Drawing surfaces;
     End programEnd;
+    HeldAlarm alarm;
+    Journal journal;
 };
 
 RecordingServices::RecordingServices(Disk& disk, Listener listener)
@@ -164,7 +201,9 @@ RecordingServices::RecordingServices(Disk& disk, Listener listener)
                 .screen = all_->screen,
                 .pointer = all_->pointer,
                 .surfaces = all_->surfaces,
-                .programEnd = all_->programEnd} {}
+                .programEnd = all_->programEnd,
+                .alarm = all_->alarm,
+                .journal = all_->journal} {}
 
 void RecordingServices::tell(const std::string& line) {
     if (listener_)

@@ -4,6 +4,7 @@
 
 #include <deque>
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -36,6 +37,15 @@ public:
     bool ended = false;
     bool busy = false;
 
+    // The alarm that is set, and what it does; null if none is.
+    std::chrono::milliseconds alarmIn{0};
+    std::function<void()> ring;
+
+    // The journal's shelves: of this program, and of those before it.
+    std::map<JournalStore::Shelf, UnsavedText> kept;
+    std::map<JournalStore::Shelf, std::vector<JournalStore::Left>> left;
+    bool journalIsFull = false;
+
 private:
     class Messages;
     class Programs;
@@ -47,6 +57,8 @@ private:
     class Pointer;
     class Drawing;
     class End;
+    class HeldAlarm;
+    class Journal;
     struct All;
 
     void tell(const std::string& line);

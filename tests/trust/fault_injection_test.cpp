@@ -42,6 +42,11 @@ namespace {
 
 constexpr const char* kEdited = "type Richtxt *\\r\\n새 글\\r\\nend\\r\\n";
 constexpr Rule kConfiguration{"replace /app/kelvo.cfg", Leads::Says, "CFG파일 에러"};
+// Reading what another window may have saved: without it this one's settings are written as ever.
+constexpr Rule kLook{"openForReading /app/kelvo.cfg", Leads::Quiet};
+constexpr Rule kLookOn{"read /app/kelvo.cfg", Leads::Quiet};
+constexpr Rule kPlotLook{"openForReading /app/plot.cfg", Leads::Quiet};
+constexpr Rule kPlotLookOn{"read /app/plot.cfg", Leads::Quiet};
 constexpr Rule kFolder{"setCurrentFolder /job", Leads::Says, "Error  "};
 constexpr const char* kCopyFailed = "파일 복사에 실패했습니다";
 constexpr const char* kNoHelp = "도움말 File Kelvohelp.txt를 열수 없습니다.";
@@ -103,19 +108,19 @@ const Command kCommands[] = {
      {"click mnuOneOpen", "type txtdLam 0.5"},
      {"click cmdOneClose"},
      Leads::Says,
-     {kConfiguration}},
+     {kConfiguration, kLook, kLookOn}},
     {"OnePointThere",
      {"click mnuOneOpen", "type txtdLam 0.5", "click OptCorr", "type txtWdegPhi 37.5",
       "type txtWdegLam 127.25"},
      {"click cmdW2B"},
      Leads::Out,
-     {kConfiguration}},
+     {kConfiguration, kLook, kLookOn}},
     {"OnePointBack",
      {"click mnuOneOpen", "type txtdLam 0.5", "click OptCorr", "type txtBdegPhi 37.5",
       "type txtBdegLam 127.25"},
      {"click cmdB2W"},
      Leads::Out,
-     {kConfiguration}},
+     {kConfiguration, kLook, kLookOn}},
     {"BriefNote", {"click mnuOneOpen"}, {"click mnuPrintBrief"}, Leads::Out, {}},
     {"DetailedNote", {"click mnuOneOpen"}, {"answer ok", "click mnuPrintDetail"}, Leads::Out, {}},
     {"ClearNotes", {}, {"answer ok", "click mnuPrintClear"}, Leads::Out, {}},
@@ -142,7 +147,11 @@ const Command kCommands[] = {
      {"click cmdPrint"},
      Leads::Out,
      {{"openForReading kelvo.tmp", Leads::Says, kRunFirst}}},
-    {"Close", {"type txtdLam 0.75"}, {"close"}, Leads::Out, {kConfiguration}},
+    {"Close",
+     {"type txtdLam 0.75"},
+     {"close"},
+     Leads::Out,
+     {kConfiguration, kLook, kLookOn, kPlotLook, kPlotLookOn}},
 };
 
 constexpr Fault kFaults[] = {Fault::FileNotFound,     Fault::FileAlreadyOpen, Fault::DiskFull,
@@ -180,9 +189,12 @@ bool sameParameters(const std::vector<std::string>& one, const std::vector<std::
 // What a start writes that finds no configuration.
 const Files& firstStart() {
     static const Files files = [] {
-        const Outcome outcome =
-            carryOut({}, {}, {.at = 1, .fault = Fault::FileNotFound, .how = Failing::Once}, true);
-        return outcome.after;
+        const std::vector<std::string> done = carryOut({}, {}, {}, true).done;
+        const auto reading = std::find(done.begin(), done.end(), "openForReading /app/kelvo.cfg");
+        const int at = static_cast<int>(reading - done.begin()) + 1;
+        return carryOut({}, {}, {.at = at, .fault = Fault::FileNotFound, .how = Failing::Once},
+                        true)
+            .after;
     }();
     return files;
 }
@@ -190,13 +202,18 @@ const Files& firstStart() {
 // The first adjustment and the UTM origin keep what the failed reading gave.
 const std::set<std::size_t> kKeptByAFirstStart{6, 14, 15, 16};
 
+bool isAFirstStart(const std::string& configuration) {
+    return sameParameters(linesOf(configuration), linesOf(held(firstStart(), "/app/kelvo.cfg")),
+                          kKeptByAFirstStart);
+}
+
 // A configuration is never a part: the parameters are those before, those of the command or
 // those of a first start, and behind them come one to five files.
 bool isWholeConfiguration(const std::string& text, const Outcome& outcome, const Outcome& clean) {
     const auto lines = linesOf(text);
     return sameParameters(lines, linesOf(held(outcome.before, "/app/kelvo.cfg"))) ||
            sameParameters(lines, linesOf(held(clean.after, "/app/kelvo.cfg"))) ||
-           sameParameters(lines, linesOf(held(firstStart(), "/app/kelvo.cfg")), kKeptByAFirstStart);
+           isAFirstStart(text);
 }
 
 bool isWholePlotSettings(const std::string& text) {
@@ -216,6 +233,14 @@ bool isWrittenAsItGoes(const std::string& path) {
            path == "/app/code.bat" || path == "/job/new.dat";
 }
 
+// The content of a file that a recovery replaces stands under its name with ".old" behind it.
+bool isKeptAside(const std::string& path, const Outcome& outcome) {
+    const std::string& bytes = outcome.before.at(path);
+    return std::any_of(outcome.after.begin(), outcome.after.end(), [&](const auto& file) {
+        return file.first.starts_with(path + ".old") && file.second == bytes;
+    });
+}
+
 void checkFile(const std::string& path, const Outcome& outcome, const Outcome& clean) {
     const std::string before = held(outcome.before, path);
     const std::string after = held(outcome.after, path);
@@ -223,8 +248,19 @@ void checkFile(const std::string& path, const Outcome& outcome, const Outcome& c
     if (after == before || after == whole) return;
     if (path == "/app/kelvo.cfg") {
         EXPECT_TRUE(isWholeConfiguration(after, outcome, clean)) << after;
+        EXPECT_TRUE(!isAFirstStart(after) || isKeptAside(path, outcome))
+            << "the user's settings are gone";
     } else if (path == "/app/plot.cfg") {
         EXPECT_TRUE(isWholePlotSettings(after)) << after;
+    } else if (path == "/app/data/test.dat") {
+        EXPECT_EQ(after, held(firstStart(), path));
+        EXPECT_TRUE(isKeptAside(path, outcome)) << "the user's own data is gone";
+    } else if (path.find(".old") != std::string::npos) {
+        const std::string base = path.substr(0, path.find(".old"));
+        EXPECT_TRUE(after == held(outcome.before, base) ||
+                    (base == "/app/kelvo.cfg" && isWholeConfiguration(after, outcome, clean)) ||
+                    (base == "/app/plot.cfg" && isWholePlotSettings(after)))
+            << path << " holds what nobody had";
     } else {
         EXPECT_TRUE(isWrittenAsItGoes(path)) << path << " is neither the old nor the new one";
         EXPECT_TRUE(whole.starts_with(after)) << path << " holds what nobody wrote:\n" << after;
@@ -238,8 +274,6 @@ void checkDisk(const Outcome& outcome, const Outcome& clean) {
     std::set<std::string> paths;
     for (const auto& [path, bytes] : outcome.before) paths.insert(path);
     for (const auto& [path, bytes] : outcome.after) paths.insert(path);
-    // Made where it is missing, by the start that has no other file left.
-    paths.erase("/app/data/test.DAT");
     for (const std::string& path : paths) checkFile(path, outcome, clean);
     for (const auto& [path, bytes] : outcome.before)
         EXPECT_TRUE(outcome.after.count(path) != 0) << path << " is gone";

@@ -81,6 +81,11 @@ void FaultyDisk::replace(const std::string& path, std::string_view bytes) {
     under_.replace(path, bytes);
 }
 
+void FaultyDisk::rename(const std::string& from, const std::string& to) {
+    pass("rename " + from);
+    under_.rename(from, to);
+}
+
 std::string FaultyDisk::currentFolder() {
     pass("currentFolder");
     return under_.currentFolder();

@@ -36,8 +36,14 @@ public:
     std::unique_ptr<ByteWriter> openForWriting(const std::string& path) override;
     std::unique_ptr<ByteWriter> openForAppending(const std::string& path) override;
     void replace(const std::string& path, std::string_view bytes) override;
+    void rename(const std::string& from, const std::string& to) override;
     bool sameFile(const std::string& one, const std::string& other) override {
         return under_.sameFile(one, other);
+    }
+    std::string placeOf(const std::string& path) override { return under_.placeOf(path); }
+    void tidy(const std::string& folder) override { under_.tidy(folder); }
+    std::unique_ptr<Turn> takeTurn(const std::string& folder) override {
+        return under_.takeTurn(folder);
     }
     std::string currentFolder() override;
     void setCurrentFolder(const std::string& path) override;

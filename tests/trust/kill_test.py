@@ -6,8 +6,10 @@ one, never a part, and the program starts again.
 
 First at each system call of a session that saves the text of the viewer, kelvo.cfg and plot.cfg,
 by the tampering of strace (left out, and said so, where strace may not trace); and each of those
-calls made to fail, which has to be told. Then at random moments of a program that saves over and
-over.
+calls made to fail, which has to be told. Once more with a data file that has two names, which is
+written in place: there the next start has to put right what the kill left. The calls of a save are
+looked at, too: nothing is renamed before it was settled. Then at random moments of a program that
+saves over and over.
 """
 import argparse
 import collections
@@ -24,7 +26,7 @@ import time
 # Whatever touches a file. The reading calls are there since a kill in front of them is a moment
 # between two writes.
 CALLS = ("openat,write,writev,pwrite64,fsync,fdatasync,close,rename,renameat,renameat2,unlink,unlinkat,"
-         "chmod,fchmod,fchmodat,ftruncate,link,linkat,symlink,mkdir")
+         "chmod,fchmod,fchmodat,ftruncate,fallocate,link,linkat,symlink,mkdir")
 KEPT = ("kelvo.cfg", "plot.cfg", "data/work.dat")
 EMPTY_SESSION = b"get RecentFiles(1)\n"
 
@@ -34,14 +36,17 @@ def text_of(word, lines):
 
 
 class Place:
-    """An application folder as a day's work left it, made afresh for each kill."""
+    """An application folder as a day's work left it, made afresh for each kill.
 
-    def __init__(self, driver, root):
-        self.driver, self.root = driver, root
+    With two names of the data file a save writes it in place.
+    """
+
+    def __init__(self, driver, root, two_names=False):
+        self.driver, self.root, self.two_names = driver, root, two_names
         self.app = root / "app"
         self.morning = root / "morning"
         (self.app / "data").mkdir(parents=True)
-        (self.app / "data/work.dat").write_bytes(b"* old\r\n" * 3000 + b"end\r\n")
+        (self.app / "data/work.dat").write_bytes(b"* old\r\n" * 6000 + b"end\r\n")
         self.session(f"dialog {self.app}/data/work.dat\nclick mnuFileItem(2)\n"
                      "type txtdLam 0.25\ntype txtXb 1000\nclose\n")
         shutil.copytree(self.app, self.morning)
@@ -49,6 +54,8 @@ class Place:
     def renew(self):
         shutil.rmtree(self.app)
         shutil.copytree(self.morning, self.app)
+        if self.two_names:
+            os.link(self.app / "data/work.dat", self.app / "data/linked.dat")
 
     def files(self):
         return tuple((self.app / name).read_bytes() for name in KEPT)
@@ -72,13 +79,18 @@ class Place:
 def check(place, allowed, moment):
     problems = []
     for name, held, content in zip(KEPT, allowed, place.files()):
-        if content not in held:
+        if content not in held and not (place.two_names and name == "data/work.dat"):
             problems.append(f"{moment}: {name} is neither the old nor the new one ({len(content)} bytes)")
     if place.session(EMPTY_SESSION.decode()) != 0:
         problems.append(f"{moment}: the program doesn't start again")
     for name, held, content in zip(KEPT, allowed, place.files()):
         if content not in held:
             problems.append(f"{moment}: {name} is another one after the next start")
+    left = [path.name for pattern in ("*.new", "*.copy") for path in place.app.rglob(pattern)]
+    if left:
+        problems.append(f"{moment}: the next start leaves {left}")
+    if place.two_names and not (place.app / "data/work.dat").samefile(place.app / "data/linked.dat"):
+        problems.append(f"{moment}: the two names lead to two files")
     return problems
 
 
@@ -123,6 +135,34 @@ def calls_of_saving(place):
             if index >= first:
                 calls.append((name[1], seen[name[1]], line))
     return calls
+
+
+def settled_before_renamed(place):
+    """Each new file is settled between its last write and its new name, and then its folder is."""
+    log = place.root / "order"
+    place.renew()
+    place.session("\n".join(saving_steps()) + "\n",
+                  ["strace", "-y", "-f", "-o", str(log), "-e", "trace=write,fsync,rename,renameat,renameat2"])
+    unsettled, folders, renames, problems = set(), set(), 0, []
+    for line in log.read_text(errors="replace").splitlines():
+        call = re.match(r"(?:\d+ +)?(\w+)\((?:\d+<([^>]*)>)?", line)
+        name, path = (call[1], call[2]) if call else ("", None)
+        if name == "write" and path and path.endswith(".new"):
+            unsettled.add(path)
+        elif name == "fsync":
+            unsettled.discard(path)
+            folders.discard(path)
+        elif name.startswith("rename"):
+            source, target = re.findall(r'"([^"]*)"', line)[-2:]
+            renames += 1
+            if source in unsettled:
+                problems.append(f"renamed before it was settled: {line[:100]}")
+            folders.add(str(pathlib.Path(target).parent))
+    problems += [f"the new names in {folder} were never settled" for folder in folders]
+    if renames < 3:
+        problems.append(f"only {renames} files were replaced")
+    print(f"{renames} files replaced, each settled before its name and its folder behind: {len(problems)} problems")
+    return problems
 
 
 def kill_at_each_call(place, moments):
@@ -214,8 +254,12 @@ def main():
     with tempfile.TemporaryDirectory(prefix="kelvo-") as root:
         place = Place(driver, pathlib.Path(root))
         if may_trace():
+            problems += settled_before_renamed(place)
             problems += kill_at_each_call(place, options.moments)
             problems += fail_at_each_call(place, options.moments)
+            two_names = Place(driver, pathlib.Path(root) / "two", two_names=True)
+            print("a data file with two names:")
+            problems += kill_at_each_call(two_names, options.moments)
         else:
             print("strace is missing or may not trace here: kills at random moments only")
         problems += kill_at_random(place, options.random)

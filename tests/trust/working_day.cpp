@@ -81,6 +81,8 @@ MemoryDisk theDayBefore() {
                      "click mnuOneOpen", "type txtdPhi 0.25", "click mnuPrintBrief",
                      "type txtWdegPhi 37.5", "type txtWdegLam 127.25", "type txtXb 1234", "close"}),
         "the day before");
+    // The file that the program once wrote as a sample is a user's own by now.
+    disk.putText("/app/data/test.dat", "* 내 측점\r\nWGS p 37.4 127 1\r\nend\r\n");
     return disk;
 }
 

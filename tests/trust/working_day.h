@@ -40,8 +40,8 @@ struct Outcome {
 };
 
 // The disk as the day before left it: the application folder /app with its configuration, plot
-// settings, known points, notes and help, and the data files /job/work.dat, now current, and
-// /job/other.dat, both with results.
+// settings, known points, notes and help, the data files /job/work.dat, now current, and
+// /job/other.dat, both with results, and /app/data/test.dat, once the sample and edited since.
 [[nodiscard]] const MemoryDisk& thatMorning();
 
 // Starts the program on it, prepares, and carries the command out while the disk fails. With
