@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "batch/check_finding.h"
+#include "common/disk.h"
 
 namespace kelvo {
 
@@ -22,6 +23,9 @@ struct KnownPointsFile {
     std::string path;                 // as findings name it; may be a bare name
     std::optional<std::string> text;  // UTF-8, any line ends; none if there is no such file
 };
+
+// As it stands on the disk. Faults of reading come out, but for a file that isn't there.
+[[nodiscard]] KnownPointsFile readKnownPointsFile(Disk& disk, const std::string& path);
 
 // `text` is the whole data file in UTF-8, as it stands in an editor or was decoded from the code
 // page, with any line ends. Findings of the data file come first, by their lines, then those of the

@@ -67,6 +67,8 @@ struct Finding {
     int length = 0;  // characters
     FindingKind kind{};
     std::string text;  // a Korean sentence without its place
+    // In the known points: the line of the data file that switched the correction on.
+    long correctionLine = 0;
 };
 
 // The findings of one file as they come.

@@ -97,6 +97,7 @@ struct CheckedKnownPoints::File {
     std::vector<TextLine> lines;   // of the file
     std::vector<TextLine> points;  // of those that are read
     CorrPointTable table;
+    EllipsoidShape shape{kWgs84};
     std::vector<Geocentric> places;  // of those that count, on the ellipsoid
 };
 
@@ -215,22 +216,25 @@ std::string CheckedKnownPoints::measure(const LocalDatum& local, Findings* known
 }
 
 void CheckedKnownPoints::place() {
-    const EllipsoidShape shape(kWgs84);
     file_->places.clear();
     for (const CorrPoint& point : *usable_)
         if (point.Weight != 0 && isInCountry({.Phi = point.WgsPhi, .Lam = point.WgsLam}))
-            file_->places.push_back(KelvoSub::GeoToXYZ(point.WgsPhi, point.WgsLam, 0, shape));
+            file_->places.push_back(
+                KelvoSub::GeoToXYZ(point.WgsPhi, point.WgsLam, 0, file_->shape));
 }
 
 double CheckedKnownPoints::distanceFrom(const Position& place) const {
     if (file_->places.empty()) return 0;
-    const Geocentric from = KelvoSub::GeoToXYZ(place.Phi, place.Lam, 0, EllipsoidShape(kWgs84));
-    double nearest = std::numeric_limits<double>::max();
+    const Geocentric from = KelvoSub::GeoToXYZ(place.Phi, place.Lam, 0, file_->shape);
+    double nearest2 = std::numeric_limits<double>::max();
     for (const Geocentric& to : file_->places) {
-        nearest = std::min(nearest, std::hypot(to.X - from.X, to.Y - from.Y, to.Z - from.Z));
-        if (nearest < kFarMetres) break;
+        const double dX = to.X - from.X;
+        const double dY = to.Y - from.Y;
+        const double dZ = to.Z - from.Z;
+        nearest2 = std::min(nearest2, dX * dX + dY * dY + dZ * dZ);
+        if (nearest2 < kFarMetres * kFarMetres) break;
     }
-    return nearest;
+    return std::sqrt(nearest2);
 }
 
 }  // namespace kelvo

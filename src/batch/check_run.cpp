@@ -1,6 +1,7 @@
 #include "batch/check_run.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "batch/check_encoding.h"
 #include "batch/check_parameters.h"
@@ -36,8 +37,10 @@ void CheckedRun::follow() {
 
 std::vector<Finding> CheckedRun::takeFindings() {
     std::vector<Finding> all = data_.takeSorted();
-    const std::vector<Finding> known = known_.takeSorted();
-    all.insert(all.end(), known.begin(), known.end());
+    for (Finding& finding : known_.takeSorted()) {
+        finding.correctionLine = correction_.number;
+        all.push_back(std::move(finding));
+    }
     return all;
 }
 

@@ -44,8 +44,8 @@ struct NumberField {
         Absent,
         Word,      // no number at the front: read as 0
         TooLarge,  // read as 0
-        Cut,       // digits are left behind, as in 37-35-33
-        Whole,     // or with a unit behind it, as in 30.5m
+        Cut,       // digits are left over, as in 37-35-33
+        Whole,     // or with a unit after it, as in 30.5m
     };
     State state = State::Absent;
     double value = 0;

@@ -5,7 +5,6 @@
 #include <span>
 
 #include "batch/continuation_lines.h"
-#include "batch/definition_of_para.h"
 #include "batch/detail_report.h"
 #include "batch/run_header.h"
 #include "batch/wording.h"

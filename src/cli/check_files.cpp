@@ -14,15 +14,6 @@ namespace kelvo {
 
 namespace {
 
-KnownPointsFile readKnownPoints(Disk& disk, const std::string& CorPath) {
-    try {
-        return {.path = CorPath, .text = readWholeText(disk, CorPath)};
-    } catch (const RuntimeFault& fault) {
-        if (fault.fault() != Fault::FileNotFound && fault.fault() != Fault::PathNotFound) throw;
-        return {.path = CorPath, .text = std::nullopt};
-    }
-}
-
 // A run would write over a file that it reads.
 void addConflict(Disk& disk, const std::string& data, const std::string& CorPath,
                  std::vector<Finding>& findings) {
@@ -43,7 +34,7 @@ CheckResult checkFiles(std::span<const std::string> dataFiles, const std::string
     for (const std::string& data : dataFiles) {
         try {
             const std::string text = readWholeText(disk, data);
-            std::vector<Finding> findings = checkDataFile(text, readKnownPoints(disk, CorPath));
+            std::vector<Finding> findings = checkDataFile(text, readKnownPointsFile(disk, CorPath));
             addConflict(disk, data, CorPath, findings);
             if (!findings.empty()) worst = std::max(worst, CheckResult::Found);
             for (const Finding& finding : findings) {

@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "common/disk.h"
+#include "exchange/vector_format.h"
 
 #ifdef _WIN32
 #include <windows.h>
@@ -21,6 +22,17 @@ std::string withoutTrailingSeparator(std::string folder) {
 
 CommandLineReading refused(std::string complaint) {
     return {.line = std::nullopt, .complaint = std::move(complaint)};
+}
+
+// "gpkg, geojson, ... or ods"
+std::string vectorEndings() {
+    std::string endings;
+    for (const FormatLimits& format : vectorFormats()) {
+        if (!endings.empty())
+            endings += format.format == vectorFormats().back().format ? " or " : ", ";
+        endings += format.ending;
+    }
+    return endings;
 }
 
 #ifdef _WIN32
@@ -57,6 +69,10 @@ CommandLineReading readCommandLine(std::span<const std::string> arguments) {
             if (++i == arguments.size() || arguments[i].empty())
                 return refused("--app-folder needs a folder");
             line.applicationFolder = withoutTrailingSeparator(arguments[i]);
+        } else if (argument == "--export") {
+            if (++i == arguments.size() || !vectorFormatOf(arguments[i]))
+                return refused("--export needs a file whose name ends in " + vectorEndings());
+            line.exports.push_back(arguments[i]);
         } else if (argument == "-") {
             return refused(
                 "standard input can't be converted: the result stands beside the data file and "
@@ -66,6 +82,11 @@ CommandLineReading readCommandLine(std::span<const std::string> arguments) {
         }
     }
     if (line.dataFiles.empty()) return refused("no data file is given");
+
+    if (!line.exports.empty() && line.wish == CommandLine::Wish::Check)
+        return refused("--check writes nothing, --export writes");
+    if (!line.exports.empty() && line.dataFiles.size() > 1)
+        return refused("--export takes the tables of one data file");
     return {.line = line, .complaint = {}};
 }
 
@@ -86,7 +107,8 @@ std::vector<std::string> argumentsOfProcess([[maybe_unused]] int argc,
 }
 
 std::string usageText() {
-    return "usage: kelvo-batch [--app-folder DIR] [--quiet] [--check] DATA.dat...\n";
+    return "usage: kelvo-batch [--app-folder DIR] [--quiet] [--check] [--export FILE] "
+           "DATA.dat...\n";
 }
 
 std::string helpText() {
@@ -101,6 +123,8 @@ std::string helpText() {
            "  --app-folder DIR  use DIR as the application folder\n"
            "  --check           convert nothing and write nothing: look for slips in the data\n"
            "                    files and print them to standard output as FILE:LINE: text\n"
+           "  --export FILE     write the tables' points to FILE as well, for other programs; its\n"
+           "                    name ends in gpkg, geojson, shp, kml, gpx, dxf, xlsx or ods\n"
            "  --quiet           print run-time errors only: no messages, no progress bar\n"
            "  --help            print this and end\n"
            "  --version         print the version and end\n"

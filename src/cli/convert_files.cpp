@@ -5,12 +5,13 @@
 #include <array>
 
 #include "common/disk.h"
-#include "common/letter_case.h"
 #include "common/run_time_fault.h"
 #include "convert/delimited_sink.h"
 #include "convert/delimited_source.h"
 #include "convert/file_identity.h"
 #include "convert/refusal.h"
+#include "convert/vector_sink.h"
+#include "convert/vector_source.h"
 #include "convert/whole_output.h"
 #include "library/definition_text.h"
 #include "library/text_bytes.h"
@@ -50,14 +51,18 @@ std::optional<FileIdentity> identityOf(const std::string& name, int stream) {
     return name == kStream ? identityOfStream(stream) : identityOfFile(name);
 }
 
-// Written and read by a module of their own.
-void requireText(const std::string& name) {
-    constexpr std::array<std::string_view, 8> kVectorFormats{".GPKG", ".GEOJSON", ".SHP",  ".KML",
-                                                             ".GPX",  ".DXF",     ".XLSX", ".ODS"};
-    const std::string capitals = upperCased(name);
-    for (const std::string_view format : kVectorFormats)
-        if (capitals.ends_with(format))
-            throw Refusal("vector formats aren't part of this build (" + name + ")");
+// How many points a file of text holds; looked at where the format of the output has a limit that
+// they may pass.
+std::uint64_t pointsAhead(const ConvertCommandLine& line, VectorFormat format,
+                          const Definition& definition) {
+    const std::uint64_t most = limitsOf(format).mostPoints;
+    const auto identity = line.input == kStream ? std::nullopt : identityOfFile(line.input);
+    // A point takes four bytes and a line end at least.
+    if (most == 0 || !identity || identity->size / 5 <= most) return 0;
+    const auto source = openSource(line, definition);
+    std::uint64_t points = 0;
+    for (RowBlock block; source->gather(block); block.clear()) points += block.lines.size();
+    return points;
 }
 
 }  // namespace
@@ -88,8 +93,21 @@ void requireFilesOfTheirOwn(const ConvertCommandLine& line) {
     if (line.knownPoints) require(identityOfFile(*line.knownPoints), "the file of --known-points");
 }
 
-std::unique_ptr<RowSource> openSource(const ConvertCommandLine& line) {
-    requireText(line.input);
+std::unique_ptr<RowSource> openSource(const ConvertCommandLine& line,
+                                      const Definition& definition) {
+    const auto format = vectorFormatOf(line.input);
+    if (format && limitsOf(*format).hasGeometry) {
+        if (line.columns.chosen)
+            throw Refusal("--columns is for text and sheets: a " +
+                          std::string(limitsOf(*format).name) + " has its points by themselves");
+        if (line.anglesIn != AngleForm::Degrees)
+            throw Refusal("--angles-in: a " + std::string(limitsOf(*format).name) +
+                          " has its angles in decimal degrees");
+        return openVectorSource(*format, line.input, line.from, definition);
+    }
+    if (format)
+        return std::make_unique<DelimitedSource>(openSheetAsText(*format, line.input), line.columns,
+                                                 0);
     const auto identity = identityOf(line.input, STDIN_FILENO);
     return orRefusal([&]() -> std::unique_ptr<RowSource> {
         PlatformDisk disk;
@@ -99,8 +117,19 @@ std::unique_ptr<RowSource> openSource(const ConvertCommandLine& line) {
     });
 }
 
-std::unique_ptr<RowSink> openSink(const ConvertCommandLine& line) {
-    requireText(line.output);
+std::unique_ptr<RowSink> openSink(const ConvertCommandLine& line, const Definition& definition) {
+    if (const auto format = vectorFormatOf(line.output)) {
+        return std::make_unique<VectorSink>(
+            VectorOutput{.format = *format,
+                         .path = line.output,
+                         .systems = line.to,
+                         .geometry = line.geometry,
+                         .angles = line.anglesOut,
+                         .points = pointsAhead(line, *format, definition)},
+            definition);
+    }
+    if (line.geometry)
+        throw Refusal("--geometry is for vector formats; OUTPUT is text (" + line.output + ")");
     return orRefusal([&]() -> std::unique_ptr<RowSink> {
         return std::make_unique<DelimitedSink>(
             line.output == kStream ? standardOutput() : wholeFile(line.output), columnsOf(line.to),

@@ -15,7 +15,9 @@ namespace kelvo {
 // Refusal where a file would be written that is read as well.
 void requireFilesOfTheirOwn(const ConvertCommandLine& line);
 
-[[nodiscard]] std::unique_ptr<RowSource> openSource(const ConvertCommandLine& line);
-[[nodiscard]] std::unique_ptr<RowSink> openSink(const ConvertCommandLine& line);
+[[nodiscard]] std::unique_ptr<RowSource> openSource(const ConvertCommandLine& line,
+                                                    const Definition& definition);
+[[nodiscard]] std::unique_ptr<RowSink> openSink(const ConvertCommandLine& line,
+                                                const Definition& definition);
 
 }  // namespace kelvo

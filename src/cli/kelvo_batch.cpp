@@ -2,20 +2,24 @@
 #include <cstdio>
 #include <memory>
 #include <new>
+#include <optional>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "batch/run_batch.h"
 #include "cli/check_files.h"
 #include "cli/command_line.h"
 #include "cli/progress_bar.h"
 #include "cli/shared_files.h"
+#include "cli/table_export.h"
 #include "common/application_folder.h"
 #include "common/disk.h"
 #include "common/paths.h"
 #include "common/run_time_fault.h"
 #include "common/shown_line.h"
 #include "common/standard_streams.h"
+#include "exchange/load_point_files.h"
 
 #ifdef _WIN32
 #include <windows.h>
@@ -122,6 +126,21 @@ void tidyUp(Disk& disk, const CommandLine& line, const std::string& folder) {
     for (const std::string& name : folders) disk.tidy(name);
 }
 
+// True if every file that was asked for is written.
+bool exportAll(const PointTable& points, const std::vector<std::string>& paths,
+               StandardError& error) {
+    bool good = true;
+    for (const std::string& path : paths) {
+        try {
+            exportTables(points, path);
+        } catch (const ExchangeFault& fault) {
+            error.line(std::string("export: ") + fault.what());
+            good = false;
+        }
+    }
+    return good;
+}
+
 // Every file is a run of its own: nothing of one shows in another.
 int runAll(const CommandLine& line, const std::string& folder, StandardError& error,
            ProgressBar& bar) {
@@ -133,6 +152,19 @@ int runAll(const CommandLine& line, const std::string& folder, StandardError& er
     if (const auto complaint = complaintAboutSharedFiles(disk, line.dataFiles, detail, known)) {
         printUsage(*complaint);
         return kWrongUsage;
+    }
+    if (!line.exports.empty()) {
+        std::optional<std::string> complaint =
+            complaintAboutExports(disk, line.dataFiles.front(), line.exports, detail, known);
+        try {
+            static_cast<void>(loadPointFiles());
+        } catch (const ExchangeFault& fault) {
+            complaint = fault.what();
+        }
+        if (complaint) {
+            print(stderr, shownLine("kelvo-batch: " + *complaint) + "\n");
+            return kWrongUsage;
+        }
     }
     tidyUp(disk, line, folder);
 
@@ -146,7 +178,9 @@ int runAll(const CommandLine& line, const std::string& folder, StandardError& er
             .dataFile = data, .detPath = several ? detailBeside(data) : detail, .CorPath = known};
         const auto state = std::make_unique<ConversionState>();
         last = {};
-        good &= ends([&] { RunBatch(*state, places, last, disk, messages); }, error);
+        const bool ended = ends([&] { RunBatch(*state, places, last, disk, messages); }, error);
+        good &= ended;
+        if (ended) good &= exportAll(state->points, line.exports, error);
     }
     // As ever, kelvo.det is that of the last run, also where a fault ended it.
     const std::string lastDetail = detailBeside(line.dataFiles.back());

@@ -28,12 +28,15 @@ void print(std::FILE* stream, const std::string& text) {
 int convert(const ConvertCommandLine& line, ConvertReport& report) {
     const PointConverter converter = converterOf(line);
     requireFilesOfTheirOwn(line);
-    const auto source = openSource(line);
-    const auto sink = openSink(line);
+    const auto source = openSource(line, converter.definition());
+    const auto sink = openSink(line, converter.definition());
     const ConversionOfRows conversion{
         .converter = converter, .system = line.from, .angles = line.anglesIn, .jobs = line.jobs};
     const Converted all = convertRows(*source, conversion, *sink, report);
     report.end(all);
+    if (!line.quiet) {
+        for (const std::string& note : sink->notes()) print(stderr, note + "\n");
+    }
     return all.notConverted == 0 ? kAllConverted : kSomeNot;
 }
 

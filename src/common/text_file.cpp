@@ -22,6 +22,10 @@ void closeQuietly(ByteWriter& file) {
     }
 }
 
+bool isLineEnd(char c) {
+    return c == '\r' || c == '\n';
+}
+
 }  // namespace
 
 TextReader::TextReader(Disk& disk, const std::string& path)
@@ -71,8 +75,7 @@ void TextReader::readLine(std::string& line) {
     while (fill()) {
         const char* const first = buffer_.data() + next_;
         const char* const last = buffer_.data() + end_;
-        const char* const lineEnd =
-            std::find_if(first, last, [](char c) { return c == '\r' || c == '\n'; });
+        const char* const lineEnd = std::find_if(first, last, isLineEnd);
         raw_.append(first, lineEnd);
         checkLength(raw_.size());
         next_ += static_cast<std::size_t>(lineEnd - first);
@@ -210,9 +213,10 @@ std::string readWholeText(Disk& disk, const std::string& path, std::size_t large
     text.reserve(bytes.size() + bytes.size() / 2);
     std::string_view rest = bytes;
     while (!rest.empty()) {
-        const std::size_t lineEnd = rest.find_first_of("\r\n");
+        const auto end = std::find_if(rest.begin(), rest.end(), isLineEnd);
+        const auto lineEnd = static_cast<std::size_t>(end - rest.begin());
         decodeCodePage(rest.substr(0, lineEnd), text);
-        if (lineEnd == std::string_view::npos) break;
+        if (end == rest.end()) break;
         text += "\r\n";
         const bool pair = rest.substr(lineEnd, 2) == "\r\n";
         rest.remove_prefix(lineEnd + (pair ? 2 : 1));

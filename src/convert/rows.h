@@ -81,6 +81,9 @@ public:
 
     // All rows are there: the result takes its place. Without it what was there before stays.
     virtual void finish() = 0;
+
+    // What the user should know of the result, a sentence each.
+    [[nodiscard]] virtual std::vector<std::string> notes() const { return {}; }
 };
 
 }  // namespace kelvo

@@ -21,6 +21,7 @@
 #include "desktop/native_paths.h"
 #include "desktop/text_viewer.h"
 #include "panels/point_texts.h"
+#include "shell/main.h"
 
 namespace kelvo::desktop {
 

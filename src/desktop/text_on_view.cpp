@@ -23,7 +23,8 @@ TextOnView::TextOnView(frmKelvo& program, WidgetBook& book, StatusBar& status,
                        MessageBoxes& messages)
     : program_(program), book_(book), status_(status), messages_(messages) {
     TextViewer* viewer = book.viewer();
-    connect(viewer, &TextViewer::modifiedChanged, this, &TextOnView::refresh);
+    connect(viewer, &TextViewer::modifiedChanged, this,
+            [this](bool on) { status_.setUnsaved(on && textIsOnView()); });
     connect(viewer, &TextViewer::loaded, this, &TextOnView::check);
     connect(viewer, &TextViewer::edited, this, &TextOnView::check);
     connect(viewer, &TextViewer::placeChanged, this, [this] {

@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "batch/definition_of_para.h"
 #include "common/run_time_fault.h"
 #include "library/bad_definition.h"
 #include "library/measured_known_points.h"

@@ -93,9 +93,4 @@ private:
     std::unique_ptr<Members> members_;
 };
 
-// The program's start: reads the configuration (writing a new one and the sample data file
-// where there is none), fills the list of recent files and loads the window. Fault 9 for a list
-// of more than six entries of which none after the fifth is there (required).
-void Main(frmKelvo& window);
-
 }  // namespace kelvo

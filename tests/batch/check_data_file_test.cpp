@@ -83,6 +83,7 @@ TEST(CheckDataFile, GivesFindingsOfTheKnownPointsAfterItsOwn) {
     ASSERT_GE(findings.size(), 2U) << shown(findings);
     EXPECT_EQ(findings.front().in, Finding::In::DataFile);
     EXPECT_EQ(findings.back().in, Finding::In::KnownPoints);
+    EXPECT_EQ(findings.back().correctionLine, 1);
 }
 
 TEST(CheckDataFile, SaysThatKnownPointsAreNeverRead) {

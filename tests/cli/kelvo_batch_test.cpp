@@ -138,6 +138,18 @@ TEST_F(KelvoBatch, AFolderThatMayNotBeWrittenIsAFault) {
     }));
 }
 
+TEST_F(KelvoBatch, ADataFileThatMayNotBeReadIsAFaultAndLeavesItsOldResult) {
+    folder.put("a.dat", sixPoints());
+    folder.put("a.out", "of yesterday\r\n");
+    fs::permissions(folder.file("a.dat"), fs::perms::none);
+    fs::permissions(folder.path(), fs::perms::all);
+    EXPECT_TRUE(testing::asUnprivileged([&] {
+        expectFault(run(folder.file("a.dat")), 70);
+        return !HasFailure();
+    }));
+    EXPECT_EQ(folder.bytes("a.out"), "of yesterday\r\n");
+}
+
 TEST_F(KelvoBatch, AnApplicationFolderThatNobodyMayWriteIsAFault) {
     if (!fs::is_directory("/sys")) GTEST_SKIP() << "no /sys here";
     folder.put("a.dat", sixPoints());

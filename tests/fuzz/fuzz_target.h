@@ -18,6 +18,13 @@ namespace kelvo::fuzz {
 // input isn't made of lines gives none.
 [[nodiscard]] std::span<const std::string_view> knownLines();
 
+// Whether stored inputs are replayed, as a test, and speed doesn't matter.
+#ifdef KELVO_FUZZ
+inline constexpr bool kReplaysStoredInputs = false;
+#else
+inline constexpr bool kReplaysStoredInputs = true;
+#endif
+
 inline std::string_view textOf(const std::uint8_t* data, std::size_t size) {
     return {reinterpret_cast<const char*>(data), size};
 }

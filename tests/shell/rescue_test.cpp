@@ -4,10 +4,14 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <filesystem>
 
 #include "common/code_page.h"
+#include "common/disk.h"
 #include "common/run_time_fault.h"
 #include "support/memory_disk.h"
+#include "support/temporary_folder.h"
+#include "support/unprivileged.h"
 
 namespace kelvo {
 namespace {
@@ -64,6 +68,18 @@ TEST_F(Rescue, KeepsLettersThatTheCodePageLacks) {
 TEST_F(Rescue, KeepsBytesThatAreNoLetters) {
     const std::string bytes = encodeCodePage("가") + "\x81";
     EXPECT_EQ(disk.bytes(rescue(decodeCodePage(bytes))), bytes);
+}
+
+TEST(RescueOnDisk, GoesElsewhereWhereTheApplicationFolderMayNotBeWritten) {
+    const testing::TemporaryFolder app;
+    const testing::TemporaryFolder home;
+    std::filesystem::permissions(app.path(), std::filesystem::perms{0555});
+    std::filesystem::permissions(home.path(), std::filesystem::perms::all);
+    EXPECT_TRUE(testing::asUnprivileged([&] {
+        PlatformDisk disk;
+        return rescueText(disk, {app.path(), home.path()}, "20040607-093000", "글").has_value();
+    }));
+    EXPECT_EQ(home.bytes("rescue-20040607-093000-1.txt"), encodeCodePage("글"));
 }
 
 TEST(RescueFolders, AreThoseThatMayHaveRoomBestFirst) {

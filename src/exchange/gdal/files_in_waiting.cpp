@@ -1,0 +1,104 @@
+#include "exchange/gdal/files_in_waiting.h"
+
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+#include <system_error>
+#include <vector>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include "exchange/point_files.h"
+
+namespace kelvo {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+[[noreturn]] void fail(int error, const std::string& path) {
+    throw ExchangeFault(sentenceOf(error, path));
+}
+
+fs::path behindLinks(fs::path path) {
+    constexpr int kMostLinks = 40;
+    std::error_code error;
+    for (int i = 0; i < kMostLinks && fs::is_symlink(fs::symlink_status(path, error)); ++i) {
+        const fs::path next = fs::read_symlink(path, error);
+        if (error) break;
+        path = next.is_absolute() ? next : path.parent_path() / next;
+    }
+    return path;
+}
+
+void settle(const fs::path& file, const std::string& given) {
+    const int descriptor = ::open(file.c_str(), O_RDONLY | O_CLOEXEC);
+    if (descriptor < 0) fail(errno, given);
+    const int failed = fsync(descriptor) != 0 && errno != EINVAL && errno != EROFS ? errno : 0;
+    ::close(descriptor);
+    if (failed != 0) fail(failed, given);
+}
+
+}  // namespace
+
+std::string sentenceOf(int error, const std::string& path) {
+    switch (error) {
+        case ENOSPC:
+        case EFBIG:
+        case EDQUOT:
+            return "디스크가 꽉 찼습니다 (" + path + ")";
+        case EACCES:
+        case EPERM:
+        case EROFS:
+            return "파일을 쓸 권한이 없습니다 (" + path + ")";
+        case ENOENT:
+        case ENOTDIR:
+            return "폴더를 찾을 수 없습니다 (" + path + ")";
+        default:
+            return "파일을 쓸 수 없습니다: " + std::string(std::strerror(error)) + " (" + path +
+                   ")";
+    }
+}
+
+FilesInWaiting::FilesInWaiting(const std::string& target)
+    : given_(target), target_(behindLinks(target)) {
+    std::error_code ignored;
+    const fs::file_status status = fs::status(target_, ignored);
+    if (fs::exists(status) && !fs::is_regular_file(status))
+        throw ExchangeFault("파일이 아니어서 쓸 수 없습니다 (" + given_ + ")");
+    if (fs::exists(status) && access(target_.c_str(), W_OK) != 0) fail(errno, given_);
+    const fs::path parent = target_.has_parent_path() ? target_.parent_path() : fs::path(".");
+    std::string pattern = (parent / ".kelvo-XXXXXX").string();
+    if (mkdtemp(pattern.data()) == nullptr) fail(errno, given_);
+    folder_ = pattern;
+}
+
+FilesInWaiting::~FilesInWaiting() {
+    std::error_code ignored;
+    fs::remove_all(folder_, ignored);
+}
+
+void FilesInWaiting::takePlaces(bool all) const {
+    std::vector<fs::path> files;
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder_)) {
+        if (all && entry.path().filename() != target_.filename()) files.push_back(entry.path());
+    }
+    files.push_back(folder_ / target_.filename());
+    for (const fs::path& file : files) settle(file, given_);
+    std::error_code error;
+    const fs::path parent = target_.parent_path();
+    if (all) {
+        for (const char* const index : {".qix", ".sbn", ".sbx"})
+            fs::remove(fs::path(target_).replace_extension(index), error);
+    }
+    for (const fs::path& file : files) {
+        const fs::path place = parent / file.filename();
+        const fs::file_status old = fs::status(place, error);
+        if (fs::exists(old)) fs::permissions(file, old.permissions(), error);
+        fs::rename(file, place, error);
+        if (error) fail(error.value(), given_);
+    }
+}
+
+}  // namespace kelvo

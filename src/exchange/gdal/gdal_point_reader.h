@@ -1,0 +1,15 @@
+// Reading points through GDAL.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "exchange/point_files.h"
+
+namespace kelvo {
+
+// As PointFiles::open.
+[[nodiscard]] std::unique_ptr<PointFileReader> makePointReader(VectorFormat format,
+                                                               const std::string& path);
+
+}  // namespace kelvo
