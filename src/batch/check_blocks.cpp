@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "batch/check_run.h"
+#include "batch/definition_of_para.h"
 #include "batch/wording.h"
 #include "common/number_text.h"
 #include "common/point_table.h"

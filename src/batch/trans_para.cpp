@@ -1,7 +1,5 @@
 #include "batch/trans_para.h"
 
-#include <utility>
-
 namespace kelvo {
 
 ShiftParameters shiftOf(const TransPara& para) {
@@ -32,19 +30,6 @@ Ellipsoid utmEllipsoidOf(const TransPara& para) {
 
 Projection utmOriginOf(const TransPara& para) {
     return {.X0 = para.UX0, .Y0 = para.UY0, .Phi0 = para.UPhi0, .Lam0 = para.ULam0, .S0 = para.US0};
-}
-
-Definition definitionOf(const TransPara& para, const DatumState& datum, KnownPoints known) {
-    return {.local = {.user = userEllipsoidOf(para),
-                      .datum = datum,
-                      .adjustment = firstAdjustmentOf(para)},
-            .tm = tmOriginOf(para),
-            .Zone = para.Zone,
-            .shiftsOrigin = para.AddFlag == Flag::On,
-            .utm = {.ellipsoid = utmEllipsoidOf(para), .projection = utmOriginOf(para)},
-            .UZone = para.UZone,
-            .corrects = para.CorrFlag != Flag::Off,
-            .known = std::move(known)};
 }
 
 void setShift(TransPara& para, const ShiftParameters& shift) {

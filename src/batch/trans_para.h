@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-#include "conversion/definition.h"
+#include "correction/local_datum.h"
 #include "geodesy/zones.h"
 
 namespace kelvo {
@@ -64,9 +64,6 @@ struct TransPara {
 [[nodiscard]] Projection tmOriginOf(const TransPara& para);
 [[nodiscard]] Ellipsoid utmEllipsoidOf(const TransPara& para);
 [[nodiscard]] Projection utmOriginOf(const TransPara& para);
-// All of it, with the shift as it was loaded last and the known points as they were measured last.
-[[nodiscard]] Definition definitionOf(const TransPara& para, const DatumState& datum,
-                                      KnownPoints known);
 void setShift(TransPara& para, const ShiftParameters& shift);
 void setUserEllipsoid(TransPara& para, const Ellipsoid& ellipsoid);
 void setTmOrigin(TransPara& para, const Projection& origin);

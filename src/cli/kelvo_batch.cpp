@@ -2,6 +2,7 @@
 #include <cstdio>
 #include <memory>
 #include <new>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -140,21 +141,6 @@ bool exportAll(const PointTable& points, const std::vector<std::string>& paths,
     return good;
 }
 
-// Why the exports can't take place, looked at before the run; empty if nothing stands against them.
-std::string complaintOfExports(const CommandLine& line) {
-    PlatformDisk disk;
-    for (const std::string& path : line.exports) {
-        if (disk.sameFile(path, line.dataFiles.front()))
-            return "--export and the data file are the same file (" + path + ")";
-    }
-    try {
-        if (!line.exports.empty()) static_cast<void>(loadPointFiles());
-    } catch (const ExchangeFault& fault) {
-        return fault.what();
-    }
-    return {};
-}
-
 // Every file is a run of its own: nothing of one shows in another.
 int runAll(const CommandLine& line, const std::string& folder, StandardError& error,
            ProgressBar& bar) {
@@ -166,6 +152,19 @@ int runAll(const CommandLine& line, const std::string& folder, StandardError& er
     if (const auto complaint = complaintAboutSharedFiles(disk, line.dataFiles, detail, known)) {
         printUsage(*complaint);
         return kWrongUsage;
+    }
+    if (!line.exports.empty()) {
+        std::optional<std::string> complaint =
+            complaintAboutExports(disk, line.dataFiles.front(), line.exports, detail, known);
+        try {
+            static_cast<void>(loadPointFiles());
+        } catch (const ExchangeFault& fault) {
+            complaint = fault.what();
+        }
+        if (complaint) {
+            print(stderr, shownLine("kelvo-batch: " + *complaint) + "\n");
+            return kWrongUsage;
+        }
     }
     tidyUp(disk, line, folder);
 
@@ -226,10 +225,6 @@ int runCommand(int argc, char** argv) {
     if (line.wish == CommandLine::Wish::Version) {
         print(stdout, "kelvo-batch " KELVO_VERSION "\n");
         return kRunEnded;
-    }
-    if (const std::string complaint = complaintOfExports(line); !complaint.empty()) {
-        print(stderr, shownLine("kelvo-batch: " + complaint) + "\n");
-        return kWrongUsage;
     }
     const bool checks = line.wish == CommandLine::Wish::Check;
     ProgressBar bar(line.dataFiles.size(), !line.quiet && !checks &&

@@ -61,4 +61,18 @@ std::optional<std::string> complaintAboutSharedFiles(Disk& disk,
     return std::nullopt;
 }
 
+std::optional<std::string> complaintAboutExports(Disk& disk, const std::string& dataFile,
+                                                 const std::vector<std::string>& exports,
+                                                 const std::string& detail,
+                                                 const std::string& known) {
+    Uses taken;
+    for (const std::string& path : {dataFile, resultFileOf(dataFile), detail, known})
+        taken.emplace(disk.placeOf(path), path);
+    for (const std::string& path : exports) {
+        const auto [other, fresh] = taken.emplace(disk.placeOf(path), path);
+        if (!fresh) return "--export " + path + " would write over " + other->second;
+    }
+    return std::nullopt;
+}
+
 }  // namespace kelvo

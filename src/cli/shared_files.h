@@ -20,4 +20,10 @@ namespace kelvo {
     Disk& disk, const std::vector<std::string>& dataFiles, const std::string& detail,
     const std::string& known);
 
+// The same for the files that the tables of a run are exported to: each stands for itself, apart
+// from the other exports and from whatever the run reads and writes.
+[[nodiscard]] std::optional<std::string> complaintAboutExports(
+    Disk& disk, const std::string& dataFile, const std::vector<std::string>& exports,
+    const std::string& detail, const std::string& known);
+
 }  // namespace kelvo

@@ -1,5 +1,8 @@
 #include "convert/output_systems.h"
 
+#include <charconv>
+#include <cmath>
+
 #include "common/number_text.h"
 #include "library/table_cells.h"
 
@@ -26,6 +29,19 @@ constexpr std::array kWgsUtm{OutputColumn{"wgsutm_x", Grid, &P::WgsUtmX},
                              OutputColumn{"wgsutm_y", Grid, &P::WgsUtmY},
                              OutputColumn{"wgsutm_h", Height, &P::WgsUtmH},
                              OutputColumn{"wgsutm_lon0", Origin, &P::WgsULam0}};
+
+// The general text; origins are whole degrees nearly always.
+void appendOrigin(std::string& text, double longitude) {
+    constexpr double kMostWhole = 1000;
+    if (!(longitude > 0 && longitude < kMostWhole && longitude == std::floor(longitude))) {
+        text += generalText(longitude);
+        return;
+    }
+    std::array<char, 4> digits{};
+    const auto [end, error] =
+        std::to_chars(digits.data(), digits.data() + digits.size(), static_cast<int>(longitude));
+    text.append(digits.data(), end);
+}
 
 }  // namespace
 
@@ -95,8 +111,7 @@ void appendCell(std::string& text, const OutputColumn& column, const ConvertedPo
         case ColumnKind::Height:
             return appendHeightCell(text, value);
         case ColumnKind::Origin:
-            text += generalText(value);
-            return;
+            return appendOrigin(text, value);
     }
 }
 

@@ -8,6 +8,8 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "form/form.h"
 #include "form/services.h"
@@ -52,6 +54,8 @@ public:
     [[nodiscard]] const std::string& fileOnView() const;
     void saveOnView();
 
+    // What the check finds in the text of a data file, with the known points that a run would read.
+    [[nodiscard]] std::vector<RunMessage> findingsIn(std::string_view dataFile) const;
     // The parameters and plot settings to their files, as at the end. Faults as Form_Close.
     void saveSettings();
 
@@ -88,10 +92,5 @@ private:
     struct Members;
     std::unique_ptr<Members> members_;
 };
-
-// The program's start: reads the configuration (writing a new one and the sample data file
-// where there is none), fills the list of recent files and loads the window. Fault 9 for a list
-// of more than six entries of which none after the fifth is there (required).
-void Main(frmKelvo& window);
 
 }  // namespace kelvo

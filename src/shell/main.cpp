@@ -1,3 +1,5 @@
+#include "shell/main.h"
+
 #include <algorithm>
 #include <string>
 #include <utility>
@@ -5,7 +7,6 @@
 #include "common/paths.h"
 #include "common/run_time_fault.h"
 #include "shell/configuration.h"
-#include "shell/frm_kelvo.h"
 
 namespace kelvo {
 

@@ -13,6 +13,7 @@
 #include "common/shown_line.h"
 #include "common/standard_streams.h"
 #include "drivers/form_script.h"
+#include "shell/main.h"
 #include "support/escape.h"
 
 namespace {

@@ -201,6 +201,13 @@ class OtherPrograms(unittest.TestCase):
         for arguments in (("--export", "a.txt", "run.dat"), ("--export",), ("--export", "a.kml", "run.dat", "in.csv")):
             self.batch(*arguments, code=2)
             self.assertFalse((self.folder / "run.out").exists())
+        (self.folder / "kelvo.cor").write_bytes(b"")
+        for link, file in (("data.kml", "run.dat"), ("result.kml", "run.out"), ("known.kml", "kelvo.cor")):
+            (self.folder / link).symlink_to(file)
+            self.assertIn(link, self.batch("--export", link, "run.dat", code=2).stderr)
+            self.assertFalse((self.folder / "run.out").exists())
+        self.batch("--export", "twice.kml", "--export", "./twice.kml", "run.dat", code=2)
+        (self.folder / "kelvo.cor").unlink()
         self.assertIn("none/a.kml", self.batch("--export", "none/a.kml", "run.dat", code=1).stderr)
 
     def test_more_points_than_a_sheet_holds_are_refused_before_the_first(self):

@@ -7,6 +7,7 @@
 #include "common/run_time_fault.h"
 #include "fuzz/fuzz_target.h"
 #include "shell/frm_kelvo.h"
+#include "shell/main.h"
 #include "support/memory_disk.h"
 #include "support/recording_services.h"
 

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "shell/frm_kelvo.h"
+#include "shell/main.h"
 #include "support/faults.h"
 #include "support/memory_disk.h"
 #include "support/recording_services.h"

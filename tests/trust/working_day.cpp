@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "drivers/form_script.h"
+#include "shell/main.h"
 #include "support/recording_services.h"
 
 namespace kelvo::testing {
