@@ -2,10 +2,9 @@
 # Installs libkelvo into a clean tree and builds the example programs against it, by CMake and by
 # pkg-config, in C and in C++; what they print is what it should be.
 #
-#   installed_library.sh BUILD SOURCE CC CXX
+#   installed_library.sh BUILD SOURCE [CXX]
 set -euo pipefail
-build=$1 source=$2 cc=${3:-cc} cxx=${4:-c++}
-[ -n "$cc" ] || cc=cc
+build=$1 source=$2 cxx=${3:-c++} cc=cc
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 for component in library development; do
