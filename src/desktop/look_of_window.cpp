@@ -13,11 +13,16 @@ namespace kelvo::desktop {
 
 namespace {
 
+// What the application object remembers.
+constexpr const char* kTheme = "kelvo theme";
+constexpr const char* kTextPercent = "kelvo text percent";
+constexpr const char* kWholeTextSize = "kelvo text size";
+
 QPalette lightPalette() {
     QPalette palette(QColor(0xEF, 0xF1, 0xF3));
     palette.setColor(QPalette::WindowText, QColor(0x1C, 0x20, 0x24));
     palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::AlternateBase, QColor(0xF6, 0xF7, 0xF8));
+    palette.setColor(QPalette::AlternateBase, QColor(0xF2, 0xF6, 0xFA));
     palette.setColor(QPalette::Text, QColor(0x1C, 0x20, 0x24));
     palette.setColor(QPalette::Button, QColor(0xE6, 0xE9, 0xEC));
     palette.setColor(QPalette::ButtonText, QColor(0x1C, 0x20, 0x24));
@@ -33,7 +38,7 @@ QPalette darkPalette() {
     const QColor text(0xE6, 0xE8, 0xEA);
     palette.setColor(QPalette::WindowText, text);
     palette.setColor(QPalette::Base, QColor(0x23, 0x27, 0x2A));
-    palette.setColor(QPalette::AlternateBase, QColor(0x24, 0x28, 0x2B));
+    palette.setColor(QPalette::AlternateBase, QColor(0x2D, 0x32, 0x37));
     palette.setColor(QPalette::Text, text);
     palette.setColor(QPalette::Button, QColor(0x4A, 0x50, 0x56));
     palette.setColor(QPalette::ButtonText, text);
@@ -83,19 +88,47 @@ void setUpFonts(QApplication& application) {
 }
 
 void setTheme(QApplication& application, Theme theme) {
-    if (QStyle* style = QStyleFactory::create(QStringLiteral("Fusion"))) {
-        QApplication::setStyle(style);
+    setTheme(application, theme, theme == Theme::System && systemIsDark());
+}
+
+void setTheme(QApplication& application, Theme theme, bool systemDark) {
+    application.setProperty(kTheme, nameOf(theme));
+    if (QApplication::style()->name() != QLatin1String("fusion")) {
+        if (QStyle* style = QStyleFactory::create(QStringLiteral("Fusion"))) {
+            QApplication::setStyle(style);
+        }
     }
-    QPalette palette = QApplication::style()->standardPalette();
-    if (theme == Theme::System) palette = QPalette();
-    if (theme == Theme::Light ||
-        (theme == Theme::System && palette.window().color().lightness() >= 128)) {
-        palette = lightPalette();
-    } else {
-        palette = darkPalette();
-    }
+    const bool dark = theme == Theme::Dark || (theme == Theme::System && systemDark);
+    QPalette palette = dark ? darkPalette() : lightPalette();
     keepClosedReadable(palette);
     application.setPalette(palette);
+}
+
+Theme themeOf(const QApplication& application) {
+    return themeNamed(application.property(kTheme).toString());
+}
+
+bool systemIsDark() {
+    // Without a palette of ours the application has the platform's.
+    QApplication::setPalette(QPalette());
+    return QApplication::palette().window().color().lightness() < 128;
+}
+
+void setTextPercent(QApplication& application, int percent) {
+    QFont font = QApplication::font();
+    QVariant whole = application.property(kWholeTextSize);
+    if (!whole.isValid()) {
+        whole = font.pointSizeF();
+        application.setProperty(kWholeTextSize, whole);
+    }
+    application.setProperty(kTextPercent, percent);
+    font.setPointSizeF(whole.toDouble() * percent / 100);
+    application.setFont(font);
+}
+
+int textPercentOf(const QApplication& application) {
+    const QVariant percent = application.property(kTextPercent);
+    return percent.isValid() ? percent.toInt() : 100;
 }
 
 Theme themeNamed(const QString& name) {
@@ -114,10 +147,6 @@ QString nameOf(Theme theme) {
             break;
     }
     return QStringLiteral("system");
-}
-
-bool isDark() {
-    return QApplication::palette().window().color().lightness() < 128;
 }
 
 }  // namespace kelvo::desktop

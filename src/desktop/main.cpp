@@ -86,6 +86,9 @@ int main(int argc, char** argv) {
                                              ? parser.value(themeOption)
                                              : settings.value(QStringLiteral("theme")).toString()));
 
+        const int percent = settings.value(QStringLiteral("text"), 100).toInt();
+        if (percent != 100) setTextPercent(application, percent);
+
         // A name on the command line counts from where the program was started, not from the
         // folder of the data file that it will have moved to.
         const QString shownFile = parser.positionalArguments().value(0);

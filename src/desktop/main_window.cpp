@@ -2,22 +2,25 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QHBoxLayout>
 #include <QMenuBar>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QStatusBar>
-#include <QToolButton>
-#include <chrono>
+#include <algorithm>
 #include <cmath>
 
-#include "common/code_page.h"
 #include "desktop/fault_report.h"
 #include "desktop/file_drop.h"
 #include "desktop/menu_keys.h"
 #include "desktop/native_paths.h"
 #include "desktop/text_viewer.h"
+#include "panels/point_texts.h"
 #include "shell/main.h"
 
 namespace kelvo::desktop {
@@ -25,6 +28,7 @@ namespace kelvo::desktop {
 namespace {
 
 constexpr double kTwipsPerPixel = 15;
+constexpr qsizetype kMostLinesOfABox = 20;
 constexpr int kEntryOpen = 2;  // mnuFileItem(2): 기존파일 열기
 
 }  // namespace
@@ -33,7 +37,7 @@ MainWindow::MainWindow(const std::string& applicationFolder)
     : applicationFolder_(applicationFolder),
       messages_(dialogParent_),
       dialogs_(dialogParent_, [this]() -> QPrinter& { return systemPrinter(); }),
-      rawPrinter_([this](const QString& text) { tellInStatusLine(text); }),
+      rawPrinter_([this](const QString& text) { book_->say(text); }),
       alarm_(gate_),
       journal_(applicationFolder),
       unsavedTextBar_(new UnsavedTextBar(this)) {
@@ -64,7 +68,8 @@ MainWindow::MainWindow(const std::string& applicationFolder)
     bindWindow();
     addShortcuts();
     leadIntoMenus(*menuBar());
-    addThemeButton();
+    addBottomLine();
+    addCornerMenus();
     new FileDrop(*this, [this](const std::vector<std::string>& paths) { openFiles(paths); });
     watchUnsavedText();
     addBringBack();
@@ -89,7 +94,6 @@ void MainWindow::buildPanels() {
 
     filePanel_.panel->installEventFilter(this);
     filePanel_.path->setWholeText(filePanel_.panel->property("caption").toString());
-    connect(book_->viewer(), &TextViewer::modifiedChanged, this, [this] { showUnsavedMark(); });
     book_->plotView()->placeAt = [this](QPointF twips, double reach) {
         const PlotPlace place = program_->plotPlaceAt(twips.x(), twips.y(), reach);
         return std::pair(qt(place.coordinates), qt(place.point));
@@ -129,23 +133,80 @@ void MainWindow::addShortcuts() {
     key("mnuHelpFile", QKeySequence::HelpContents);
 }
 
-void MainWindow::addThemeButton() {
-    auto* button = new QToolButton(this);
-    button->setObjectName(QStringLiteral("theme"));
-    button->setText(QStringLiteral("◐"));
-    button->setAutoRaise(true);
-    // Not higher than a menu, or the bar's lower edge breaks between the menus.
-    button->setFixedHeight(fontMetrics().height());
-    button->setFocusPolicy(Qt::NoFocus);
-    button->setToolTip(QStringLiteral("밝은 화면 / 어두운 화면"));
-    button->setAccessibleName(QStringLiteral("밝은 화면 / 어두운 화면"));
-    connect(button, &QToolButton::clicked, this, [this] {
-        const Theme theme = isDark() ? Theme::Light : Theme::Dark;
-        setTheme(*static_cast<QApplication*>(QApplication::instance()), theme);
-        QSettings(settingsFile(), QSettings::IniFormat)
-            .setValue(QStringLiteral("theme"), nameOf(theme));
+void MainWindow::addBottomLine() {
+    status_ = new StatusBar(program_->status(), this);
+    statusBar()->setSizeGripEnabled(false);
+    statusBar()->addPermanentWidget(status_, 1);
+    text_ = new TextOnView(*program_, *book_, *status_, messages_);
+    text_->setParent(this);
+    book_->onSay = [this](const QString& text) { program_->status().say(text.toStdString()); };
+    connect(book_->plotView(), &PlotView::saved, this,
+            [this](const QString& path, const QString& note) {
+                QString said =
+                    QStringLiteral("그림을 저장했습니다: ") + QDir::toNativeSeparators(path);
+                if (!note.isEmpty()) said += QStringLiteral(" (") + note + QLatin1Char(')');
+                book_->say(said);
+            });
+}
+
+void MainWindow::addCornerMenus() {
+    auto* corner = new QWidget(this);
+    auto* row = new QHBoxLayout(corner);
+    row->setContentsMargins(0, 0, 4, 0);
+    row->setSpacing(2);
+    auto* work = new WorkMenu(corner);
+    fillWorkMenu(*work);
+    look_ = new LookMenu(settingsFile(), corner);
+    row->addWidget(work);
+    row->addWidget(look_);
+    menuBar()->setCornerWidget(corner);
+}
+
+void MainWindow::fillWorkMenu(WorkMenu& menu) {
+    menu.add(QStringLiteral("결과 파일 열기(&O)..."), QStringLiteral("workOpenResult"),
+             [this] { text_->openResult(); });
+    menu.add(QStringLiteral("여러 데이터 파일 변환(&R)..."), QStringLiteral("workSeveral"),
+             [this] { chooseDataFiles(); });
+    menu.addSeparator();
+    menu.add(QStringLiteral("변환한 점을 한 줄로 복사(&L)"), QStringLiteral("workCopyLine"),
+             [this] { copyPoint(pointAsLine(program_->form())); });
+    menu.add(QStringLiteral("변환한 점을 표로 복사(&T)"), QStringLiteral("workCopyTable"),
+             [this] { copyPoint(pointAsTable(program_->form())); });
+}
+
+void MainWindow::copyPoint(const std::string& text) {
+    QGuiApplication::clipboard()->setText(qt(text));
+    book_->say(QStringLiteral("복사했습니다: ") + qt(text).simplified());
+}
+
+void MainWindow::chooseDataFiles() {
+    QFileDialog dialog(this, QStringLiteral("여러 데이터 파일 변환"));
+    dialog.setFileMode(QFileDialog::ExistingFiles);
+    dialog.setNameFilter(QStringLiteral("데이터 파일 (*.dat)"));
+    dialog.setDirectory(QFileInfo(qt(program_->state().RecentFiles[1])).absolutePath());
+    if (dialog.exec() != QDialog::Accepted) return;
+    std::vector<std::string> paths;
+    for (const QString& path : dialog.selectedFiles()) {
+        paths.push_back(QDir::toNativeSeparators(path).toStdString());
+    }
+    convertFiles(paths);
+}
+
+void MainWindow::convertFiles(const std::vector<std::string>& paths) {
+    SeveralRuns runs(*program_, *book_, [this](const std::string& path) {
+        openDataFile(path);
+        const QFileInfo current(qt(program_->state().RecentFiles[1]));
+        return current == QFileInfo(qt(path));
     });
-    menuBar()->setCornerWidget(button);
+    const QStringList done = runs.convert(paths, this);
+    if (gate_.isClosed()) return;
+    QString text =
+        QStringLiteral("데이터 파일 %1개 중 %2개를 끝냈습니다.").arg(paths.size()).arg(done.size());
+    for (const QString& line : done.first(std::min(done.size(), kMostLinesOfABox))) {
+        text += QLatin1Char('\n') + line;
+    }
+    if (done.size() > kMostLinesOfABox) text += QStringLiteral("\n...");
+    messages_.tell(text.toStdString());
 }
 
 bool MainWindow::start() {
@@ -174,8 +235,14 @@ void MainWindow::openResultFile(const std::string& path) {
 }
 
 void MainWindow::openFiles(const std::vector<std::string>& paths) {
+    const auto isDataFile = [](const std::string& path) {
+        return qt(path).endsWith(QLatin1String(".dat"), Qt::CaseInsensitive);
+    };
+    if (paths.size() > 1 && std::all_of(paths.begin(), paths.end(), isDataFile)) {
+        return convertFiles(paths);
+    }
     const std::string& path = paths.front();
-    if (qt(path).endsWith(QLatin1String(".dat"), Qt::CaseInsensitive)) {
+    if (isDataFile(path)) {
         openDataFile(path);
     } else {
         openResultFile(path);
@@ -198,23 +265,8 @@ void MainWindow::afterEvent(EventGate::Event /*event*/) {
         return;
     }
     book_->plotView()->refresh();
-    showUnsavedMark();
+    text_->refresh();
     if (paper_.sheetsAreWaiting()) printWaitingSheets();
-}
-
-void MainWindow::tellInStatusLine(const QString& text) {
-    constexpr std::chrono::milliseconds kLongEnoughToRead{20'000};
-    statusBar()->showMessage(text, static_cast<int>(kLongEnoughToRead.count()));
-}
-
-// The mark says that the text differs from the file it came from; nothing is ever asked.
-void MainWindow::showUnsavedMark() {
-    TextViewer* viewer = book_->viewer();
-    if (!viewer->hasUntakenText()) {
-        const bool unsaved = program_->textIsUnsaved();
-        if (viewer->isModified() != unsaved) viewer->setModified(unsaved);
-    }
-    filePanel_.unsavedMark->setVisible(viewer->isModified());
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
@@ -222,6 +274,11 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
         filePanel_.path->setWholeText(filePanel_.panel->property("caption").toString());
     }
     return QMainWindow::eventFilter(watched, event);
+}
+
+bool MainWindow::event(QEvent* event) {
+    if (event->type() == QEvent::ThemeChange) look_->followSystem();
+    return QMainWindow::event(event);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -8,16 +8,20 @@
 
 #include "desktop/event_gate.h"
 #include "desktop/fault_report.h"
-#include "desktop/look_of_window.h"
+#include "desktop/look_menu.h"
 #include "desktop/panel_layouts.h"
 #include "desktop/panel_stage.h"
 #include "desktop/paper_surface.h"
 #include "desktop/plot_view.h"
 #include "desktop/screen_services.h"
+#include "desktop/several_runs.h"
+#include "desktop/status_bar.h"
+#include "desktop/text_on_view.h"
 #include "desktop/timer_alarm.h"
 #include "desktop/unsaved_text_bar.h"
 #include "desktop/widget_book.h"
 #include "desktop/window_place.h"
+#include "desktop/work_menu.h"
 #include "shell/frm_kelvo.h"
 #include "shell/journal_folder.h"
 
@@ -39,6 +43,8 @@ public:
     void openDataFile(const std::string& path);
     // Shows what a run has written.
     void openResultFile(const std::string& path);
+    // Each data file as a run of its own; a box says at the end what each one gave.
+    void convertFiles(const std::vector<std::string>& paths);
 
     // What a printed document is called, and the file that it is printed into: no path, no ending.
     [[nodiscard]] QString documentName() const;
@@ -62,21 +68,25 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     Surface& screen() override;
     Surface& printer() override { return paper_; }
 
+    // Several data files are converted one after the other; of anything else the first is shown.
     void openFiles(const std::vector<std::string>& paths);
     void buildPanels();
     void bindWindow();
     void addShortcuts();
-    void addThemeButton();
+    void addBottomLine();
+    void addCornerMenus();
+    void fillWorkMenu(WorkMenu& menu);
+    void chooseDataFiles();
+    void copyPoint(const std::string& text);
     void beforeEvent(EventGate::Event event);
     void afterEvent(EventGate::Event event);
-    void showUnsavedMark();
-    void tellInStatusLine(const QString& text);
     void watchUnsavedText();
     void addBringBack();
     void keepUnsavedText();
@@ -111,6 +121,9 @@ private:
     PanelStage* stage_ = nullptr;
     WindowPlace place_{*this};
     FilePanel filePanel_;
+    StatusBar* status_ = nullptr;
+    TextOnView* text_ = nullptr;
+    LookMenu* look_ = nullptr;
     UnsavedTextBar* unsavedTextBar_;
     QTimer latestTake_;  // of text typed without a pause
 };

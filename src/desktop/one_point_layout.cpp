@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <array>
 
+#include "desktop/angle_reading.h"
 #include "desktop/box_grid.h"
 #include "desktop/coordinate_clipboard.h"
 #include "desktop/panel_keys.h"
@@ -187,8 +188,10 @@ void layOutOnePointPanel(WidgetBook& book) {
     panel->addWidget(scroll);
     orderTabs(book);
 
-    const auto goOn = [] {
+    sayReadingsOfAngles(book);
+    const auto goOn = [&book] {
         if (QWidget* box = QApplication::focusWidget()) {
+            takeAngleAsNumber(book, box);
             QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
             QApplication::sendEvent(box, &tab);
         }

@@ -10,6 +10,7 @@
 
 #include "desktop/box_grid.h"
 #include "desktop/panel_keys.h"
+#include "desktop/plot_view.h"
 #include "desktop/text_viewer.h"
 #include "shell/boxes_without_number.h"
 
@@ -52,11 +53,6 @@ FilePanel layOutFilePanel(WidgetBook& book) {
 
     QFrame* bar = captionBar(parts.path);
     parts.path->setObjectName(QStringLiteral("frmeFileCaption"));
-    parts.unsavedMark = new QLabel(QStringLiteral("● 저장하지 않음"), bar);
-    parts.unsavedMark->setObjectName(QStringLiteral("unsavedMark"));
-    parts.unsavedMark->setForegroundRole(QPalette::HighlightedText);
-    bar->layout()->addWidget(parts.unsavedMark);
-    parts.unsavedMark->hide();
     column->addWidget(bar);
 
     parts.body = new QWidget(parts.panel);
@@ -124,6 +120,12 @@ void layOutPlotSettings(WidgetBook& book) {
     column->addLayout(size);
     column->addSpacing(10);
     column->addWidget(book.at("cmdPlot"));
+    auto* saving = new QPushButton(QStringLiteral("그림 저장..."));
+    saving->setObjectName(QStringLiteral("plotSave"));
+    saving->setAutoDefault(true);
+    saving->setToolTip(QStringLiteral("PNG, SVG, PDF 파일로 저장합니다 (Ctrl+S)"));
+    QObject::connect(saving, &QPushButton::clicked, saving, [&book] { book.plotView()->saveAs(); });
+    column->addWidget(saving);
     column->addStretch(1);
     scroll->setMinimumWidth(content->sizeHint().width() + 16);
 

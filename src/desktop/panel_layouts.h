@@ -18,7 +18,6 @@ struct FilePanel {
     QWidget* panel = nullptr;
     QWidget* body = nullptr;  // where the text stands, or the plot in its place
     ElidedLabel* path = nullptr;
-    QLabel* unsavedMark = nullptr;
 };
 
 // What a press of the button does.

@@ -174,7 +174,6 @@ QWidget* WidgetBook::makeTextBox(Control& control) {
 
 QWidget* WidgetBook::makeViewer(Control& control) {
     auto* viewer = new TextViewer(firstParent_);
-    viewer->load(control.text());
     viewer->editor().setAccessibleName(QStringLiteral("글"));
     viewer_ = viewer;
     viewerControl_ = &control;
@@ -182,7 +181,8 @@ QWidget* WidgetBook::makeViewer(Control& control) {
                      [this] { gate_.run([this] { takeViewerText(); }, EventGate::Event::Typing); });
     control.watch([this, &control, viewer](Property property) {
         if (showCommon(control, *viewer, property)) return;
-        if (property == Property::Text && !takingText_) viewer->load(control.text());
+        if (property != Property::Text || takingText_) return;
+        viewer->load(qt(form_.find(control.parent())->caption()), control.text());
     });
     return viewer;
 }

@@ -51,17 +51,8 @@ void MainWindow::addBringBack() {
         help->addAction(bringBack);
         connect(help, &QMenu::aboutToShow, bringBack, renew);
     }
-    QPlainTextEdit& editor = book_->viewer()->editor();
-    editor.setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(&editor, &QWidget::customContextMenuRequested, this,
-            [&editor, bringBack, renew](const QPoint& place) {
-                QMenu* menu = editor.createStandardContextMenu(place);
-                menu->setAttribute(Qt::WA_DeleteOnClose);
-                menu->addSeparator();
-                menu->addAction(bringBack);
-                renew();
-                menu->popup(editor.viewport()->mapToGlobal(place));
-            });
+    book_->viewer()->addFurtherAction(bringBack);
+    connect(book_->viewer(), &TextViewer::menuComes, bringBack, renew);
 }
 
 void MainWindow::offerUnsavedText() {

@@ -7,6 +7,7 @@
 #include "panels/parameter_panels.h"
 #include "panels/plot_settings_panel.h"
 #include "panels/print_mode_panel.h"
+#include "shell/checked_text.h"
 #include "shell/common_dialog.h"
 #include "shell/configuration.h"
 #include "shell/file_menu.h"
@@ -186,6 +187,10 @@ const std::string& frmKelvo::fileOnView() const {
 
 void frmKelvo::saveOnView() {
     members_->viewer.saveOnView();
+}
+
+std::vector<RunMessage> frmKelvo::findingsIn(std::string_view dataFile) const {
+    return kelvo::findingsIn(dataFile, members_->state.CorPath, members_->services.disk);
 }
 
 Form& frmKelvo::form() {

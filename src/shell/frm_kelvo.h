@@ -8,6 +8,8 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "form/form.h"
 #include "form/services.h"
@@ -52,6 +54,8 @@ public:
     [[nodiscard]] const std::string& fileOnView() const;
     void saveOnView();
 
+    // What the check finds in the text of a data file, with the known points that a run would read.
+    [[nodiscard]] std::vector<RunMessage> findingsIn(std::string_view dataFile) const;
     // The parameters and plot settings to their files, as at the end. Faults as Form_Close.
     void saveSettings();
 

@@ -12,7 +12,7 @@ namespace {
 // A paragraph each: what it is, by whom and for whom; that it is free and open; that it comes
 // without warranty; what else there is; where suggestions go.
 constexpr std::array<std::string_view, 5> kAbout{
-    "Kelvo - 측량 기술자를 위하여 Kelvo 개발자들이 만든 좌표변환 프로그램입니다.",
+    "측량 기술자를 위하여 Kelvo 개발자들이 만든 좌표변환 프로그램입니다.",
     "이 프로그램은 무료이며, 소스가 MIT 라이선스로 공개되어 있어 누구나 자유롭게 이용하고 고쳐 쓸 "
     "수 있습니다.",
     "사용에 따른 책임은 사용자에게 있으며, 제공자는 계산 결과에 대하여 아무런 보증도 하지 "
@@ -97,9 +97,9 @@ void SmallCommands::mnuHelpFile_Click() {
 }
 
 void SmallCommands::mnuAbout_Click() {
-    std::string text;
+    std::string text = "Kelvo " + std::string(AppVersion) + " - ";
     for (const std::string_view paragraph : kAbout) {
-        if (!text.empty()) text += kLineEnd;
+        if (paragraph != kAbout.front()) text += kLineEnd;
         text += paragraph;
     }
     messages_.tell(text);

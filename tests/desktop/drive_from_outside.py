@@ -374,7 +374,8 @@ def end_in_every_way(folder):
         try:
             offer = find(lambda node: "저장하지 않고 끝난 글" in (node.get_name() or ""), "the offer")
             assert "test.dat" in offer.get_name(), offer.get_name()
-            act(find(lambda node: node.get_name() == "되살리기", "its button"), "Press")
+            act(find(lambda node: node.get_name() == "되살리기"
+                     and node.get_role_name() in ("push button", "button"), "its button"), "Press")
             wait_for(lambda: text_of("Richtxt") == typed, "the text")
             press("cmdSave")
             wait_for(lambda: not journal(folder), "the journal to go")

@@ -1,4 +1,4 @@
-// panel_pictures FOLDER: a picture of each panel for the documents, with a day's work in it.
+// panel_pictures FOLDER [dark]: a picture of each panel for the documents, with a day's work in it.
 #include <QApplication>
 #include <QDir>
 #include <QPrintPreviewDialog>
@@ -77,9 +77,10 @@ private:
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
-    if (argc != 2) return 2;
+    if (argc != 2 && argc != 3) return 2;
+    const auto theme = argc == 3 ? desktop::Theme::Dark : desktop::Theme::Light;
     desktop::setUpFonts(application);
-    desktop::setTheme(application, desktop::Theme::Light);
+    desktop::setTheme(application, theme);
 
     const QString place = QDir::tempPath() + QStringLiteral("/Kelvo");
     QDir(place).removeRecursively();
@@ -143,7 +144,7 @@ int main(int argc, char** argv) {
     pictures.take(window, "one-point");
     desktop::setTheme(application, desktop::Theme::Dark);
     pictures.take(window, "one-point-dark");
-    desktop::setTheme(application, desktop::Theme::Light);
+    desktop::setTheme(application, theme);
     hands.click("mnuPrintMode");
     pictures.take(window, "print-mode");
     hands.click("cmdModeCancel");

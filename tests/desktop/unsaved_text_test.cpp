@@ -134,6 +134,14 @@ private slots:
         QVERIFY(last.program().canBringBackText());
     }
 
+    void theMarkIsThereWithTheFirstLetter() {
+        hands_->click("mnuBatchEdit");
+        auto* mark = window_->findChild<QLabel*>("unsavedMark");
+        QVERIFY(!mark->isVisible());
+        window_->book().viewer()->editor().insertPlainText("글");
+        QVERIFY(mark->isVisible());
+    }
+
     void whatAClickOnCloseDiscardedComesBackByTheHelpMenu() {
         auto* help = window_->findChild<QMenu*>("mnuHelp");
         auto* bringBack = window_->findChild<QAction*>("bringBackText");

@@ -14,7 +14,6 @@
 #include <QPrintDialog>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QStatusBar>
 #include <QTest>
 #include <QTimer>
 #include <fstream>
@@ -366,9 +365,7 @@ private slots:
         hands_->click("cmdModeSave");
         hands_->click("cmdPrint");
         qputenv("PATH", path);
-        auto* line = window_->findChild<QStatusBar*>();
-        QVERIFY(line != nullptr);
-        QVERIFY(line->currentMessage().contains("lp"));
+        QVERIFY2(said_.contains("lp"), qPrintable(said_));
     }
 
     void closingWritesTheSettings() {
