@@ -12,7 +12,6 @@
 #include "cli/command_line.h"
 #include "cli/progress_bar.h"
 #include "cli/shared_files.h"
-#include "cli/table_export.h"
 #include "common/application_folder.h"
 #include "common/disk.h"
 #include "common/paths.h"
@@ -20,6 +19,7 @@
 #include "common/shown_line.h"
 #include "common/standard_streams.h"
 #include "exchange/load_point_files.h"
+#include "exchange/table_export.h"
 
 #ifdef _WIN32
 #include <windows.h>

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
+#include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -12,6 +13,7 @@
 #include <QSettings>
 #include <QStandardPaths>
 #include <QStatusBar>
+#include <QUrl>
 #include <algorithm>
 #include <cmath>
 
@@ -139,6 +141,13 @@ void MainWindow::addBottomLine() {
     statusBar()->addPermanentWidget(status_, 1);
     text_ = new TextOnView(*program_, *book_, *status_, messages_);
     text_->setParent(this);
+    export_ = std::make_unique<PointExport>(*program_, *status_, messages_);
+    import_ = std::make_unique<PointImport>(*program_, *book_, disk_, messages_);
+    connect(filePanel_.exporting, &QPushButton::clicked, this, [this] { export_->ask(this); });
+    connect(status_, &StatusBar::folderWanted, this, [this](const QString& folder) {
+        if (onFolder) return onFolder(folder);
+        QDesktopServices::openUrl(QUrl::fromLocalFile(folder));
+    });
     book_->onSay = [this](const QString& text) { program_->status().say(text.toStdString()); };
     connect(book_->plotView(), &PlotView::saved, this,
             [this](const QString& path, const QString& note) {
@@ -167,6 +176,13 @@ void MainWindow::fillWorkMenu(WorkMenu& menu) {
              [this] { text_->openResult(); });
     menu.add(QStringLiteral("여러 데이터 파일 변환(&R)..."), QStringLiteral("workSeveral"),
              [this] { chooseDataFiles(); });
+    menu.addSeparator();
+    menu.add(QStringLiteral("변환한 점 내보내기(&E)..."), QStringLiteral("workExport"),
+             [this] { export_->ask(this); });
+    menu.add(QStringLiteral("파일에서 점 가져오기(&I)..."), QStringLiteral("workImport"),
+             [this] { import_->askForFile(this); });
+    menu.add(QStringLiteral("클립보드에서 점 가져오기(&V)..."),
+             QStringLiteral("workImportClipboard"), [this] { import_->takeClipboard(this); });
     menu.addSeparator();
     menu.add(QStringLiteral("변환한 점을 한 줄로 복사(&L)"), QStringLiteral("workCopyLine"),
              [this] { copyPoint(pointAsLine(program_->form())); });

@@ -13,6 +13,8 @@
 #include "desktop/panel_stage.h"
 #include "desktop/paper_surface.h"
 #include "desktop/plot_view.h"
+#include "desktop/point_export.h"
+#include "desktop/point_import.h"
 #include "desktop/screen_services.h"
 #include "desktop/several_runs.h"
 #include "desktop/status_bar.h"
@@ -65,6 +67,8 @@ public:
     std::function<void(const QString& report)> onFaultReport;
     // In place of the preview; for tests.
     std::function<void(std::vector<Sheet> sheets)> onSheets;
+    // In place of the desktop's view of a folder; for tests.
+    std::function<void(const QString& folder)> onFolder;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -123,6 +127,8 @@ private:
     FilePanel filePanel_;
     StatusBar* status_ = nullptr;
     TextOnView* text_ = nullptr;
+    std::unique_ptr<PointExport> export_;
+    std::unique_ptr<PointImport> import_;
     LookMenu* look_ = nullptr;
     UnsavedTextBar* unsavedTextBar_;
     QTimer latestTake_;  // of text typed without a pause

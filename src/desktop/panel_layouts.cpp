@@ -69,6 +69,11 @@ FilePanel layOutFilePanel(WidgetBook& book) {
     for (const char* name : {"cmdSave", "cmdSaveAs", "cmdPrint", "cmdPrintMode", "cmdClose"}) {
         commands->addWidget(book.at(name));
     }
+    parts.exporting = new QPushButton(QStringLiteral("내보내기..."), parts.panel);
+    parts.exporting->setObjectName(QStringLiteral("exportPoints"));
+    parts.exporting->setToolTip(QStringLiteral(
+        "변환한 점을 다른 프로그램의 파일로 씁니다 (GeoPackage, Shapefile, DXF, ...)"));
+    commands->insertWidget(commands->indexOf(book.at("cmdSaveAs")) + 1, parts.exporting);
     column->addLayout(commands);
 
     // The button closes without a question; a key doesn't, where that would lose work.

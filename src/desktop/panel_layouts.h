@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QLabel>
+#include <QPushButton>
 #include <QWidget>
 #include <functional>
 #include <initializer_list>
@@ -18,6 +19,7 @@ struct FilePanel {
     QWidget* panel = nullptr;
     QWidget* body = nullptr;  // where the text stands, or the plot in its place
     ElidedLabel* path = nullptr;
+    QPushButton* exporting = nullptr;
 };
 
 // What a press of the button does.

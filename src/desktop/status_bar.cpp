@@ -26,6 +26,7 @@ StatusBar::StatusBar(StatusLine& line, QWidget* parent)
       messages_(new QPushButton(this)),
       findings_(new QPushButton(this)),
       bringBack_(new QPushButton(QStringLiteral("되살리기"), this)),
+      openFolder_(new QPushButton(QStringLiteral("폴더 열기"), this)),
       saving_(new ElidedLabel(this)),
       unsaved_(new QLabel(QStringLiteral("● 저장하지 않음"), this)),
       place_(new QLabel(this)),
@@ -35,6 +36,7 @@ StatusBar::StatusBar(StatusLine& line, QWidget* parent)
     messages_->setObjectName(QStringLiteral("statusMessages"));
     findings_->setObjectName(QStringLiteral("statusFindings"));
     bringBack_->setObjectName(QStringLiteral("statusBringBack"));
+    openFolder_->setObjectName(QStringLiteral("statusOpenFolder"));
     saving_->setObjectName(QStringLiteral("statusSaving"));
     unsaved_->setObjectName(QStringLiteral("unsavedMark"));
     place_->setObjectName(QStringLiteral("statusPlace"));
@@ -47,6 +49,7 @@ StatusBar::StatusBar(StatusLine& line, QWidget* parent)
     row->setContentsMargins(8, 2, 8, 3);
     row->setSpacing(12);
     row->addWidget(sentence_, 3);
+    row->addWidget(openFolder_);
     row->addWidget(messages_);
     row->addWidget(findings_);
     row->addWidget(bringBack_);
@@ -54,13 +57,14 @@ StatusBar::StatusBar(StatusLine& line, QWidget* parent)
     row->addWidget(saving_, 1);
     row->addWidget(place_);
     saving_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    for (QPushButton* button : {messages_, findings_, bringBack_}) {
+    for (QPushButton* button : {openFolder_, messages_, findings_, bringBack_}) {
         button->setAutoDefault(true);
         button->hide();
     }
     unsaved_->hide();
 
     connect(messages_, &QPushButton::clicked, this, &StatusBar::openMessages);
+    connect(openFolder_, &QPushButton::clicked, this, [this] { emit folderWanted(folder_); });
     connect(findings_, &QPushButton::clicked, this, &StatusBar::openFindings);
     connect(list_, &QListWidget::itemActivated, this, &StatusBar::choose);
     connect(list_, &QListWidget::itemClicked, this, &StatusBar::choose);
@@ -71,6 +75,7 @@ StatusBar::StatusBar(StatusLine& line, QWidget* parent)
 void StatusBar::refresh() {
     sentence_->setWholeText(qt(line_.sentence()));
     const auto count = line_.messages().size();
+    if (line_.sentence() != sentenceOfFolder_) openFolder_->hide();
     messages_->setVisible(count > 0);
     messages_->setText(QStringLiteral("알림 %1개").arg(count));
 }
@@ -81,6 +86,13 @@ void StatusBar::setFindings(const QString& dataFile, std::vector<RunMessage> fin
     findings_->setVisible(!found_.empty());
     findings_->setText(QStringLiteral("점검 %1개").arg(found_.size()));
     findings_->setToolTip(QStringLiteral("이 데이터 파일에서 살펴볼 줄"));
+}
+
+void StatusBar::offerFolder(const QString& folder) {
+    folder_ = folder;
+    sentenceOfFolder_ = line_.sentence();
+    openFolder_->setToolTip(folder);
+    openFolder_->show();
 }
 
 void StatusBar::openMessages() {

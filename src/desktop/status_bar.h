@@ -28,6 +28,8 @@ public:
     void setFindings(const QString& dataFile, std::vector<RunMessage> findings);
     // A button beside the sentence; hidden while there is nothing to do.
     [[nodiscard]] QPushButton& bringBack() { return *bringBack_; }
+    // A button that opens a folder, as long as the sentence that stands now.
+    void offerFolder(const QString& folder);
 
     // The messages of the last run, or what the check found, to choose one from.
     void openMessages();
@@ -36,6 +38,7 @@ public:
 signals:
     // A message was chosen: its line in the data file of the run.
     void lineWanted(const QString& dataFile, int line);
+    void folderWanted(const QString& folder);
 
 private:
     void refresh();
@@ -48,10 +51,13 @@ private:
     QPushButton* messages_;
     QPushButton* findings_;
     QPushButton* bringBack_;
+    QPushButton* openFolder_;
     ElidedLabel* saving_;
     QLabel* unsaved_;
     QLabel* place_;
     QListWidget* list_;
+    QString folder_;
+    std::string sentenceOfFolder_;
     QString listFile_;  // that the lines of the list belong to
     QString checkedFile_;
     std::vector<RunMessage> found_;

@@ -8,7 +8,7 @@ namespace kelvo::desktop {
 WorkMenu::WorkMenu(QWidget* parent) : QToolButton(parent) {
     setObjectName(QStringLiteral("work"));
     setText(QStringLiteral("작업(&W)"));
-    setToolTip(QStringLiteral("결과 파일, 여러 데이터 파일, 점의 복사"));
+    setToolTip(QStringLiteral("결과 파일, 여러 데이터 파일, 점 내보내기와 가져오기, 점의 복사"));
     setPopupMode(QToolButton::InstantPopup);
     setAutoRaise(true);
     setFocusPolicy(Qt::TabFocus);

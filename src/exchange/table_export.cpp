@@ -1,4 +1,4 @@
-#include "cli/table_export.h"
+#include "exchange/table_export.h"
 
 #include <array>
 #include <string_view>
@@ -6,7 +6,6 @@
 
 #include "common/fixed_width.h"
 #include "exchange/load_point_files.h"
-#include "geodesy/angle_forms.h"
 
 namespace kelvo {
 
