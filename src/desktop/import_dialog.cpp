@@ -28,7 +28,7 @@ QComboBox* boxOf(const QString& name, const QStringList& entries, int chosen, QW
 }
 
 QString columnTitle(const PointList& list, std::size_t column) {
-    const QString number = QStringLiteral("%1열").arg(column + 1);
+    QString number = QStringLiteral("%1열").arg(column + 1);
     if (column >= list.header.size() || list.header[column].empty()) return number;
     return number + QLatin1Char(' ') + qt(list.header[column]);
 }

@@ -63,16 +63,22 @@ FilePanel layOutFilePanel(WidgetBook& book) {
 
     auto* commands = new QHBoxLayout;
     commands->setContentsMargins(8, 2, 8, 8);
-    commands->setSpacing(8);
+    commands->setSpacing(6);
     commands->addWidget(book.at("cmdShow"));
     commands->addStretch(1);
     for (const char* name : {"cmdSave", "cmdSaveAs", "cmdPrint", "cmdPrintMode", "cmdClose"}) {
         commands->addWidget(book.at(name));
     }
-    parts.exporting = new QPushButton(QStringLiteral("내보내기..."), parts.panel);
+    parts.exporting = new QPushButton(QStringLiteral("내보내기"), parts.panel);
     parts.exporting->setObjectName(QStringLiteral("exportPoints"));
     parts.exporting->setToolTip(QStringLiteral(
         "변환한 점을 다른 프로그램의 파일로 씁니다 (GeoPackage, Shapefile, DXF, ...)"));
+    QFont small = parts.exporting->font();
+    small.setPointSizeF(small.pointSizeF() * 0.88);
+    parts.exporting->setFont(small);
+    // No wider than what the row has left in the smallest window.
+    parts.exporting->setFixedWidth(
+        parts.exporting->fontMetrics().horizontalAdvance(parts.exporting->text()) + 10);
     commands->insertWidget(commands->indexOf(book.at("cmdSaveAs")) + 1, parts.exporting);
     column->addLayout(commands);
 

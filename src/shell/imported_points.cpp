@@ -159,6 +159,11 @@ private:
     std::size_t withoutHeight_ = 0;
 };
 
+bool isTakenTwice(const ImportChoice& choice) {
+    return choice.north == choice.east || choice.height == choice.north ||
+           choice.height == choice.east;
+}
+
 // What the system that the file states says against the one chosen.
 std::optional<std::string> doubtAboutSystem(const PointList& list, const ImportChoice& choice) {
     if (!list.system || !list.system->stated) return std::nullopt;
@@ -180,6 +185,10 @@ ImportedLines importedLines(const PointList& list, const ImportChoice& choice,
     ImportedLines made;
     made.line = place.line;
     if (const auto doubt = doubtAboutSystem(list, choice)) made.warnings.push_back(*doubt);
+    if (isTakenTwice(choice)) {
+        made.warnings.emplace_back("한 열을 두 좌표로 골랐습니다");
+        return made;
+    }
     LineMaker lines(choice, made);
     for (std::size_t i = 0; i < list.rows.size(); ++i) lines.take(list.rows[i], i + 1);
     lines.finish();

@@ -24,7 +24,8 @@ struct ImportedLines {
 // a block of lines that belong together, but after it, nor after `end`, but in front of it. Where
 // angles of the text are read in another form than the list's, the form is changed in front of the
 // points and back after them. At the end of a text without `end` that line is added. A row
-// whose coordinates can't be read, or are all 0, gives no line and is named among the warnings.
+// whose coordinates can't be read, or are both 0, gives no line and is named among the warnings.
+// One column for two coordinates gives no line at all.
 [[nodiscard]] ImportedLines importedLines(const PointList& list, const ImportChoice& choice,
                                           std::string_view text, std::size_t caretLine,
                                           std::size_t caretColumn);

@@ -23,7 +23,7 @@ class OtherProgramsTest final : public WindowCase {
     Q_OBJECT
 
 private slots:
-    // What a run has written comes back with every digit, and gives the same report.
+    // What a run has written comes back with every printed digit.
     void anExportedRunComesBackAsADataFile_data() {
         QTest::addColumn<QString>("ending");
         for (const char* ending : {"gpkg", "geojson", "shp", "kml", "gpx", "xlsx", "ods"})
@@ -41,7 +41,7 @@ private slots:
 
         openData("b.dat", "OUTPUT deg\r\n\r\nend\r\n \r\n");
         moveCaretTo(1);
-        import("workImport", path);
+        bringIn("workImport", path);
         QVERIFY2(said_.startsWith(QStringLiteral("3점을 2행에 가져왔습니다")), qPrintable(said_));
         const QString text = viewer().editor().toPlainText();
         QVERIFY2(text.contains(QStringLiteral("가나")), qPrintable(text));
@@ -49,8 +49,11 @@ private slots:
                  qPrintable(text));
         QTest::keyClick(keyTarget(), Qt::Key_S, Qt::ControlModifier);
         hands_->click("mnuBatchGo");
-        QVERIFY(!tablesOf(report).empty());
-        QCOMPARE(tablesOf(readBytes(folder_->file("data/b.out"))), tablesOf(report));
+        // A sheet has the angles as they are printed, the other formats have them whole.
+        const bool isSheet = ending == QStringLiteral("xlsx") || ending == QStringLiteral("ods");
+        const auto compared = isSheet ? &firstTableOf : &tablesOf;
+        QVERIFY(!compared(report).empty());
+        QCOMPARE(compared(readBytes(folder_->file("data/b.out"))), compared(report));
     }
 
     void theFolderOfTheFileIsOneClickAwayAsLongAsTheSentenceStands() {
@@ -99,7 +102,7 @@ private slots:
         QTest::keyClick(keyTarget(), Qt::Key_End);
         QGuiApplication::clipboard()->setText(QStringLiteral(
             "이름\tX\tY\tH\nC-1\t377504.2345\t125963.97\t7\nC-2\t377505\t125964\t8\n"));
-        import("workImportClipboard", {});
+        bringIn("workImportClipboard", {});
         QCOMPARE(viewer().editor().toPlainText(),
                  QStringLiteral("* head\nTM     A   1 2 3\n       B   1 2 3\n"
                                 "TM     C-1          377504.2345   125963.97   7\n"
@@ -126,8 +129,7 @@ private slots:
             QVERIFY(lines->toPlainText().startsWith(QStringLiteral("UTM ")));
             dialog.findChild<QComboBox*>("importNorth")->setCurrentIndex(0);
             dialog.findChild<QComboBox*>("importEast")->setCurrentIndex(0);
-            QVERIFY(dialog.findChild<QPushButton*>("importAccept")->isEnabled());
-            dialog.findChild<QComboBox*>("importNorth")->setFocus();
+            QVERIFY(!dialog.findChild<QPushButton*>("importAccept")->isEnabled());
             dialog.reject();
         });
         window_->findChild<QAction*>("workImport")->trigger();
@@ -213,7 +215,7 @@ private:
         });
         watch_.start(20);
     }
-    void import(const char* action, const std::string& path) {
+    void bringIn(const char* action, const std::string& path) {
         if (!path.empty()) hands_->dialogResults.push_back(path);
         inDialog(
             [](ImportDialog& dialog) { dialog.findChild<QPushButton*>("importAccept")->click(); });
@@ -238,6 +240,11 @@ private:
     static std::string tablesOf(const std::string& report) {
         const std::size_t first = report.find("\nA-1");
         return first == std::string::npos ? std::string() : report.substr(first);
+    }
+
+    static std::string firstTableOf(const std::string& report) {
+        const std::string tables = tablesOf(report);
+        return tables.substr(0, tables.find("\r\n\r\n"));
     }
 
     QTimer watch_;

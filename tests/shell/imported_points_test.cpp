@@ -172,6 +172,14 @@ TEST(ImportedLines, LeaveRowsOutThatAreNoPointsAndSaySo) {
     EXPECT_TRUE(warnsOf(made, "1개 점은 높이가 없어 0으로 씁니다"));
 }
 
+TEST(ImportedLines, AreNoneOfOneColumnTakenForTwoCoordinates) {
+    ImportChoice choice = dms();
+    choice.east = choice.north;
+    const ImportedLines made = intoEmptyText(points({{"A", "37.1", "126.1", "1"}}), choice);
+    EXPECT_TRUE(made.text.empty());
+    EXPECT_TRUE(warnsOf(made, "한 열을 두 좌표로"));
+}
+
 TEST(ImportedLines, AreNoneWithoutAPoint) {
     const ImportedLines made = intoEmptyText(points({{"A", "x", "y"}}), dms());
     EXPECT_EQ(made.points, 0U);
