@@ -17,7 +17,7 @@ BoxGrid::BoxGrid(WidgetBook& book, std::string_view frame)
     : book_(book), grid_(new QGridLayout(book.at(frame))) {
     grid_->setContentsMargins(8, 5, 8, 6);
     grid_->setHorizontalSpacing(5);
-    grid_->setVerticalSpacing(3);
+    grid_->setVerticalSpacing(kRowSpacing);
 }
 
 void BoxGrid::boxes(std::initializer_list<std::string_view> names) {

@@ -2,9 +2,12 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QGridLayout>
 #include <algorithm>
 #include <cmath>
 #include <utility>
+
+#include "desktop/box_grid.h"
 
 namespace kelvo::desktop {
 
@@ -34,6 +37,7 @@ void RoomyText::fit() {
     const double plain = QApplication::font().pointSizeF();
     if (plain != plainSize_) {
         content->setFont(QFont());
+        content->layout()->activate();
         neededPlain_ = needed_();
         plainSize_ = plain;
     }
@@ -41,10 +45,31 @@ void RoomyText::fit() {
     const double fits = std::min(double(room.width()) / std::max(1, neededPlain_.width()),
                                  double(room.height()) / std::max(1, neededPlain_.height()));
     const double times = std::clamp(std::floor(fits * kSteps) / kSteps, 1.0, kMostTimes);
-    if (content->font().pointSizeF() == plain * times) return;
-    QFont font;
-    if (times > 1) font.setPointSizeF(plain * times);
-    content->setFont(font);
+    if (content->font().pointSizeF() != plain * times) {
+        QFont font;
+        if (times > 1) font.setPointSizeF(plain * times);
+        content->setFont(font);
+    }
+    spreadRows(*content, room);
+}
+
+// What height is still left goes between the rows, as far as that helps the eye.
+void RoomyText::spreadRows(QWidget& content, QSize room) {
+    const QList<QGridLayout*> grids = content.findChildren<QGridLayout*>();
+    const auto heightWith = [&](int spacing) {
+        // The inner ones first: each makes only the layout around it forget its sizes.
+        for (auto grid = grids.rbegin(); grid != grids.rend(); ++grid) {
+            (*grid)->setVerticalSpacing(spacing);
+            (*grid)->parentWidget()->updateGeometry();
+        }
+        content.layout()->activate();
+        return content.heightForWidth(room.width());
+    };
+    const int tight = heightWith(BoxGrid::kRowSpacing);
+    const int perPixel = heightWith(BoxGrid::kRowSpacing + 1) - tight;
+    const int most = content.fontMetrics().height() * 2 / 3;
+    const int more = perPixel <= 0 ? 0 : std::clamp((room.height() - tight) / perPixel, 0, most);
+    heightWith(BoxGrid::kRowSpacing + more);
 }
 
 }  // namespace kelvo::desktop

@@ -1,5 +1,5 @@
 // The text of a panel that scrolls: as large as its room allows, up to three quarters more than the
-// text of the application.
+// text of the application, and the rows spread over what is left.
 #pragma once
 
 #include <QObject>
@@ -20,6 +20,7 @@ protected:
 
 private:
     void fit();
+    static void spreadRows(QWidget& content, QSize room);
 
     QScrollArea& scroll_;
     std::function<QSize()> needed_;

@@ -130,7 +130,9 @@ void TextEditor::keyPressEvent(QKeyEvent* event) {
         (event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab)) {
         const bool back =
             event->key() == Qt::Key_Backtab || event->modifiers().testFlag(Qt::ShiftModifier);
-        QAbstractScrollArea::focusNextPrevChild(!back);
+        setTabChangesFocus(true);
+        focusNextPrevChild(!back);
+        setTabChangesFocus(false);
         return;
     }
     QPlainTextEdit::keyPressEvent(event);
