@@ -46,7 +46,7 @@ void openThreeMegabytes(benchmark::State& state) {
     if (!window.start()) state.SkipWithError("the window didn't start");
     std::size_t turn = 0;
     for (auto _ : state) {
-        window.openDataFile(QString::fromStdString(paths[turn++ % paths.size()]));
+        window.openDataFile(paths[turn++ % paths.size()]);
         QApplication::processEvents();
     }
 }

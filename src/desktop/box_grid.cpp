@@ -1,7 +1,8 @@
 #include "desktop/box_grid.h"
 
-#include <QFontMetrics>
 #include <QHBoxLayout>
+
+#include "desktop/number_box.h"
 
 namespace kelvo::desktop {
 
@@ -9,7 +10,6 @@ namespace {
 
 constexpr int kColumnsOfBox = 3;  // label, box, unit
 constexpr int kToTheEdge = -1;
-constexpr int kBoxEdges = 14;  // frame and inner margins of a line edit
 
 }  // namespace
 
@@ -17,7 +17,7 @@ BoxGrid::BoxGrid(WidgetBook& book, std::string_view frame)
     : book_(book), grid_(new QGridLayout(book.at(frame))) {
     grid_->setContentsMargins(8, 5, 8, 6);
     grid_->setHorizontalSpacing(5);
-    grid_->setVerticalSpacing(3);
+    grid_->setVerticalSpacing(kRowSpacing);
 }
 
 void BoxGrid::boxes(std::initializer_list<std::string_view> names) {
@@ -27,8 +27,7 @@ void BoxGrid::boxes(std::initializer_list<std::string_view> names) {
         if (QWidget* label = book_.labelOf(name)) {
             grid_->addWidget(label, row_, column, Qt::AlignRight | Qt::AlignVCenter);
         }
-        box->setMinimumWidth(letters_ * QFontMetrics(box->font()).horizontalAdvance('0') +
-                             kBoxEdges);
+        if (auto* number = qobject_cast<NumberBox*>(box)) number->setLetters(letters_);
         QWidget* unit = book_.unitOf(name);
         grid_->addWidget(box, row_, column + 1, 1, unit == nullptr ? 2 : 1);
         if (unit != nullptr) grid_->addWidget(unit, row_, column + 2);

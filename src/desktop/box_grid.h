@@ -10,6 +10,9 @@ namespace kelvo::desktop {
 
 class BoxGrid {
 public:
+    // Pixels between two rows; more where a panel has room.
+    static constexpr int kRowSpacing = 3;
+
     // Lays out the widget of the frame.
     BoxGrid(WidgetBook& book, std::string_view frame);
 

@@ -49,6 +49,17 @@ void paste(WidgetBook& book, const CoordinateGroup& group) {
     book.say(said);
 }
 
+// Little more than its words, in the size of the text around it.
+class TightButton final : public QPushButton {
+public:
+    using QPushButton::QPushButton;
+
+    [[nodiscard]] QSize sizeHint() const override {
+        return {fontMetrics().horizontalAdvance(text()) + 14, fontMetrics().height() + 4};
+    }
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+};
+
 }  // namespace
 
 QWidget* clipboardButtons(WidgetBook& book, const CoordinateGroup& group) {
@@ -57,13 +68,8 @@ QWidget* clipboardButtons(WidgetBook& book, const CoordinateGroup& group) {
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(2);
     const auto button = [&](const QString& text, const QString& hint, const QString& name) {
-        auto* made = new QPushButton(text, buttons);
+        auto* made = new TightButton(text, buttons);
         made->setToolTip(hint);
-        QFont small = made->font();
-        small.setPointSizeF(small.pointSizeF() * 0.88);
-        made->setFont(small);
-        made->setFixedSize(made->fontMetrics().horizontalAdvance(text) + 14,
-                           made->fontMetrics().height() + 5);
         made->setObjectName(name + qt(group.boxes.front()));
         made->setFocusPolicy(Qt::ClickFocus);  // out of the way of the Tab key
         row->addWidget(made);

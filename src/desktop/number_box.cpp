@@ -7,9 +7,31 @@
 
 namespace kelvo::desktop {
 
+namespace {
+
+constexpr int kEdges = 14;  // frame and inner margins of a line edit
+
+}  // namespace
+
 NumberBox::NumberBox(QWidget* parent) : QLineEdit(parent) {
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    setFont(fixedPitchFont(font().pointSizeF()));
+    // The face alone: the size stays that of the text around the box.
+    const QFont face = fixedPitchFont(font().pointSizeF());
+    QFont own;
+    own.setFamilies(face.families());
+    own.setHintingPreference(face.hintingPreference());
+    own.setStyleHint(face.styleHint());
+    setFont(own);
+}
+
+void NumberBox::setLetters(int letters) {
+    letters_ = letters;
+    setMinimumWidth(letters_ * fontMetrics().horizontalAdvance(QLatin1Char('0')) + kEdges);
+}
+
+void NumberBox::changeEvent(QEvent* event) {
+    QLineEdit::changeEvent(event);
+    if (event->type() == QEvent::FontChange && letters_ > 0) setLetters(letters_);
 }
 
 void NumberBox::focusInEvent(QFocusEvent* event) {

@@ -16,10 +16,14 @@ public:
     // habits of selecting on the way in are put aside.
     void setSelectsOnEntry(std::function<bool()> asked) { selectsOnEntry_ = std::move(asked); }
 
+    // Makes the box wide enough for this many digits, in whatever size its text has.
+    void setLetters(int letters);
+
 signals:
     void entered();
 
 protected:
+    void changeEvent(QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -28,6 +32,7 @@ protected:
 private:
     std::function<bool()> selectsOnEntry_;
     bool enteredByThisPress_ = false;
+    int letters_ = 0;
 };
 
 }  // namespace kelvo::desktop

@@ -13,8 +13,10 @@
 #include "desktop/angle_reading.h"
 #include "desktop/box_grid.h"
 #include "desktop/coordinate_clipboard.h"
+#include "desktop/folding_pair.h"
 #include "desktop/panel_keys.h"
 #include "desktop/panel_layouts.h"
+#include "desktop/roomy_text.h"
 
 namespace kelvo::desktop {
 
@@ -117,8 +119,8 @@ std::string partOfPanel(const Form& form, const Control& control) {
 
 // Along the work: the coordinates with their arrows from left to right, then the parameters.
 void orderTabs(WidgetBook& book) {
-    constexpr std::array<std::string_view, 5> parameterFrames{"Frame4", "Frame10", "Frame8",
-                                                              "Frame5", "Frame14"};
+    constexpr std::array<std::string_view, 5> ofParameters{"Frame4", "Frame10", "Frame8", "Frame5",
+                                                           "Frame14"};
     QWidget* previous = nullptr;
     const auto next = [&previous](QWidget* widget) {
         if (widget->focusPolicy() == Qt::NoFocus) return;
@@ -129,12 +131,55 @@ void orderTabs(WidgetBook& book) {
         for (const Control& control : book.form().controls()) {
             const std::string part = partOfPanel(book.form(), control);
             if (part.empty() || part == "cmdOneClose") continue;
-            const bool isParameter = std::find(parameterFrames.begin(), parameterFrames.end(),
-                                               part) != parameterFrames.end();
+            const bool isParameter =
+                std::find(ofParameters.begin(), ofParameters.end(), part) != ofParameters.end();
             if (isParameter == parameters) next(book.at(control.name()));
         }
     }
     next(book.at("cmdOneClose"));
+}
+
+FoldingPair* pair(QLayout* first, QLayout* second, int firstShare, int secondShare) {
+    auto* both = new FoldingPair(first, second, firstShare, secondShare);
+    both->setSpacing(6);
+    return both;
+}
+
+// Frames one below the other; the last one takes what height is left.
+QLayout* column(WidgetBook& book, std::initializer_list<std::string_view> frames) {
+    auto* stack = new QVBoxLayout;
+    for (const std::string_view name : frames) stack->addWidget(book.at(name));
+    stack->setStretch(stack->count() - 1, 1);
+    return stack;
+}
+
+QLayout* afterArrows(QLayout* arrows, QLayout* coordinates) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(6);
+    row->addLayout(arrows);
+    row->addLayout(coordinates, 1);
+    return row;
+}
+
+// The four frames with their arrows, an arrow's column a fifth to a quarter as wide as a frame.
+FoldingPair* chainOfFrames(WidgetBook& book) {
+    auto* last = new QVBoxLayout;
+    last->addWidget(book.at("Frame13"), 1);
+    last->addWidget(book.at("lblHeights"));
+    last->addWidget(book.at("lblGeoid"));
+    last->addWidget(book.at("cmdOneClose"), 0, Qt::AlignRight | Qt::AlignBottom);
+
+    QLayout* user =
+        afterArrows(arrows(book, "cmdW2B", "lblDatum", "cmdB2W"), column(book, {"Frame2"}));
+    QLayout* tm =
+        afterArrows(arrows(book, "cmdGP2TM", "lblGrid", "cmdTM2GP"), column(book, {"Frame3"}));
+    QLayout* utm = afterArrows(arrows(book, "cmdTM2UTM", "lblUtm", "cmdUTM2TM"), last);
+    return pair(pair(column(book, {"frmeWGS"}), user, 4, 5), pair(tm, utm, 1, 1), 9, 10);
+}
+
+FoldingPair* parameterFrames(WidgetBook& book) {
+    return pair(pair(column(book, {"Frame4"}), column(book, {"Frame10", "Frame8"}), 5, 2),
+                pair(column(book, {"Frame5"}), column(book, {"Frame14"}), 1, 1), 7, 8);
 }
 
 }  // namespace
@@ -150,31 +195,9 @@ void layOutOnePointPanel(WidgetBook& book) {
     rows->setContentsMargins(8, 4, 8, 8);
     rows->setSpacing(6);
 
-    auto* chain = new QHBoxLayout;
-    chain->setSpacing(6);
-    chain->addWidget(book.at("frmeWGS"), 3);
-    chain->addLayout(arrows(book, "cmdW2B", "lblDatum", "cmdB2W"));
-    chain->addWidget(book.at("Frame2"), 3);
-    chain->addLayout(arrows(book, "cmdGP2TM", "lblGrid", "cmdTM2GP"));
-    chain->addWidget(book.at("Frame3"), 3);
-    chain->addLayout(arrows(book, "cmdTM2UTM", "lblUtm", "cmdUTM2TM"));
-    auto* last = new QVBoxLayout;
-    last->addWidget(book.at("Frame13"), 1);
-    last->addWidget(book.at("lblHeights"));
-    last->addWidget(book.at("lblGeoid"));
-    last->addWidget(book.at("cmdOneClose"), 0, Qt::AlignRight | Qt::AlignBottom);
-    chain->addLayout(last, 3);
+    FoldingPair* chain = chainOfFrames(book);
+    FoldingPair* parameters = parameterFrames(book);
     rows->addLayout(chain);
-
-    auto* parameters = new QHBoxLayout;
-    parameters->setSpacing(6);
-    parameters->addWidget(book.at("Frame4"), 5);
-    auto* corrections = new QVBoxLayout;
-    corrections->addWidget(book.at("Frame10"));
-    corrections->addWidget(book.at("Frame8"), 1);
-    parameters->addLayout(corrections, 2);
-    parameters->addWidget(book.at("Frame5"), 4);
-    parameters->addWidget(book.at("Frame14"), 4);
     rows->addLayout(parameters);
     rows->addStretch(1);
 
@@ -183,6 +206,11 @@ void layOutOnePointPanel(WidgetBook& book) {
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setFocusPolicy(Qt::NoFocus);
     scroll->setWidget(content);
+    new RoomyText(*scroll, [rows, chain, parameters] {
+        const QMargins edges = rows->contentsMargins();
+        const int width = std::max(chain->unfoldedWidth(), parameters->unfoldedWidth());
+        return QSize(width + edges.left() + edges.right(), rows->minimumSize().height());
+    });
     auto* panel = new QVBoxLayout(book.at("frmeOne"));
     panel->setContentsMargins(0, 0, 0, 0);
     panel->addWidget(scroll);

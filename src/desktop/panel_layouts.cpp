@@ -9,6 +9,7 @@
 #include <array>
 
 #include "desktop/box_grid.h"
+#include "desktop/folding_pair.h"
 #include "desktop/panel_keys.h"
 #include "desktop/plot_view.h"
 #include "desktop/text_viewer.h"
@@ -61,26 +62,30 @@ FilePanel layOutFilePanel(WidgetBook& book) {
     body->addWidget(book.at("Richtxt"));
     column->addWidget(parts.body, 1);
 
-    auto* commands = new QHBoxLayout;
-    commands->setContentsMargins(8, 2, 8, 8);
-    commands->setSpacing(6);
-    commands->addWidget(book.at("cmdShow"));
-    commands->addStretch(1);
-    for (const char* name : {"cmdSave", "cmdSaveAs", "cmdPrint", "cmdPrintMode", "cmdClose"}) {
-        commands->addWidget(book.at(name));
-    }
+    auto* saving = new QHBoxLayout;
+    saving->addWidget(book.at("cmdShow"));
+    saving->addStretch(1);
+    saving->addWidget(book.at("cmdSave"));
+    saving->addWidget(book.at("cmdSaveAs"));
     parts.exporting = new QPushButton(QStringLiteral("내보내기"), parts.panel);
     parts.exporting->setObjectName(QStringLiteral("exportPoints"));
     parts.exporting->setToolTip(QStringLiteral(
         "변환한 점을 다른 프로그램의 파일로 씁니다 (GeoPackage, Shapefile, DXF, ...)"));
-    QFont small = parts.exporting->font();
-    small.setPointSizeF(small.pointSizeF() * 0.88);
-    parts.exporting->setFont(small);
-    // No wider than what the row has left in the smallest window.
-    parts.exporting->setFixedWidth(
-        parts.exporting->fontMetrics().horizontalAdvance(parts.exporting->text()) + 10);
-    commands->insertWidget(commands->indexOf(book.at("cmdSaveAs")) + 1, parts.exporting);
-    column->addLayout(commands);
+    saving->addWidget(parts.exporting);
+    auto* leaving = new QHBoxLayout;
+    leaving->addStretch(1);
+    for (const char* name : {"cmdPrint", "cmdPrintMode", "cmdClose"}) {
+        leaving->addWidget(book.at(name));
+    }
+    auto* commands = new FoldingPair(saving, leaving, 1, 0);
+    for (QLayout* row : {static_cast<QLayout*>(saving), static_cast<QLayout*>(leaving),
+                         static_cast<QLayout*>(commands)}) {
+        row->setSpacing(8);
+    }
+    auto* bottom = new QVBoxLayout;
+    bottom->setContentsMargins(8, 2, 8, 8);
+    bottom->addLayout(commands);
+    column->addLayout(bottom);
 
     // The button closes without a question; a key doesn't, where that would lose work.
     new PanelKeys(*parts.panel, {}, [&book] {
@@ -151,9 +156,14 @@ void layOutPrintMode(WidgetBook& book) {
     QWidget* panel = book.at("frmePrintMode");
     auto* edge = new QVBoxLayout(panel);
     edge->setContentsMargins(0, 0, 0, 0);
-    auto* card = new QFrame(panel);
+    auto* card = new QFrame;
     card->setFrameStyle(QFrame::StyledPanel | QFrame::Raised);
-    edge->addWidget(card);
+    auto* scroll = new QScrollArea;
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setWidget(card);
+    edge->addWidget(scroll);
 
     auto* column = new QVBoxLayout(card);
     column->setContentsMargins(0, 0, 0, 12);

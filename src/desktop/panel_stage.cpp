@@ -5,6 +5,7 @@
 #include <QEvent>
 #include <QLayout>
 #include <QLineEdit>
+#include <QStyle>
 #include <algorithm>
 
 namespace kelvo::desktop {
@@ -51,10 +52,10 @@ void PanelStage::setUp(const WidgetBook& book, const FilePanel& filePanel) {
     settle(Layer::None);
 }
 
-// As wide as the row of buttons under a text; higher panels scroll.
+// As wide as the buttons under a text in two rows; larger panels scroll.
 QSize PanelStage::minimumSizeHint() const {
     const int row = file_.panel == nullptr ? 0 : file_.panel->minimumSizeHint().width();
-    return {std::max(560, row), 360};
+    return {std::max(360, row), 200};
 }
 
 void PanelStage::resizeEvent(QResizeEvent*) {
@@ -141,7 +142,12 @@ void PanelStage::arrange() {
         std::min(plotSettings_->sizeHint().width() + 10, std::max(120, area.width() / 2));
     plot_->setGeometry(area.adjusted(8, 8, -side, -4));
     plotSettings_->setGeometry(area.right() - side + 1, area.top(), side, area.height());
-    const QSize card = printMode_->sizeHint();
+    // Where the card is too high it scrolls, and its bar needs room, too.
+    QSize card = printMode_->sizeHint();
+    if (card.height() > height()) {
+        card += QSize(style()->pixelMetric(QStyle::PM_ScrollBarExtent), 0);
+        card = card.boundedTo(size());
+    }
     printMode_->setGeometry(QRect(
         QPoint((width() - card.width()) / 2, std::max(0, (height() - card.height()) / 2 - 20)),
         card));

@@ -11,7 +11,7 @@ namespace kelvo::desktop {
 
 namespace {
 
-constexpr int kParameterLetters = 12;
+constexpr int kParameterLetters = 11;
 
 void layOutShift(WidgetBook& book) {
     BoxGrid grid(book, "Frame4");
@@ -38,7 +38,7 @@ void layOutCorrections(WidgetBook& book) {
     known.row({book.at("OptCorr"), book.at("OptNoCorr")});
 
     BoxGrid first(book, "Frame8");
-    first.setBoxWidth(kParameterLetters - 3);
+    first.setBoxWidth(kParameterLetters - 2);
     first.row({book.at("lblUserPhi")});
     first.row({book.at("lblPlusdPhi")});
     first.boxes({"txtdPhi"});
@@ -60,7 +60,7 @@ void layOutTm(WidgetBook& book) {
     add->addWidget(book.at("optNotAdd"));
 
     BoxGrid origin(book, "Frame6");
-    origin.setBoxWidth(kParameterLetters - 4);
+    origin.setBoxWidth(kParameterLetters - 3);
     origin.row({book.at("optWest"), book.at("optCenter"), book.at("optEast")});
     origin.row({book.at("optEastSea"), book.at("optJeju"), book.at("optUser")});
     origin.boxes({"txtPhi0", "txtLam0"});
@@ -85,7 +85,7 @@ void layOutUtm(WidgetBook& book) {
     ellipsoid.boxes({"txtUf"});
 
     BoxGrid origin(book, "Frame16");
-    origin.setBoxWidth(kParameterLetters - 4);
+    origin.setBoxWidth(kParameterLetters - 3);
     origin.row({book.at("optUTM3"), book.at("optUTM9"), book.at("optUUser")});
     origin.boxes({"txtUPhi0", "txtULam0"});
     origin.boxes({"txtUX0", "txtUY0"});

@@ -125,6 +125,16 @@ void TextEditor::keyPressEvent(QKeyEvent* event) {
     if (event->modifiers() == Qt::ControlModifier && event->key() == Qt::Key_0) {
         return setTextSize(QFont().pointSizeF() + 1);
     }
+    // Tab alone is a letter of a text; this is the way on without a mouse.
+    if (event->modifiers().testFlag(Qt::ControlModifier) &&
+        (event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab)) {
+        const bool back =
+            event->key() == Qt::Key_Backtab || event->modifiers().testFlag(Qt::ShiftModifier);
+        setTabChangesFocus(true);
+        focusNextPrevChild(!back);
+        setTabChangesFocus(false);
+        return;
+    }
     QPlainTextEdit::keyPressEvent(event);
 }
 

@@ -16,6 +16,8 @@ class HelpFileTest final : public QObject {
     Q_OBJECT
 
 private slots:
+    void init() { failOnWarnings(); }
+
     void aMissingHelpIsWritten() {
         Place at;
         at.start("첫 도움말");

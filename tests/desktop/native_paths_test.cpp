@@ -12,6 +12,7 @@
 #include "desktop/main_window.h"
 #include "desktop/native_paths.h"
 #include "desktop/text_viewer.h"
+#include "desktop/window_case.h"
 #include "desktop/window_hands.h"
 #include "support/temporary_folder.h"
 
@@ -24,6 +25,7 @@ class NativePathsTest : public QObject {
 
 private slots:
     void init() {
+        failOnWarnings();
         folder_ = std::make_unique<TemporaryFolder>();
         makeApplicationFolder(folder_->path());
         folder_->put("data/" + kOdd, "*\r\nend\r\n");

@@ -12,6 +12,7 @@
 
 #include "desktop/korean_faces.h"
 #include "desktop/paper_surface.h"
+#include "desktop/window_case.h"
 #include "gallery_pages.h"
 #include "support/recording_messages.h"
 #include "support/temporary_folder.h"
@@ -149,6 +150,8 @@ class PrintedSheetTest : public QObject {
     Q_OBJECT
 
 private slots:
+    void init() { failOnWarnings(); }
+
     void initTestCase() {
         if (QStandardPaths::findExecutable(QStringLiteral("pdftoppm")).isEmpty()) {
             QSKIP("pdftoppm is missing (apt-get install poppler-utils)");

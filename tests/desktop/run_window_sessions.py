@@ -43,7 +43,9 @@ def main():
     names = sys.argv[3:] or sorted(
         {re.sub(r"(\.[0-9]+)?\.txt$", "", p.name) for p in folder.glob("*.txt")})
     failed = 0
-    with tempfile.NamedTemporaryFile("w", suffix=".json") as config:
+    with tempfile.NamedTemporaryFile("w", suffix=".json") as config, \
+            tempfile.TemporaryDirectory() as own:
+        os.environ["XDG_RUNTIME_DIR"] = own
         json.dump({"screens": [SCREEN]}, config)
         config.flush()
         os.environ["QT_QPA_PLATFORM"] = "offscreen:configfile=" + config.name

@@ -13,6 +13,7 @@
 #include "desktop/picture_painter.h"
 #include "desktop/picture_surface.h"
 #include "desktop/raster_modes.h"
+#include "desktop/window_case.h"
 #include "plot/clsplot1.h"
 #include "support/temporary_folder.h"
 
@@ -51,6 +52,8 @@ class SurfaceTest : public QObject {
     Q_OBJECT
 
 private slots:
+    void init() { testing::failOnWarnings(); }
+
     // The sixteen operations as their bit tables: the mode less one, read as four bits, gives the
     // result for pen and ground both set, pen alone, ground alone and neither.
     void pixelsFollowTheRasterOperation() {
@@ -211,6 +214,7 @@ private slots:
         // A printer that can't be opened is no silence.
         paper.print("장");
         printer.setOutputFileName(QStringLiteral("/nowhere/at/all.pdf"));
+        QTest::ignoreMessage(QtWarningMsg, "QPainter::begin(): Returned false");
         QVERIFY(!paintSheets(printer, paper.takeSheets()));
     }
 

@@ -12,6 +12,7 @@
 #include "common/application_folder.h"
 #include "desktop/look_of_window.h"
 #include "desktop/main_window.h"
+#include "desktop/window_case.h"
 #include "desktop/window_hands.h"
 #include "support/temporary_folder.h"
 
@@ -41,6 +42,7 @@ class TwoProgramsTest : public QObject {
 
 private slots:
     void init() {
+        failOnWarnings();
         folder_ = std::make_unique<TemporaryFolder>();
         makeApplicationFolder(folder_->path());
         folder_->put("kelvo.cor", kKnown);

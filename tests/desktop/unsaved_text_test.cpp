@@ -22,6 +22,7 @@
 #include "desktop/look_of_window.h"
 #include "desktop/main_window.h"
 #include "desktop/text_viewer.h"
+#include "desktop/window_case.h"
 #include "desktop/window_hands.h"
 #include "support/temporary_folder.h"
 
@@ -29,24 +30,12 @@ using namespace kelvo;
 using namespace kelvo::testing;
 using desktop::MainWindow;
 
-namespace {
-
-QString qtText(const std::string& text) {
-    return QString::fromStdString(text);
-}
-
-std::string readBytes(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-}  // namespace
-
 class UnsavedTextTest : public QObject {
     Q_OBJECT
 
 private slots:
     void init() {
+        failOnWarnings();
         folder_ = std::make_unique<TemporaryFolder>();
         makeApplicationFolder(folder_->path());
         window_ = std::make_unique<MainWindow>(folder_->path());

@@ -23,9 +23,13 @@ void setUpWindows(QApplication& application) {
     desktop::setTheme(application, desktop::Theme::Light);
 }
 
-void WindowCase::init() {
+void failOnWarnings() {
     // The platform without a screen says of some calls that it has none.
     QTest::failOnWarning(QRegularExpression(QStringLiteral("^(?!This plugin does not support )")));
+}
+
+void WindowCase::init() {
+    failOnWarnings();
     folder_ = std::make_unique<TemporaryFolder>();
     makeApplicationFolder(folder_->path());
     window_ = std::make_unique<desktop::MainWindow>(folder_->path());

@@ -18,6 +18,9 @@ namespace kelvo::testing {
 [[nodiscard]] QString qtText(const std::string& text);
 [[nodiscard]] std::string readBytes(const std::string& path);
 
+// A warning of the toolkit fails the test that runs now. Called by init() of every class of tests.
+void failOnWarnings();
+
 // The base of a class of tests. A warning of the toolkit fails the test that it comes in.
 class WindowCase : public QObject {
     Q_OBJECT
