@@ -56,6 +56,21 @@ private slots:
         QCOMPARE(compared(readBytes(folder_->file("data/b.out"))), compared(report));
     }
 
+    // A drawing is on the TM grid and says so nowhere.
+    void anExportedDrawingComesBackOnTheTmGrid() {
+        if (!hasModule()) QSKIP("built without GDAL (KELVO_EXCHANGE=OFF)");
+        run();
+        const std::string path = exportTo("dxf");
+        openData("b.dat", "");
+        bringIn("workImport", path);
+        const QString text = viewer().editor().toPlainText();
+        QVERIFY2(text.startsWith(QStringLiteral("TM     A-1          454572.6396")),
+                 qPrintable(text));
+        QVERIFY2(text.contains(QStringLiteral("\n       가나         453987.0331")),
+                 qPrintable(text));
+        QVERIFY2(text.endsWith(QStringLiteral("\nend\n \n")), qPrintable(text));
+    }
+
     void theFolderOfTheFileIsOneClickAwayAsLongAsTheSentenceStands() {
         if (!hasModule()) QSKIP("built without GDAL (KELVO_EXCHANGE=OFF)");
         auto* button = window_->findChild<QPushButton*>("statusOpenFolder");
