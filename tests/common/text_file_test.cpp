@@ -93,7 +93,10 @@ TEST(TextReader, PairsAndLineEndsAcrossAnyBufferBorderStayWhole) {
 
 TEST(TextReader, ALineBeyondTheLongestIsAnOverflow) {
     MemoryDisk disk;
-    disk.putBytes("/a", std::string(kLongestLine, 'x') + "\n" + std::string(kLongestLine + 1, 'y'));
+    std::string text(kLongestLine, 'x');
+    text += '\n';
+    text.append(kLongestLine + 1, 'y');
+    disk.putBytes("/a", text);
     TextReader reader(disk, "/a");
     std::string line;
     reader.readLine(line);
