@@ -9,7 +9,8 @@ what they print. "@APP@" in scripts and files stands for the application folder 
 in a transcript, the editor of a first start as EDITOR, the owner's line as <free:owner>. Of a
 fault only the number counts. A value with line ends inside, a whole report say, stands in a stored
 transcript line by line, each line after the first marked with ">> ". --renew writes the transcripts
-again: read the difference before committing it. --wine runs a driver built for Windows; the transcripts hold there too, see OnWindows.
+of all sessions, or of those named, again, without <free:owner>: put it back, and read the difference
+before committing it. --wine runs a driver built for Windows; the transcripts hold there too, see OnWindows.
 """
 import difflib
 import os
