@@ -35,7 +35,7 @@ struct ConvertCommandLineReading {
     std::string complaint;
 };
 
-// Reads the arguments behind the program's name.
+// Reads the arguments after the program's name.
 [[nodiscard]] ConvertCommandLineReading readConvertCommandLine(
     std::span<const std::string> arguments);
 

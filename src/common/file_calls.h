@@ -43,7 +43,7 @@ public:
     // All bytes from the front.
     virtual int readAll(FileHandle file, std::string& bytes) = 0;
 
-    // All of the bytes, behind those written before; at a place from the front.
+    // All of the bytes, after those written before; at a place from the front.
     virtual int write(FileHandle file, std::string_view bytes) = 0;
     virtual int writeAt(FileHandle file, std::uint64_t place, std::string_view bytes) = 0;
 

@@ -22,7 +22,7 @@ namespace kelvo {
 // was called on the copy. Faults as Disk::replace.
 void replaceFile(FileCalls& calls, const std::filesystem::path& target, std::string_view bytes);
 
-// Writes the file anew as it goes. What is written takes the place of the file when the writer is
+// Rewrites the file as it goes. What is written takes the place of the file when the writer is
 // closed, if that can be; a writer that goes without being closed leaves the file as it was.
 // Where it can't, the file is emptied at once.
 [[nodiscard]] std::unique_ptr<ByteWriter> writeAnew(std::unique_ptr<FileCalls> calls,

@@ -31,7 +31,7 @@ public:
 
     // Reads one text item: leading blanks go; it ends at a comma or a line end, which goes with
     // it. An item in double quotes is read without them; if it begins with a quote of its own,
-    // behind the opening one, it ends at a quote with which the item ends. Fault 62 at the end of
+    // after the opening one, it ends at a quote with which the item ends. Fault 62 at the end of
     // the file.
     void readTextItem(std::string& item);
 

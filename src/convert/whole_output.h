@@ -9,7 +9,7 @@
 
 namespace kelvo {
 
-// The reader of standard output has gone; nobody is left to be told.
+// The reader of standard output has gone; nobody is left to read it.
 class ClosedPipe {};
 
 // A new file beside `path`, which takes its place, with its permissions and owner, when it is

@@ -1,4 +1,4 @@
-// A grid of boxes with their labels in front and their units behind.
+// A grid of boxes with their labels in front and their units after them.
 #pragma once
 
 #include <QGridLayout>

@@ -25,7 +25,7 @@ public:
     // Run before and after each event.
     Around before;
     Around after;
-    // Told of a fault; the program is expected to end soon, and no event gets through any more.
+    // Called for a fault; the program is expected to end soon, and no event gets through any more.
     std::function<void(int number, const std::string& text)> onFault;
 
     // True while an event is on its way through the form.

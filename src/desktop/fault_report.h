@@ -1,4 +1,4 @@
-// What a person is told when a fault ends the program.
+// What a person reads when a fault ends the program.
 #pragma once
 
 #include <QString>

@@ -24,7 +24,7 @@ bool same(const TextLook& one, const TextLook& other) {
            one.strikethru == other.strikethru && one.underline == other.underline;
 }
 
-// What a surface that was told no face draws with.
+// What a surface that was given no face draws with.
 constexpr const char* kFirstFace = "굴림";
 
 TextLook lookOf(const SurfaceMembers& members) {

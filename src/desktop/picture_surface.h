@@ -22,7 +22,7 @@ public:
     explicit PictureSurface(DeviceUnits units);
 
     [[nodiscard]] const PlotPicture& picture() const { return picture_; }
-    // Counts up with each change, so that a view knows when to paint anew.
+    // Counts up with each change, so that a view knows when to paint again.
     [[nodiscard]] unsigned revision() const { return revision_; }
 
     void Line(double x1, double y1, double x2, double y2, std::int32_t colour,

@@ -24,7 +24,7 @@ public:
     };
 
     // The document of a file, holding this text and not modified. A text other than the one it
-    // held becomes a step that can be undone, if somebody has edited there; else it begins anew.
+    // held becomes a step that can be undone, if somebody has edited there; else it starts afresh.
     Kept& open(const QString& path, const std::string& text);
 
     // Those of other files, the latest first, beyond which documents are given up.

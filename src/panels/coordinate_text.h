@@ -17,8 +17,8 @@ struct CoordinateTexts {
 };
 
 // Reads one point: a name in front or none (also one of digits alone), then the coordinates,
-// parted by blanks, tabs, line ends, semicolons or commas. Angles are plain numbers of the form
-// asked for, or degrees, minutes and seconds parted by hyphens, blanks, colons or their signs.
+// separated by blanks, tabs, line ends, semicolons or commas. Angles are plain numbers of the form
+// asked for, or degrees, minutes and seconds separated by hyphens, blanks, colons or their signs.
 // Text that could be read in two ways is refused; so is a comma that might be a decimal one.
 [[nodiscard]] CoordinateTexts readCoordinates(std::string_view text, CoordinateForm form);
 

@@ -17,7 +17,7 @@ struct CoordinateWord {
     std::string seconds;       //
     bool negative = false;     // of an angle
     char hemisphere = 0;       // N, S, E, W
-    bool saysDegrees = false;  // a number with the sign of degrees behind it
+    bool saysDegrees = false;  // a number with the sign of degrees after it
 
     [[nodiscard]] bool isNumber() const { return kind == Kind::Number; }
     [[nodiscard]] bool isWhole() const;  // digits alone

@@ -10,7 +10,7 @@
 
 namespace kelvo {
 
-// The content of a file also under its name with ".old" behind it; what had that name before goes
+// The content of a file also under its name with ".old" after it; what had that name before goes
 // on to ".old2" and so on. A file that can't be read or copied is given the name itself. Nothing
 // for a file that isn't there. Faults of a disk that allows neither come out.
 void keepAside(Disk& disk, const std::string& path);
@@ -28,7 +28,7 @@ public:
         : disk_(disk), path_(std::move(path)), seen_(seen) {}
 
     // Reads the file by `read`. If that fails the file is kept aside, `replace` writes one that
-    // can be read, and it is read again; `replace` is told how often it was called, from 1. The
+    // can be read, and it is read again; `replace` learns how often it was called, from 1. The
     // third failure comes out as the fault that it is. A file that another program has open
     // (fault 55) is tried again first, a few times.
     void readOrReplace(const std::function<void()>& read,

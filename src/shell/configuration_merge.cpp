@@ -38,7 +38,7 @@ std::span<const StoredNumber> numbersOf(const Group& group) {
     return std::span(kStoredNumbers).subspan(group.first, group.count);
 }
 
-// What differs is told by what a file holds of it.
+// What differs is seen by what a file holds of it.
 bool isSame(const Group& group, const TransPara& one, const TransPara& other) {
     return std::ranges::all_of(numbersOf(group), [&](const StoredNumber& stored) {
         return storedText(one, stored) == storedText(other, stored);

@@ -1,5 +1,5 @@
 // The form of kelvo.cfg. Lines: the editor; 27 numbers in the order of TransPara, read as a stream
-// parted by blanks, commas or line ends; AddFlag and CorrFlag; then at most five paths.
+// separated by blanks, commas or line ends; AddFlag and CorrFlag; then at most five paths.
 //
 // A path or editor that holds a comma, or begins with a blank or a double quote, stands in double
 // quotes; one with a comma and a quote can't and stands bare. One that the code page can't hold
@@ -20,7 +20,7 @@ namespace kelvo {
 
 inline constexpr std::size_t kMostRecentFiles = 5;
 
-// A number of the parameter set, and whether its line of the file ends behind it.
+// A number of the parameter set, and whether its line of the file ends after it.
 struct StoredNumber {
     std::variant<double TransPara::*, ShiftKind TransPara::*, TmZone TransPara::*,
                  UtmZone TransPara::*>

@@ -1,5 +1,5 @@
 // draw_background FILE.png: draws the window's background, a survey grid over a quiet landscape.
-// The picture in this folder was made by it; build the target draw_background to make it anew.
+// The picture in this folder was made by it; build the target draw_background to make it again.
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>

@@ -75,7 +75,7 @@ CPLStringList layerOptionsOf(VectorFormat format) {
     if (format == VectorFormat::GeoJson) {
         options.SetNameValue("RFC7946", "YES");
         options.SetNameValue("SIGNIFICANT_FIGURES", "16");
-        // The driver takes a last digit behind noughts for a slip of rounding, up to this many.
+        // The driver takes a last digit after noughts for a slip of rounding, up to this many.
         options.SetNameValue("COORDINATE_PRECISION", "13");
     }
     // With its .cpg, so that no letter of a name is lost.
