@@ -159,6 +159,7 @@ std::vector<JournalStore::Left> JournalFolder::left(Shelf shelf) {
     std::stable_sort(found.begin(), found.end(),
                      [](const auto& one, const auto& other) { return one.first > other.first; });
     std::vector<Left> result;
+    result.reserve(found.size());
     for (auto& [time, left] : found) result.push_back(std::move(left));
     return result;
 }

@@ -23,8 +23,13 @@ std::string bytesOf(const std::string& text) {
 std::optional<std::string> newFileIn(Disk& disk, const std::string& folder,
                                      const std::string& stamp) {
     for (int number = 1; number < kMostOfOneSecond; ++number) {
-        std::string path = folder + kPathSeparator + "rescue-" + stamp;
-        path.append("-").append(std::to_string(number)).append(".txt");
+        std::string path = folder;
+        path += kPathSeparator;
+        path.append("rescue-")
+            .append(stamp)
+            .append("-")
+            .append(std::to_string(number))
+            .append(".txt");
         if (genSub::FileExists(disk, path) == genSub::kFileIsMissing) return path;
     }
     return std::nullopt;
@@ -52,7 +57,7 @@ std::optional<std::string> rescueText(Disk& disk, const std::vector<std::string>
     const std::string bytes = bytesOf(text);
     for (const std::string& folder : folders) {
         try {
-            const auto path = newFileIn(disk, folder, stamp);
+            auto path = newFileIn(disk, folder, stamp);
             if (!path) continue;
             disk.replace(*path, bytes);
             return path;
