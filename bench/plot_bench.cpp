@@ -64,8 +64,7 @@ struct Drawing {
     }
 
     void draw() {
-        PlotSource source{
-            .points = points, .cfg = cfg, .panel = silence, .texts = texts, .messages = silence};
+        PlotSource source{.points = points, .cfg = cfg, .panel = silence, .texts = texts};
         plot(object, SurfaceKind::Screen, surface, source);
     }
 
@@ -110,8 +109,7 @@ struct ShownPlot {
         PlotSource source{.points = drawing.points,
                           .cfg = drawing.cfg,
                           .panel = drawing.silence,
-                          .texts = drawing.texts,
-                          .messages = drawing.silence};
+                          .texts = drawing.texts};
         plot(object, SurfaceKind::Screen, view.surface(), source);
         view.refresh();
         view.grab();

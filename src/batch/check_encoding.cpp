@@ -7,7 +7,6 @@ namespace kelvo {
 
 namespace {
 
-constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 constexpr std::size_t kEnoughLetters = 2;  // by chance one can be well formed
 
 // How many letters of three bytes, such as Hangul, a text of UTF-8 holds; 0 if it isn't UTF-8.

@@ -14,6 +14,7 @@
 #include "cli/shared_files.h"
 #include "common/application_folder.h"
 #include "common/disk.h"
+#include "common/one_line.h"
 #include "common/paths.h"
 #include "common/run_time_fault.h"
 #include "common/shown_line.h"
@@ -73,10 +74,7 @@ public:
 
     Answer show(const Message& message) override {
         if (quiet_) return Answer::Ok;
-        std::string line = "message: " + message.text;
-        for (std::size_t at = line.find("\r\n"); at != std::string::npos; at = line.find("\r\n"))
-            line.replace(at, 2, " ");
-        error_.line(line);
+        error_.line("message: " + oneLine(message.text));
         return Answer::Ok;
     }
 

@@ -49,8 +49,12 @@ Fault faultOf(int error, const fs::path& path) {
 }
 
 void raiseError(int error, const fs::path& path) {
+    raiseError(error, path, textOf(path));
+}
+
+void raiseError(int error, const fs::path& path, const std::string& name) {
     const Fault fault = faultOf(error, path);
-    raise(fault, std::string(faultSentence(fault)) + " (" + textOf(path) + ")");
+    raise(fault, std::string(faultSentence(fault)) + " (" + name + ")");
 }
 
 }  // namespace kelvo

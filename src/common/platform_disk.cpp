@@ -8,6 +8,7 @@
 #include "common/disk.h"
 #include "common/file_calls.h"
 #include "common/file_faults.h"
+#include "common/file_links.h"
 #include "common/file_replacement.h"
 #include "common/folder_turn.h"
 #include "common/letter_case.h"
@@ -73,18 +74,6 @@ private:
     OpenSystemFile file_;
 };
 
-// Where a link leads in the end, also if nothing is there yet.
-fs::path behindLinks(fs::path path) {
-    constexpr int kMostLinks = 40;
-    std::error_code error;
-    for (int i = 0; i < kMostLinks && fs::is_symlink(fs::symlink_status(path, error)); ++i) {
-        const fs::path next = fs::read_symlink(path, error);
-        if (error) break;
-        path = next.is_absolute() ? next : path.parent_path() / next;
-    }
-    return path;
-}
-
 // The system would take such a name for what stands in front of the NUL.
 fs::path checkedPath(const std::string& path) {
     if (path.find('\0') != std::string::npos) raise(Fault::FileNotFound);
@@ -131,7 +120,7 @@ std::unique_ptr<ByteReader> PlatformDisk::openForReading(const std::string& path
 }
 
 std::unique_ptr<ByteWriter> PlatformDisk::openForWriting(const std::string& path) {
-    return writeAnew(std::make_unique<SystemFileCalls>(pipes_), behindLinks(checkedPath(path)));
+    return writeAnew(std::make_unique<SystemFileCalls>(pipes_), endOfLinks(checkedPath(path)));
 }
 
 std::unique_ptr<ByteWriter> PlatformDisk::openForAppending(const std::string& path) {
@@ -140,7 +129,7 @@ std::unique_ptr<ByteWriter> PlatformDisk::openForAppending(const std::string& pa
 
 void PlatformDisk::replace(const std::string& path, std::string_view bytes) {
     SystemFileCalls calls(pipes_);
-    replaceFile(calls, behindLinks(checkedPath(path)), bytes);
+    replaceFile(calls, endOfLinks(checkedPath(path)), bytes);
 }
 
 void PlatformDisk::rename(const std::string& from, const std::string& to) {
@@ -156,7 +145,7 @@ bool PlatformDisk::sameFile(const std::string& one, const std::string& other) {
 
 std::string PlatformDisk::placeOf(const std::string& path) {
     const SystemFileCalls calls;
-    const fs::path file = behindLinks(pathOf(path));
+    const fs::path file = endOfLinks(pathOf(path));
     if (auto identity = calls.identityOf(file)) return *identity;
     const fs::path folder = file.has_parent_path() ? file.parent_path() : fs::path(".");
     const std::string name = textOf(file.filename());

@@ -51,6 +51,23 @@ std::size_t asciiLength(std::string_view text) {
     return i;
 }
 
+std::string_view withoutMark(std::string_view text) {
+    if (text.starts_with(kUtf8Mark)) text.remove_prefix(kUtf8Mark.size());
+    return text;
+}
+
+bool isWellFormedUtf8(std::string_view bytes) {
+    while (!bytes.empty()) {
+        bytes.remove_prefix(asciiLength(bytes));
+        if (bytes.empty()) break;
+        // U+FFFD itself takes three bytes.
+        const Utf8Character character = firstCharacter(bytes);
+        if (character.code == kNoCharacter && character.length == 1) return false;
+        bytes.remove_prefix(character.length);
+    }
+    return true;
+}
+
 void appendUtf8(char32_t code, std::string& text) {
     const auto put = [&text](char32_t byte) { text.push_back(static_cast<char>(byte)); };
     if (code < 0x80) {

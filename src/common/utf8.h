@@ -19,6 +19,15 @@ struct Utf8Character {
 // How many bytes at the front are ASCII, which is one byte a letter in every encoding here.
 [[nodiscard]] std::size_t asciiLength(std::string_view text);
 
+// The bytes that some editors put in front of a text in UTF-8.
+inline constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
+
+// UTF-8 without the mark in front.
+[[nodiscard]] std::string_view withoutMark(std::string_view text);
+
+// Whether every byte belongs to a character.
+[[nodiscard]] bool isWellFormedUtf8(std::string_view bytes);
+
 void appendUtf8(char32_t code, std::string& text);
 
 // The number of characters.

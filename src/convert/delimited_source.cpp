@@ -5,10 +5,10 @@
 #include <utility>
 
 #include "common/run_time_fault.h"
+#include "common/utf8.h"
 #include "convert/coordinate_text.h"
 #include "convert/delimited_fields.h"
 #include "convert/refusal.h"
-#include "library/text_bytes.h"
 
 namespace kelvo {
 

@@ -6,20 +6,12 @@
 #include "common/fixed_width.h"
 #include "common/number_text.h"
 #include "convert/refusal.h"
+#include "convert/vector_refusal.h"
 #include "exchange/load_point_files.h"
 
 namespace kelvo {
 
 namespace {
-
-template <class Work>
-auto orRefusal(const Work& work) {
-    try {
-        return work();
-    } catch (const ExchangeFault& fault) {
-        throw Refusal(fault.what());
-    }
-}
 
 // As cells print them; an origin is printed with as many as it has.
 constexpr int kDecimalsOfAngle = 10;

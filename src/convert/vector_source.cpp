@@ -6,20 +6,12 @@
 #include <vector>
 
 #include "convert/refusal.h"
+#include "convert/vector_refusal.h"
 #include "exchange/load_point_files.h"
 
 namespace kelvo {
 
 namespace {
-
-template <class Work>
-auto orRefusal(const Work& work) {
-    try {
-        return work();
-    } catch (const ExchangeFault& fault) {
-        throw Refusal(fault.what());
-    }
-}
 
 // The axes of ellipsoids that are in use differ by more than this, in metres; those of WGS84 and
 // GRS80 are the same.

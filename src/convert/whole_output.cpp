@@ -13,7 +13,8 @@
 #include <system_error>
 #include <utility>
 
-#include "common/run_time_fault.h"
+#include "common/file_faults.h"
+#include "common/file_links.h"
 
 namespace kelvo {
 
@@ -21,37 +22,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kMostLinks = 40;
 constexpr mode_t kPermissionsOfNewFile = 0666;  // less what the user masks
 constexpr mode_t kPermissionBits = 07777;
-
-Fault faultOfError(int error) {
-    switch (error) {
-        case ENOSPC:
-        case EFBIG:
-        case EDQUOT:
-            return Fault::DiskFull;
-        case EACCES:
-        case EPERM:
-        case EROFS:
-            return Fault::PermissionDenied;
-        case ENOENT:
-        case ENOTDIR:
-        case ENAMETOOLONG:
-            return Fault::PathNotFound;
-        case EIO:
-        case ENXIO:
-        case ENODEV:
-            return Fault::DiskNotReady;
-        default:
-            return Fault::PathFileAccess;
-    }
-}
-
-[[noreturn]] void raiseError(int error, const std::string& name) {
-    const Fault fault = faultOfError(error);
-    raise(fault, std::string(faultSentence(fault)) + " (" + name + ")");
-}
 
 // An open file that is closed in the end.
 class Descriptor {
@@ -86,18 +58,6 @@ int writeAll(int descriptor, std::string_view bytes) {
     return 0;
 }
 
-// Where a link leads in the end, also if nothing is there yet.
-std::string endOfLinks(const std::string& path) {
-    fs::path at(path);
-    std::error_code error;
-    for (int i = 0; i < kMostLinks && fs::is_symlink(fs::symlink_status(at, error)); ++i) {
-        const fs::path next = fs::read_symlink(at, error);
-        if (error) break;
-        at = next.is_absolute() ? next : at.parent_path() / next;
-    }
-    return at.string();
-}
-
 std::string folderOf(const std::string& path) {
     const std::string folder = fs::path(path).parent_path().string();
     return folder.empty() ? "." : folder;
@@ -121,7 +81,8 @@ public:
         if (::fchown(file_.number(), old.st_uid, old.st_gid) != 0 &&
             ::fchown(file_.number(), static_cast<uid_t>(-1), old.st_gid) != 0)
             errno = 0;
-        if (::fchmod(file_.number(), old.st_mode & kPermissionBits) != 0) raiseError(errno, path_);
+        if (::fchmod(file_.number(), old.st_mode & kPermissionBits) != 0)
+            raiseError(errno, target_, path_);
     }
     ~WholeFile() override { forget(); }
     WholeFile(const WholeFile&) = delete;
@@ -145,7 +106,7 @@ public:
 private:
     [[noreturn]] void fail(int error) {
         forget();
-        raiseError(error, path_);
+        raiseError(error, target_, path_);
     }
 
     void forget() {
@@ -163,7 +124,7 @@ private:
         std::string name = freshName(folder);
         Descriptor named(
             ::open(name.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, kPermissionsOfNewFile));
-        if (!named.isOpen()) raiseError(errno, path_);
+        if (!named.isOpen()) raiseError(errno, target_, path_);
         name_ = std::move(name);
         return named;
     }
@@ -231,12 +192,12 @@ Descriptor duplicate(int descriptor, const std::string& name) {
 }  // namespace
 
 std::unique_ptr<ByteWriter> wholeFile(const std::string& path) {
-    const std::string target = endOfLinks(path);
+    const std::string target = endOfLinks(path).string();
     struct stat old {};
     if (::stat(target.c_str(), &old) == 0) {
-        if (S_ISDIR(old.st_mode)) raiseError(EISDIR, path);
+        if (S_ISDIR(old.st_mode)) raiseError(EISDIR, target, path);
         Descriptor there(::open(target.c_str(), O_WRONLY | O_CLOEXEC));
-        if (!there.isOpen()) raiseError(errno, path);
+        if (!there.isOpen()) raiseError(errno, target, path);
         if (!S_ISREG(old.st_mode)) return std::make_unique<InPlace>(std::move(there), path);
     }
     return std::make_unique<WholeFile>(path, target);

@@ -9,10 +9,10 @@
 #include <string>
 #include <string_view>
 
+#include "common/utf8.h"
 #include "kelvo/kelvo.h"
 #include "library/bad_definition.h"
 #include "library/definition_text.h"
-#include "library/text_bytes.h"
 
 struct kelvo_converter {
     kelvo::PointConverter converter;

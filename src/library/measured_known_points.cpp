@@ -6,9 +6,9 @@
 #include "batch/corr_file.h"
 #include "batch/run_header.h"
 #include "common/code_page.h"
+#include "common/one_line.h"
 #include "common/run_time_fault.h"
 #include "library/bad_definition.h"
-#include "library/one_line.h"
 
 namespace kelvo {
 

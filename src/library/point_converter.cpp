@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "batch/wording.h"
-#include "library/one_line.h"
+#include "common/one_line.h"
 #include "library/table_cells.h"
 
 namespace kelvo {

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "batch/wording.h"
-#include "library/one_line.h"
+#include "common/one_line.h"
 #include "library/point_converter.h"
 
 namespace kelvo {

@@ -10,7 +10,4 @@ namespace kelvo {
 // in the Korean code page. A mark in front is dropped.
 [[nodiscard]] std::string textOfBytes(std::string_view bytes);
 
-// UTF-8 without the mark in front.
-[[nodiscard]] std::string_view withoutMark(std::string_view text);
-
 }  // namespace kelvo

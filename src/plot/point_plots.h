@@ -35,7 +35,6 @@ struct PlotSource {
     PlotCfg& cfg;
     ScalePanel& panel;
     const PlotTexts& texts;
-    MessageBoxes& messages;
 };
 
 // Binds the plot object to the surface (on the printer 15 mm from the left, 40 mm from the top,

@@ -42,8 +42,7 @@ void PointPictures::draw(std::unique_ptr<clsplot1>& object, SurfaceKind kind, Su
     PlotSource source{.points = state_.conversion.points,
                       .cfg = state_.plotCfg,
                       .panel = settings_,
-                      .texts = texts,
-                      .messages = services_.messages};
+                      .texts = texts};
     plot(*object, kind, surface, source);
 }
 

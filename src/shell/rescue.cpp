@@ -6,12 +6,12 @@
 #include "common/code_page.h"
 #include "common/paths.h"
 #include "common/run_time_fault.h"
+#include "common/utf8.h"
 
 namespace kelvo {
 
 namespace {
 
-constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 constexpr int kMostOfOneSecond = 100;
 
 std::string bytesOf(const std::string& text) {

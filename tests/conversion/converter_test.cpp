@@ -6,24 +6,15 @@
 #include <random>
 #include <vector>
 
+#include "support/usual_definition.h"
+
 namespace kelvo {
 namespace {
 
-// The parameters of a run as it begins.
-Definition usual() {
-    Definition definition;
-    definition.local.user = kBesselOfParameters;
-    KelvoSub::SetDatumPara(definition.local.datum, kRecommendedShift, ShiftKind::Molodensky);
-    definition.tm = originOf(TmZone::Centre);
-    definition.Zone = TmZone::Centre;
-    definition.shiftsOrigin = true;
-    definition.utm = {kBesselOfParameters, originOf(UtmZone::East)};
-    definition.UZone = UtmZone::East;
-    return definition;
-}
+using testing::usualDefinition;
 
 Definition corrected(std::vector<CorrPoint> known) {
-    Definition definition = usual();
+    Definition definition = usualDefinition();
     definition.corrects = true;
     definition.known = std::make_shared<const std::vector<CorrPoint>>(std::move(known));
     return definition;
@@ -100,7 +91,7 @@ TEST(Converter, APointHasTheSameNumbersInWhateverCompany) {
 }
 
 TEST(Converter, TheFourSystemsLeadToOnePlace) {
-    const Definition definition = usual();
+    const Definition definition = usualDefinition();
     for (const GivenPoint& given : randomPlaces(40)) {
         const ConvertedPoint wgs = convertOne(definition, System::Wgs, given);
         const ConvertedPoint user =
@@ -125,7 +116,7 @@ TEST(Converter, TheFourSystemsLeadToOnePlace) {
 }
 
 TEST(Converter, EachPointChoosesItsOriginsAndSaysWhich) {
-    const Definition definition = usual();
+    const Definition definition = usualDefinition();
     const Conversion result =
         convert(definition, System::User,
                 {{37, 125.9, 0}, {37, 126, 0}, {37, 128, 0}, {37, 128.1, 0}, {37, 130.1, 0}});
@@ -140,7 +131,7 @@ TEST(Converter, EachPointChoosesItsOriginsAndSaysWhich) {
 }
 
 TEST(Converter, AGridIsReadOnTheOriginOfTheDefinition) {
-    Definition definition = usual();
+    Definition definition = usualDefinition();
     definition.tm.Lam0 = 129;
     const ConvertedPoint p = convertOne(definition, System::Tm, {450000, 200000, 10});
     EXPECT_EQ(p.Lam0, 129);
@@ -155,7 +146,7 @@ TEST(Converter, AGridIsReadOnTheOriginOfTheDefinition) {
 }
 
 TEST(Converter, AUserZoneOfTheTmGridStaysAndOneOfTheUtmGridIsOverridden) {
-    Definition definition = usual();
+    Definition definition = usualDefinition();
     definition.Zone = TmZone::User;
     definition.tm.Lam0 = 126.5;
     definition.UZone = UtmZone::User;
@@ -166,7 +157,7 @@ TEST(Converter, AUserZoneOfTheTmGridStaysAndOneOfTheUtmGridIsOverridden) {
 }
 
 TEST(Converter, AUtmPointLeavesTheHeightOfTheTmTableUnwritten) {
-    const Conversion result = convert(usual(), System::Utm, {{4100000, 400000, 12.5}});
+    const Conversion result = convert(usualDefinition(), System::Utm, {{4100000, 400000, 12.5}});
     EXPECT_EQ(result.points[0].TmH, 0);
     EXPECT_EQ(result.points[0].UtmH, 12.5);
     EXPECT_EQ(result.points[0].UserH, 12.5);
@@ -179,7 +170,7 @@ TEST(Converter, GivenCoordinatesStayAsTheyAreOnTheWayBackward) {
     EXPECT_EQ(p.UserPhi, 37.1);
     EXPECT_EQ(p.UserLam, 127.1);
     EXPECT_EQ(p.UserH, 50);
-    Definition plain = usual();
+    Definition plain = usualDefinition();
     const ConvertedPoint without = convertOne(plain, System::User, {37.1, 127.1, 50});
     EXPECT_NEAR(p.WgsPhi, without.WgsPhi - 1.0 / 3600 - 1e-5, 1e-13);
     EXPECT_NEAR(p.WgsLam, without.WgsLam + 2.0 / 3600 + 2e-5, 1e-13);
@@ -190,7 +181,7 @@ TEST(Converter, ForwardAdjustmentAndCorrectionAreAddedToTheUserCoordinates) {
     Definition definition = corrected({knownPoint(37, 127, 1e-5, -2e-5, 0.3)});
     definition.local.adjustment = {.dPhi = 1, .dLam = -2, .dH = 3};
     const ConvertedPoint p = convertOne(definition, System::Wgs, {37.1, 127.1, 50});
-    const ConvertedPoint without = convertOne(usual(), System::Wgs, {37.1, 127.1, 50});
+    const ConvertedPoint without = convertOne(usualDefinition(), System::Wgs, {37.1, 127.1, 50});
     EXPECT_NEAR(p.UserPhi, without.UserPhi + 1.0 / 3600 + 1e-5, 1e-13);
     EXPECT_NEAR(p.UserLam, without.UserLam - 2.0 / 3600 - 2e-5, 1e-13);
     EXPECT_NEAR(p.UserH, without.UserH + 3 + 0.3, 1e-9);
@@ -200,9 +191,9 @@ TEST(Converter, ForwardAdjustmentAndCorrectionAreAddedToTheUserCoordinates) {
 }
 
 TEST(Converter, TheTenSecondsMoveTheTmOriginOnly) {
-    Definition without = usual();
+    Definition without = usualDefinition();
     without.shiftsOrigin = false;
-    const ConvertedPoint with = convertOne(usual(), System::Wgs, {37, 127.5, 0});
+    const ConvertedPoint with = convertOne(usualDefinition(), System::Wgs, {37, 127.5, 0});
     const ConvertedPoint plain = convertOne(without, System::Wgs, {37, 127.5, 0});
     EXPECT_NEAR(plain.TmY - with.TmY, 10.405 * 24.7, 0.5);
     EXPECT_EQ(plain.UtmX, with.UtmX);
@@ -213,7 +204,7 @@ TEST(Converter, TheTenSecondsMoveTheTmOriginOnly) {
 // What is wrong with a point, and what isn't with its neighbours.
 
 TEST(Converter, APointWithoutResultsLeavesItsNeighboursAlone) {
-    const Definition definition = usual();
+    const Definition definition = usualDefinition();
     const GivenPoint good{37.3, 127, 40};
     const Conversion result =
         convert(definition, System::User, {good, {60, 127, 0}, good, {1e300, 1e300, 1}, good});
@@ -231,7 +222,7 @@ TEST(Converter, APointWithoutResultsLeavesItsNeighboursAlone) {
 
 TEST(Converter, AnAngleThatItsSplitDoesNotRebuildIsRemarkedAndConverted) {
     const Conversion result =
-        convert(usual(), System::User, {{37.2959999991, 127.0, 5}}, AngleForm::Dms);
+        convert(usualDefinition(), System::User, {{37.2959999991, 127.0, 5}}, AngleForm::Dms);
     const PointOutcome& outcome = result.outcomes.at(0);
     ASSERT_EQ(outcome.beforeDetail.size(), 1U);
     EXPECT_EQ(outcome.beforeDetail[0].kind, Remark::Kind::DoubtfulAngle);
@@ -241,7 +232,7 @@ TEST(Converter, AnAngleThatItsSplitDoesNotRebuildIsRemarkedAndConverted) {
 }
 
 TEST(Converter, AnEllipsoidThatCannotBeComputedIsRemarkedForwardAndAFaultBackward) {
-    Definition definition = usual();
+    Definition definition = usualDefinition();
     definition.local.user = {.a = 0, .f = 299};
     const Conversion forward = convert(definition, System::Wgs, {{37, 127, 0}});
     ASSERT_TRUE(forward.outcomes.contains(0));
@@ -253,7 +244,7 @@ TEST(Converter, AnEllipsoidThatCannotBeComputedIsRemarkedForwardAndAFaultBackwar
 }
 
 TEST(Converter, WithoutAUsableKnownPointThereIsNoCorrection) {
-    Definition definition = usual();
+    Definition definition = usualDefinition();
     definition.corrects = true;
     const Conversion none = convert(definition, System::Wgs, {{37, 127, 0}});
     ASSERT_TRUE(none.outcomes.at(0).uncorrected);
@@ -278,7 +269,7 @@ TEST(Converter, AFaultAfterTheCorrectionIsToldApartFromOneBeforeIt) {
 }
 
 TEST(Converter, OutcomesAreClearedByTheNextConversion) {
-    const Converter converter(usual());
+    const Converter converter(usualDefinition());
     std::vector<ConvertedPoint> points(1);
     Outcomes outcomes;
     converter.convert(System::Wgs, AngleForm::Degrees, std::vector<GivenPoint>{{60, 127, 0}},
@@ -290,7 +281,7 @@ TEST(Converter, OutcomesAreClearedByTheNextConversion) {
 }
 
 TEST(WgsUtm, TakesTheOriginByTheWgsLongitudeAndTheHeightOfTheTmTable) {
-    const Converter converter(usual());
+    const Converter converter(usualDefinition());
     std::vector<ConvertedPoint> points(2);
     Outcomes outcomes;
     // 125.999 on WGS84 is 126.001 on Bessel

@@ -5,17 +5,13 @@
 #include <vector>
 
 #include "conversion/converter.h"
+#include "support/usual_definition.h"
 
 namespace kelvo {
 namespace {
 
 TEST(Converter, IsSharedByThreadsThatGetTheSameNumbers) {
-    Definition definition;
-    definition.local.user = kBesselOfParameters;
-    KelvoSub::SetDatumPara(definition.local.datum, kRecommendedShift, ShiftKind::Bursa);
-    definition.tm = originOf(TmZone::Centre);
-    definition.Zone = TmZone::Centre;
-    definition.utm = {kBesselOfParameters, originOf(UtmZone::East)};
+    Definition definition = testing::usualDefinition(ShiftKind::Bursa);
     definition.corrects = true;
     std::vector<CorrPoint> known(20);
     for (std::size_t i = 0; i < known.size(); ++i) {

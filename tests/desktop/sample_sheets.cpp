@@ -73,8 +73,7 @@ void drawSamplePlot(SurfaceKind kind, Surface& surface, PointPlot plotKind, bool
     desk.cfg.XY = {.Xb = 454000, .Yb = 160000, .Span = 4000, .Inter = 1000};
     const PointTable points = samplePoints();
     const PlotTexts texts{.dataFile = "data/test.dat", .date = "2004-06-07", .time = "09:30:00"};
-    PlotSource source{
-        .points = points, .cfg = desk.cfg, .panel = desk, .texts = texts, .messages = desk};
+    PlotSource source{.points = points, .cfg = desk.cfg, .panel = desk, .texts = texts};
     clsplot1 object(desk, desk, surface);
     plot(object, kind, surface, source);
 }

@@ -13,6 +13,7 @@
 #include "conversion/converter.h"
 #include "exchange/coordinate_system.h"
 #include "exchange/load_point_files.h"
+#include "support/usual_definition.h"
 
 namespace kelvo::testing {
 
@@ -25,19 +26,6 @@ protected:
             GTEST_SKIP() << "built without GDAL (KELVO_EXCHANGE=OFF)";
     }
 };
-
-// The parameters of a run as it begins, with either kind of shift.
-inline Definition usualDefinition(ShiftKind kind = ShiftKind::Molodensky) {
-    Definition definition;
-    definition.local.user = kBesselOfParameters;
-    KelvoSub::SetDatumPara(definition.local.datum, kRecommendedShift, kind);
-    definition.tm = originOf(TmZone::Centre);
-    definition.Zone = TmZone::Centre;
-    definition.shiftsOrigin = true;
-    definition.utm = {kBesselOfParameters, originOf(UtmZone::East)};
-    definition.UZone = UtmZone::East;
-    return definition;
-}
 
 inline ConvertedPoint convertedFromWgs(const Definition& definition, const GivenPoint& given) {
     std::vector<ConvertedPoint> points(1);

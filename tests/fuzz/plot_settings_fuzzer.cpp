@@ -67,8 +67,7 @@ struct SettingsAlone {
         PlotSource source{.points = state.conversion.points,
                           .cfg = state.plotCfg,
                           .panel = panel,
-                          .texts = texts,
-                          .messages = messages};
+                          .texts = texts};
         try {
             plot(object, SurfaceKind::Screen, screen, source);
             panel.SavePcfgFile();

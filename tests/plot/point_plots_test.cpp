@@ -55,7 +55,7 @@ protected:
     // Draws and gives the calls, those of the panel taken out of them.
     Lines draw(SurfaceKind kind = SurfaceKind::Screen) {
         PanelDouble panel(cfg, recorded);
-        PlotSource source{points, cfg, panel, texts, messages};
+        PlotSource source{points, cfg, panel, texts};
         kelvo::plot(object, kind, kind == SurfaceKind::Screen ? screen : printer, source);
         boxes = panel.boxes;
         Lines calls = drawn();
@@ -246,7 +246,7 @@ TEST_F(PointPlots, ManualScaleAfterAnAutomaticPlotDrawsTheSamePicture) {
 TEST_F(PointPlots, BindingComesFirstThenTheScaleThenTheDrawing) {
     addPoint("A", 453211.376, 198765.432);
     PanelDouble panel(cfg, recorded);
-    PlotSource source{points, cfg, panel, texts, messages};
+    PlotSource source{points, cfg, panel, texts};
     kelvo::plot(object, SurfaceKind::Screen, screen, source);
     const auto lines = drawn();
     ASSERT_GT(lines.size(), 5U);

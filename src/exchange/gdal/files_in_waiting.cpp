@@ -9,6 +9,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include "common/file_links.h"
 #include "exchange/point_files.h"
 
 namespace kelvo {
@@ -19,17 +20,6 @@ namespace {
 
 [[noreturn]] void fail(int error, const std::string& path) {
     throw ExchangeFault(sentenceOf(error, path));
-}
-
-fs::path behindLinks(fs::path path) {
-    constexpr int kMostLinks = 40;
-    std::error_code error;
-    for (int i = 0; i < kMostLinks && fs::is_symlink(fs::symlink_status(path, error)); ++i) {
-        const fs::path next = fs::read_symlink(path, error);
-        if (error) break;
-        path = next.is_absolute() ? next : path.parent_path() / next;
-    }
-    return path;
 }
 
 void settle(const fs::path& file, const std::string& given) {
@@ -62,7 +52,7 @@ std::string sentenceOf(int error, const std::string& path) {
 }
 
 FilesInWaiting::FilesInWaiting(const std::string& target)
-    : given_(target), target_(behindLinks(target)) {
+    : given_(target), target_(endOfLinks(target)) {
     std::error_code ignored;
     const fs::file_status status = fs::status(target_, ignored);
     if (fs::exists(status) && !fs::is_regular_file(status))

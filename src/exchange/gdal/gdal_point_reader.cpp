@@ -31,20 +31,11 @@ int nameFieldOf(const OGRFeatureDefn& fields) {
     return -1;
 }
 
-bool isUtf8(std::string_view text) {
-    while (!text.empty()) {
-        const Utf8Character letter = firstCharacter(text);
-        if (letter.code == 0xFFFD && letter.length == 1) return false;
-        text.remove_prefix(letter.length);
-    }
-    return true;
-}
-
 // The table of a Shapefile without a word on its letters has UTF-8 or the Korean code page.
 std::string nameOf(const OGRFeature& feature, int field) {
     if (field < 0 || !feature.IsFieldSetAndNotNull(field)) return {};
     std::string name = feature.GetFieldAsString(field);
-    return isUtf8(name) ? name : decodeCodePage(name);
+    return isWellFormedUtf8(name) ? name : decodeCodePage(name);
 }
 
 SystemOfFile systemOf(const OGRSpatialReference* reference) {

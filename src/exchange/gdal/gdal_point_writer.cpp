@@ -13,6 +13,7 @@
 #include "common/number_text.h"
 #include "common/utf8.h"
 #include "exchange/gdal/checked_files.h"
+#include "exchange/gdal/driver_of.h"
 #include "exchange/gdal/files_in_waiting.h"
 #include "exchange/gdal/gdal_errors.h"
 
@@ -25,29 +26,6 @@ constexpr std::uint64_t kPointsOfTransaction = 100000;
 // A drawing's texts, 2 m high; on a map in degrees the same on the ground.
 constexpr double kLabelMetres = 2;
 constexpr double kLabelDegrees = 0.00002;
-
-std::string_view driverOf(VectorFormat format) {
-    switch (format) {
-        case VectorFormat::GeoPackage:
-            return "GPKG";
-        case VectorFormat::GeoJson:
-            return "GeoJSON";
-        case VectorFormat::Shapefile:
-            return "ESRI Shapefile";
-        case VectorFormat::Kml:
-            // Not LIBKML, whose time grows far faster than the points.
-            return "KML";
-        case VectorFormat::Gpx:
-            return "GPX";
-        case VectorFormat::Dxf:
-            return "DXF";
-        case VectorFormat::Xlsx:
-            return "XLSX";
-        case VectorFormat::Ods:
-            return "ODS";
-    }
-    return {};
-}
 
 std::string_view layerNameOf(VectorFormat format, const std::string& stem) {
     switch (format) {
@@ -94,16 +72,6 @@ bool holdsControlLetter(std::string_view text) {
         if (static_cast<unsigned char>(letter) < 0x20 || letter == 0x7F) return true;
     }
     return false;
-}
-
-bool isWellFormed(std::string_view text) {
-    while (!text.empty()) {
-        const Utf8Character letter = firstCharacter(text);
-        // The replacement character itself takes three bytes.
-        if (letter.code == 0xFFFD && letter.length == 1) return false;
-        text.remove_prefix(letter.length);
-    }
-    return true;
 }
 
 std::string quotedForLabel(std::string_view name) {
@@ -165,8 +133,7 @@ public:
 
 private:
     void open() {
-        GDALDriver* const driver =
-            GetGDALDriverManager()->GetDriverByName(std::string(driverOf(asked_.format)).c_str());
+        GDALDriver* const driver = GetGDALDriverManager()->GetDriverByName(driverOf(asked_.format));
         if (driver == nullptr)
             throw ExchangeFault("설치된 GDAL은 " + std::string(limits_.name) +
                                 " 파일을 쓰지 못합니다");
@@ -265,7 +232,7 @@ private:
                    (text.find_first_of("{}") != std::string_view::npos ||
                     text.find("%%") != std::string_view::npos)) {
             reason = "{, }, %%를 담을 수 없습니다";
-        } else if (!isWellFormed(text)) {
+        } else if (!isWellFormedUtf8(text)) {
             reason = "UTF-8이 아닌 글입니다";
         }
         if (!reason.empty())

@@ -9,6 +9,7 @@
 
 #include <cpl_string.h>
 
+#include "exchange/gdal/driver_of.h"
 #include "exchange/gdal/gdal_setting.h"
 #include "exchange/point_files.h"
 
@@ -17,28 +18,6 @@ namespace kelvo {
 namespace fs = std::filesystem;
 
 namespace {
-
-const char* driverOf(VectorFormat format) {
-    switch (format) {
-        case VectorFormat::GeoPackage:
-            return "GPKG";
-        case VectorFormat::GeoJson:
-            return "GeoJSON";
-        case VectorFormat::Shapefile:
-            return "ESRI Shapefile";
-        case VectorFormat::Kml:
-            return "KML";
-        case VectorFormat::Gpx:
-            return "GPX";
-        case VectorFormat::Dxf:
-            return "DXF";
-        case VectorFormat::Xlsx:
-            return "XLSX";
-        case VectorFormat::Ods:
-            return "ODS";
-    }
-    return nullptr;
-}
 
 // A drawing of 2007 or later is in UTF-8 whatever its header says of a code page.
 bool isUnicodeDrawing(const std::string& path) {
