@@ -141,7 +141,7 @@ void MainWindow::addBottomLine() {
     statusBar()->addPermanentWidget(status_, 1);
     text_ = new TextOnView(*program_, *book_, *status_, messages_);
     text_->setParent(this);
-    export_ = std::make_unique<PointExport>(*program_, *status_, messages_);
+    export_ = std::make_unique<PointExport>(*program_, *status_, disk_, messages_);
     import_ = std::make_unique<PointImport>(*program_, *book_, disk_, messages_);
     connect(filePanel_.exporting, &QPushButton::clicked, this, [this] { export_->ask(this); });
     connect(status_, &StatusBar::folderWanted, this, [this](const QString& folder) {

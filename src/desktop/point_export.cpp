@@ -4,6 +4,11 @@
 #include <QFileDialog>
 #include <QFileInfo>
 
+#include <array>
+
+#include "batch/run_batch.h"
+#include "batch/run_files.h"
+#include "common/run_time_fault.h"
 #include "desktop/native_paths.h"
 #include "desktop/widget_book.h"
 #include "exchange/load_point_files.h"
@@ -46,6 +51,11 @@ QString chosenPath(QWidget* parent, const QString& dataFile) {
     return QDir::toNativeSeparators(dialog.selectedFiles().value(0));
 }
 
+std::array<std::string, 4> filesOfRun(const ProgramState& state) {
+    const std::string& data = state.RecentFiles[1];
+    return {data, resultFileOf(data), state.inApplicationFolder("kelvo.det"), state.CorPath};
+}
+
 }  // namespace
 
 void PointExport::warn(const std::string& sentence) {
@@ -74,7 +84,11 @@ void PointExport::write(const QString& path) {
                     endings.join(QStringLiteral(", ")).toStdString());
     }
     try {
+        // An export is read by other programs; it never stands in place of the run's own files.
+        requireFilesOfTheirOwn(disk_, std::array{path.toStdString()}, filesOfRun(program_.state()));
         exportTables(program_.state().conversion.points, path.toStdString());
+    } catch (const RuntimeFault& fault) {
+        return warn("내보내지 못했습니다: " + fault.text());
     } catch (const ExchangeFault& fault) {
         return warn(std::string("내보내지 못했습니다: ") + fault.what());
     }

@@ -12,8 +12,8 @@ namespace kelvo::desktop {
 class PointExport {
 public:
     // All of them outlive it.
-    PointExport(frmKelvo& program, StatusBar& status, MessageBoxes& messages)
-        : program_(program), status_(status), messages_(messages) {}
+    PointExport(frmKelvo& program, StatusBar& status, Disk& disk, MessageBoxes& messages)
+        : program_(program), status_(status), disk_(disk), messages_(messages) {}
 
     // Asks for a file, whose ending chooses the format, and writes it; the bottom line says what
     // went where, with a button that opens the folder. What fails is said in a box.
@@ -25,6 +25,7 @@ private:
 
     frmKelvo& program_;
     StatusBar& status_;
+    Disk& disk_;
     MessageBoxes& messages_;
 };
 

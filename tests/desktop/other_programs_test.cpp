@@ -11,6 +11,7 @@
 #include <QTest>
 #include <QTextBlock>
 #include <QTimer>
+#include <filesystem>
 
 #include "desktop/import_dialog.h"
 #include "desktop/window_case.h"
@@ -108,6 +109,18 @@ private slots:
         window_->findChild<QAction*>("workExport")->trigger();
         QVERIFY(!QFile::exists(qtText(folder_->file("none/x.gpkg"))));
         QCOMPARE(sentence(), before);
+    }
+
+    void anExportIsRefusedWhereItsNameLeadsToAFileOfTheRun() {
+        if (!hasModule()) QSKIP("built without GDAL (KELVO_EXCHANGE=OFF)");
+        run();
+        const std::string path = folder_->file("data/link.gpx");
+        std::filesystem::create_symlink(window_->program().state().CorPath, path);
+        hands_->dialogResults.push_back(path);
+        window_->findChild<QPushButton*>("exportPoints")->click();
+        QVERIFY2(lastBox().contains(QStringLiteral("내보내지 못했습니다: 쓸 파일이 이미")),
+                 qPrintable(lastBox()));
+        QVERIFY(!std::filesystem::exists(path));
     }
 
     void aTableOnTheClipboardIsOneUndoAway() {
