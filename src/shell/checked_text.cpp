@@ -1,5 +1,7 @@
 #include "shell/checked_text.h"
 
+#include <algorithm>
+
 #include "batch/check_data_file.h"
 #include "common/run_time_fault.h"
 #include "common/text_file.h"
@@ -22,8 +24,15 @@ std::vector<RunMessage> findingsIn(std::string_view dataFile, const std::string&
                                    Disk& disk) {
     std::vector<RunMessage> found;
     for (const Finding& finding : checkDataFile(dataFile, readKnownPoints(CorPath, disk))) {
-        if (finding.in == Finding::In::DataFile) found.push_back({finding.line, finding.text});
+        if (finding.in == Finding::In::DataFile)
+            found.push_back({finding.line, finding.text});
+        else
+            found.push_back({finding.correctionLine,
+                             "kelvo.cor " + std::to_string(finding.line) + "행: " + finding.text});
     }
+    std::stable_sort(
+        found.begin(), found.end(),
+        [](const RunMessage& one, const RunMessage& other) { return one.line < other.line; });
     return found;
 }
 

@@ -10,8 +10,8 @@
 
 namespace kelvo {
 
-// By their lines, those in the data file only. The known points are read from CorPath; a file that
-// can't be read is as good as none.
+// By their lines; what is found in the known points stands at the line that switches the correction
+// on. The known points are read from CorPath; a file that can't be read is as good as none.
 [[nodiscard]] std::vector<RunMessage> findingsIn(std::string_view dataFile,
                                                  const std::string& CorPath, Disk& disk);
 
