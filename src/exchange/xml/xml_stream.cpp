@@ -36,7 +36,7 @@ struct XmlStream::Parser {
         if (!parser) throw std::bad_alloc();
         XML_SetUserData(parser.get(), this);
         XML_SetElementHandler(parser.get(), onBegin, onEnd);
-        XML_SetCharacterDataHandler(parser.get(), onText);
+        XML_SetCharacterDataHandler(parser.get(), onCharacters);
         XML_SetUnknownEncodingHandler(parser.get(), onLetters, this);
     }
 
@@ -92,7 +92,7 @@ struct XmlStream::Parser {
     static void onEnd(void* data, const char* /*name*/) {
         of(data).guard([&] { of(data).events.end(); });
     }
-    static void onText(void* data, const char* piece, int length) {
+    static void onCharacters(void* data, const char* piece, int length) {
         of(data).guard([&] { of(data).events.text({piece, static_cast<std::size_t>(length)}); });
     }
     static int onLetters(void* data, const char* name, XML_Encoding* encoding) {
