@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "common/disk.h"
+#include "common/file_calls.h"
 #include "support/faults.h"
 #include "support/temporary_folder.h"
 #include "support/unprivileged.h"
@@ -71,6 +72,20 @@ TEST_P(Saving, KeepsTheMode) {
         save(folder.file("a"), "new");
         EXPECT_EQ(statusOf(folder.file("a")).st_mode & 07777U, mode);
     }
+}
+
+TEST(NewFile, IsForItsUserAloneUnlessItMayBeOpen) {
+    const TemporaryFolder folder;
+    SystemFileCalls calls;
+    const mode_t usual = umask(022);
+    for (const bool open : {false, true}) {
+        const FileHandle file = calls.createNew(folder.file(open ? "open" : "private"), open);
+        ASSERT_GE(file, 0);
+        calls.close(file);
+    }
+    umask(usual);
+    EXPECT_EQ(statusOf(folder.file("private")).st_mode & 07777U, 0600U);
+    EXPECT_EQ(statusOf(folder.file("open")).st_mode & 07777U, 0644U);
 }
 
 TEST_P(Saving, KeepsHardLinks) {

@@ -110,6 +110,35 @@ TEST_F(TwoWindows, TheSameChangeInBothIsNoDispute) {
     EXPECT_FALSE(disk.has("/app/kelvo.cfg.old"));
 }
 
+// Or what the other one saves between this one's look and its save would be lost.
+TEST_F(TwoWindows, WhatTheOtherHasSavedIsReadAndReplacedInOneTurn) {
+    startBoth();
+    one->type("txtdX", "1");
+    close(*one);
+    other().type("txtdPhi", "2");
+    int looks = 0;
+    int saves = 0;
+    disk.before = [&](const std::string& operation, const std::string& path) {
+        if (path != "/app/kelvo.cfg" && path != "/app/plot.cfg") return;
+        if (operation == "openForReading") ++looks;
+        if (operation == "replace") ++saves;
+        EXPECT_TRUE(disk.inTurn.contains("/app")) << operation << " " << path;
+    };
+    close(other());
+    EXPECT_GE(looks, 3) << "both files to compare them, and one to merge it";
+    EXPECT_EQ(saves, 2);
+    EXPECT_TRUE(disk.inTurn.empty());
+}
+
+TEST_F(TwoWindows, ATurnThatIsNotHadInTimeDoesNotKeepTheSettingsFromBeingSaved) {
+    startBoth();
+    one->type("txtdX", "1");
+    const auto turn = disk.takeTurn("/app");
+    ASSERT_NE(turn, nullptr);
+    close(*one);
+    EXPECT_EQ(next().cfg().dX, 1);
+}
+
 TEST_F(TwoWindows, WhatTheOtherSavedStaysThroughFurtherSaves) {
     startBoth();
     one->type("txtdX", "1");
@@ -133,6 +162,22 @@ TEST_F(TwoWindows, TheListsOfFilesAreJoined) {
     const std::string list = disk.text("/app/kelvo.cfg").substr(kUsualCfg.size());
     EXPECT_EQ(list,
               "/app/data/mine.dat\r\n/app/data/new.dat\r\n/app/data/a.dat\r\n/app/data/b.dat\r\n");
+}
+
+TEST_F(TwoWindows, AFullListOfTheOtherIsReadToItsFifthFile) {
+    startBoth();
+    for (const char* name : {"c", "d", "e"}) {
+        const std::string path = std::string("/app/data/") + name + ".dat";
+        disk.putText(path, "*\r\n");
+        one->queueDialog(path);
+        one->file(2);
+    }
+    // The second window changes a parameter only.
+    other().click("OptCorr");
+    close(other());
+    const std::string list = disk.text("/app/kelvo.cfg");
+    for (const char* name : {"a", "b", "c", "d", "e"})
+        EXPECT_NE(list.find(std::string("/app/data/") + name + ".dat"), std::string::npos) << name;
 }
 
 TEST_F(TwoWindows, AWindowAloneWritesWhatItHas) {

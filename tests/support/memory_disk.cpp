@@ -44,7 +44,25 @@ private:
     std::string path_;
 };
 
+class MemoryTurn final : public Turn {
+public:
+    MemoryTurn(MemoryDisk& disk, std::string folder) : disk_(disk), folder_(std::move(folder)) {}
+    ~MemoryTurn() override { disk_.inTurn.erase(folder_); }
+    MemoryTurn(const MemoryTurn&) = delete;
+    MemoryTurn& operator=(const MemoryTurn&) = delete;
+
+private:
+    MemoryDisk& disk_;
+    std::string folder_;
+};
+
 MemoryDisk::MemoryDisk() : folders{"/"} {}
+
+// Nobody waits: whoever has its turn would have to end it in the same thread.
+std::unique_ptr<Turn> MemoryDisk::takeTurn(const std::string& folder) {
+    if (!inTurn.insert(folder).second) return nullptr;
+    return std::make_unique<MemoryTurn>(*this, folder);
+}
 
 void MemoryDisk::check(const std::string& operation, const std::string& path) const {
     if (before) before(operation, path);

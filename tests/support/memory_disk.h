@@ -23,7 +23,7 @@ public:
     bool sameFile(const std::string& one, const std::string& other) override;
     std::string placeOf(const std::string& path) override { return full(path); }
     void tidy(const std::string&) override {}
-    std::unique_ptr<Turn> takeTurn(const std::string&) override { return std::make_unique<Turn>(); }
+    std::unique_ptr<Turn> takeTurn(const std::string& folder) override;
     std::string currentFolder() override { return current_; }
     void setCurrentFolder(const std::string& path) override;
 
@@ -42,6 +42,7 @@ public:
 
     std::map<std::string, std::string> files;
     std::set<std::string> folders;
+    std::set<std::string> inTurn;  // folders at which somebody has its turn now
 
 private:
     void check(const std::string& operation, const std::string& path) const;

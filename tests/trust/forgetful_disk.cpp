@@ -76,8 +76,9 @@ ForgetfulDisk ForgetfulDisk::holding(const Found& files,
     return disk;
 }
 
-FileHandle ForgetfulDisk::createNew(const fs::path& path, bool /*open*/) {
+FileHandle ForgetfulDisk::createNew(const fs::path& path, bool open) {
     if (powerIsGone()) return -EIO;
+    if (open) ++madeOpen;
     if (!closedFolder.empty() && path.parent_path() == closedFolder) return -EACCES;
     Names names = names_.back();
     if (names.count(path.string()) != 0) return -EEXIST;

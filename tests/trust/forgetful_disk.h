@@ -25,6 +25,7 @@ public:
     // and changes nothing. 0: it stays.
     int cutAt = 0;
     int calls = 0;
+    int madeOpen = 0;  // new files that others may look into before they hold a byte
 
     // What may be found after the power is back: every file by its name.
     using Found = std::map<std::string, std::string>;

@@ -59,9 +59,10 @@ void startAgain(ForgetfulDisk& disk) {
 struct Result {
     int cuts = 0;
     int finds = 0;
-    int lost = 0;    // neither the old text nor the new one
-    int undone = 0;  // the save had returned, and its text isn't there
-    int left = 0;    // something of the save is still beside the file
+    int lost = 0;        // neither the old text nor the new one
+    int undone = 0;      // the save had returned, and its text isn't there
+    int left = 0;        // something of the save is still beside the file
+    bool works = false;  // with steady power the new text stands
 };
 
 // Whether the file holds what it may; `done` if the save had come to its end.
@@ -98,7 +99,9 @@ Result cutEverywhere(const Case& one, bool forgetsToSettle) {
         const bool wasCut = disk.calls >= at;
         result.cuts += wasCut ? 1 : 0;
         judge(one, disk, returned && !wasCut, result);
-        if (!wasCut) return result;
+        if (wasCut) continue;
+        result.works = returned && disk.now().at(kFile) == kNew;
+        return result;
     }
 }
 
@@ -107,6 +110,7 @@ class PowerCut : public ::testing::TestWithParam<Case> {};
 TEST_P(PowerCut, LeavesTheOldTextOrTheNewOne) {
     const Result result = cutEverywhere(GetParam(), false);
     EXPECT_GE(result.cuts, 3);
+    EXPECT_TRUE(result.works);
     EXPECT_EQ(result.lost, 0) << "of " << result.finds;
     EXPECT_EQ(result.undone, 0) << "a save that returned was undone";
     EXPECT_EQ(result.left, 0) << "something stayed beside the file";
@@ -117,6 +121,15 @@ TEST_P(PowerCut, LeavesTheOldTextOrTheNewOne) {
 TEST_P(PowerCut, WouldFindASaveThatSettlesNothing) {
     const Result result = cutEverywhere(GetParam(), true);
     EXPECT_GT(result.lost + result.undone, 0);
+}
+
+// What is made beside a text that was private is private from its first moment.
+TEST_P(PowerCut, MakesOnlyANewFileSoThatOthersMayLookIntoIt) {
+    ForgetfulDisk disk;
+    if (GetParam().isThere) disk.put(kFile, kOld);
+    GetParam().prepare(disk);
+    replaceFile(disk, kFile, kNew);
+    EXPECT_EQ(disk.madeOpen, GetParam().isThere ? 0 : 1);
 }
 
 INSTANTIATE_TEST_SUITE_P(Files, PowerCut, ::testing::ValuesIn(kCases),
