@@ -188,6 +188,32 @@ TEST_P(PointFile, ThatIsCutIsRefusedWithItsName) {
     EXPECT_NE(fault.find(path()), std::string::npos) << fault;
 }
 
+// Letters beyond the first 65,536, letters that XML forbids, what looks like a code of a drawing.
+TEST_P(PointFile, KeepsAnUnusualLetterOfANameOrRefusesIt) {
+    for (const std::string name : {"\U0001F600", "a\xEF\xBF\xBF", "a\xEF\xBF\xBE", "\\U+AC00",
+                                   "\\~", "a\xC2\x85", "\xEF\xBB\xBF점", "&#1;", "]]>"}) {
+        auto points = samplePoints();
+        points[0].name = name;
+        const std::string fault =
+            faultOf([&] { writeFile(sampleLayer(format(), path()), points); });
+        EXPECT_TRUE(fault.empty() || fault.find("담을 수 없습니다") != std::string::npos) << fault;
+        if (!fault.empty()) {
+            EXPECT_EQ(filesThere(), 0U) << name;
+            continue;
+        }
+        std::string found;
+        EXPECT_EQ(faultOf([&] {
+                      found = limitsOf(format()).hasGeometry ? readPoints().at(0).name
+                                                             : readRows().at(1).at(0);
+                  }),
+                  "")
+            << name;
+        EXPECT_EQ(found, name);
+        for (const auto& each : std::filesystem::directory_iterator(folder.path()))
+            std::filesystem::remove(each);
+    }
+}
+
 TEST_P(PointFile, WithoutAnyPointIsRefused) {
     writeFile(sampleLayer(format(), path()), {});
     const std::string fault = faultOf([&] { readAll(); });
@@ -282,6 +308,20 @@ TEST_F(PointFiles, ANameThatMeansSomethingToADrawingIsRefused) {
     PointOfFile first;
     ASSERT_TRUE(loadPointFiles()->open(VectorFormat::Dxf, folder.file("a.dxf"))->read(first));
     EXPECT_EQ(first.name, points[0].name);
+}
+
+TEST_F(PointFiles, PointsOfADrawingAtOnePlaceKeepTheirOwnNames) {
+    const TemporaryFolder folder;
+    auto points = samplePoints();
+    points[1].place = points[0].place;
+    points[2].place = points[0].place;
+    writeFile(sampleLayer(VectorFormat::Dxf, folder.file("a.dxf")), points);
+    const auto reader = loadPointFiles()->open(VectorFormat::Dxf, folder.file("a.dxf"));
+    for (const SamplePoint& given : points) {
+        PointOfFile point;
+        ASSERT_TRUE(reader->read(point));
+        EXPECT_EQ(point.name, given.name);
+    }
 }
 
 TEST_F(PointFiles, ATableWithoutAWordOnItsLettersIsReadInTheKoreanCodePage) {

@@ -1,6 +1,7 @@
 #include "exchange/gdal/gdal_point_reader.h"
 
 #include <array>
+#include <deque>
 #include <map>
 #include <utility>
 
@@ -141,8 +142,9 @@ private:
     SystemOfFile system_;
 };
 
-// A drawing holds much beside points. A point has the name of the text that begins at it; where
-// there are texts only, each of them is a point.
+// A drawing holds much beside points. A point has the name of the text that begins at it, the
+// second point at a place that of the second text, and so on; where there are texts only, each is a
+// point.
 class DrawingPoints final : public PointFileReader {
 public:
     explicit DrawingPoints(const std::string& path) {
@@ -182,12 +184,14 @@ private:
     }
 
     void nameBy(const std::vector<PointOfFile>& texts) {
-        std::map<std::pair<double, double>, const std::string*> names;
+        std::map<std::pair<double, double>, std::deque<const std::string*>> names;
         for (const PointOfFile& text : texts)
-            names.emplace(std::pair(text.place->x, text.place->y), &text.name);
+            names[{text.place->x, text.place->y}].push_back(&text.name);
         for (PointOfFile& point : points_) {
             const auto found = names.find({point.place->x, point.place->y});
-            if (found != names.end()) point.name = *found->second;
+            if (found == names.end()) continue;
+            point.name = *found->second.front();
+            if (found->second.size() > 1) found->second.pop_front();
         }
     }
 

@@ -11,11 +11,11 @@
 #include <ogrsf_frmts.h>
 
 #include "common/number_text.h"
-#include "common/utf8.h"
 #include "exchange/gdal/checked_files.h"
 #include "exchange/gdal/driver_of.h"
 #include "exchange/gdal/files_in_waiting.h"
 #include "exchange/gdal/gdal_errors.h"
+#include "exchange/text_limits.h"
 
 namespace kelvo {
 
@@ -65,13 +65,6 @@ std::string fieldNameOf(VectorFormat format, std::size_t index, const std::strin
     if (index == 0 && format == VectorFormat::Kml) return "Name";
     if (index == 0 && format == VectorFormat::Gpx) return "name";
     return format == VectorFormat::Shapefile ? name.substr(0, kLongestDbfName) : name;
-}
-
-bool holdsControlLetter(std::string_view text) {
-    for (const char letter : text) {
-        if (static_cast<unsigned char>(letter) < 0x20 || letter == 0x7F) return true;
-    }
-    return false;
 }
 
 std::string quotedForLabel(std::string_view name) {
@@ -222,19 +215,7 @@ private:
 
     // What would be cut, vanish or mean something else is refused.
     void refuseText(std::string_view text) const {
-        const std::size_t longest = limits_.longestText;
-        std::string reason;
-        if (longest != 0 && text.size() > longest) {
-            reason = "글이 " + std::to_string(longest) + "바이트보다 깁니다";
-        } else if (asked_.format != VectorFormat::GeoPackage && holdsControlLetter(text)) {
-            reason = "제어 문자를 담을 수 없습니다";
-        } else if (asked_.format == VectorFormat::Dxf &&
-                   (text.find_first_of("{}") != std::string_view::npos ||
-                    text.find("%%") != std::string_view::npos)) {
-            reason = "{, }, %%를 담을 수 없습니다";
-        } else if (!isWellFormedUtf8(text)) {
-            reason = "UTF-8이 아닌 글입니다";
-        }
+        const std::string reason = whyNotHeld(text, asked_.format);
         if (!reason.empty())
             throw ExchangeFault(std::string(limits_.name) + ": " + reason + ", " +
                                 std::to_string(given_) + "번째 점 (" + asked_.path + ")");
