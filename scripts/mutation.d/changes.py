@@ -4,9 +4,11 @@ import pathlib
 import re
 
 TOP = pathlib.Path(__file__).resolve().parents[2]
-FOLDERS = ("common", "geodesy", "correction", "conversion", "batch", "form", "plot", "panels", "shell", "cli")
+FOLDERS = ("common", "geodesy", "correction", "conversion", "batch", "form", "plot", "panels", "exchange", "library", "convert",
+           "shell", "cli")
 # Text that stored copies hold, what another system compiles, and what runs when the program is built.
-LEFT_OUT = ("batch/sample_data.cpp", "batch/run_notes.cpp", "common/windows_file_calls.cpp", "common/table/")
+LEFT_OUT = ("batch/sample_data.cpp", "batch/run_notes.cpp", "common/windows_file_calls.cpp", "common/table/",
+            "library/python/")
 
 # Pairs of tokens that take each other's place.
 OPERATORS = {

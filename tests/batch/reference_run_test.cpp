@@ -9,13 +9,14 @@
 
 #include "reference/pipeline.h"
 #include "support/batch_bench.h"
+#include "support/case_count.h"
 
 namespace kelvo {
 namespace {
 
 using testing::BatchBench;
 
-constexpr int kRuns = 12;
+constexpr int kRuns = testing::kSanitized ? 1 : 12;
 constexpr int kPointsOfARun = 9000;
 
 class RandomRun {

@@ -10,6 +10,7 @@
 #include "common/fixed_width.h"
 #include "common/number_text.h"
 #include "reference/fixed_width.h"
+#include "support/case_count.h"
 
 namespace kelvo {
 namespace {
@@ -37,7 +38,7 @@ TEST(FormatNumReference, NumbersOfEveryMagnitudeGiveTheSameText) {
     std::mt19937_64 random(20040607);
     std::uniform_real_distribution<double> magnitude(-14, 17);
     std::uniform_real_distribution<double> mantissa(-10, 10);
-    for (int i = 0; i < 60000; ++i) {
+    for (int i = 0; i < testing::caseCount(60000); ++i) {
         const double value = mantissa(random) * std::pow(10.0, std::floor(magnitude(random)));
         for (const Mask mask : kMasks) expectSameText(value, mask);
     }
@@ -46,7 +47,7 @@ TEST(FormatNumReference, NumbersOfEveryMagnitudeGiveTheSameText) {
 TEST(FormatNumReference, TiesOfTheDecimalTextGiveTheSameText) {
     std::mt19937_64 random(7);
     std::uniform_int_distribution<long long> digits(-999999999, 999999999);
-    for (int i = 0; i < 60000; ++i) {
+    for (int i = 0; i < testing::caseCount(60000); ++i) {
         const auto odd = static_cast<double>(digits(random) * 10 + 5);
         for (const Mask mask : kMasks) {
             // five after the last place shown
@@ -58,7 +59,7 @@ TEST(FormatNumReference, TiesOfTheDecimalTextGiveTheSameText) {
 TEST(FormatNumReference, EveryBitPatternOfAFiniteNumberGivesTheSameText) {
     std::mt19937_64 random(1);
     int tried = 0;
-    while (tried < 20000) {
+    while (tried < testing::caseCount(20000)) {
         const std::uint64_t bits = random();
         double value = 0;
         static_assert(sizeof bits == sizeof value);
@@ -74,7 +75,7 @@ TEST(Decimal15, HasTheDigitsOfTheExactBinaryValue) {
     std::mt19937_64 random(15);
     std::uniform_real_distribution<double> magnitude(-300, 300);
     std::uniform_real_distribution<double> mantissa(-10, 10);
-    for (int i = 0; i < 100000; ++i) {
+    for (int i = 0; i < testing::caseCount(100000); ++i) {
         const double value = i % 2 == 0 ? mantissa(random) * std::pow(10.0, i % 17)
                                         : mantissa(random) * std::pow(10.0, magnitude(random));
         if (value == 0) continue;

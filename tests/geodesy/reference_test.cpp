@@ -11,6 +11,7 @@
 #include "reference/angle_forms.h"
 #include "reference/datum_shift.h"
 #include "reference/transverse_mercator.h"
+#include "support/case_count.h"
 #include "support/guarded.h"
 
 namespace kelvo {
@@ -18,7 +19,7 @@ namespace {
 
 using testing::good;
 
-constexpr int kPoints = 100000;
+constexpr int kPoints = testing::caseCount(100000);
 
 struct Setting {
     Ellipsoid ellipsoid;

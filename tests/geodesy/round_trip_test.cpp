@@ -15,6 +15,7 @@
 #include "geodesy/datum_shift.h"
 #include "geodesy/transverse_mercator.h"
 #include "geodesy/zones.h"
+#include "support/case_count.h"
 #include "support/guarded.h"
 
 namespace kelvo {
@@ -22,7 +23,7 @@ namespace {
 
 using testing::good;
 
-constexpr int kPoints = 100000;
+constexpr int kPoints = testing::caseCount(100000);
 constexpr double kRadian = std::numbers::pi / 180;
 constexpr double kSecond = kRadian / 3600;
 
