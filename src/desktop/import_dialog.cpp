@@ -1,7 +1,6 @@
 #include "desktop/import_dialog.h"
 
 #include <QDialogButtonBox>
-#include <QFontDatabase>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -9,6 +8,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "desktop/korean_faces.h"
 #include "desktop/widget_book.h"
 
 namespace kelvo::desktop {
@@ -82,7 +82,7 @@ ImportDialog::ImportDialog(const PointList& list, const QString& from, QWidget* 
     preview_->setReadOnly(true);
     preview_->setTabChangesFocus(true);
     preview_->setLineWrapMode(QPlainTextEdit::NoWrap);
-    preview_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    preview_->setFont(fixedPitchFont(font().pointSizeF()));
     preview_->setAccessibleName(QStringLiteral("데이터 파일에 들어갈 줄"));
     warnings_->setObjectName(QStringLiteral("importWarnings"));
     warnings_->setTextFormat(Qt::PlainText);

@@ -90,7 +90,8 @@ Surface& MainWindow::screen() {
 void MainWindow::buildPanels() {
     layOutOnePointPanel(*book_);
     filePanel_ = layOutFilePanel(*book_);
-    layOutPlotSettings(*book_);
+    for (QPushButton* button : {filePanel_.exporting, layOutPlotSettings(*book_)})
+        connect(button, &QPushButton::clicked, this, [this] { export_->ask(this); });
     layOutPrintMode(*book_);
     stage_->setUp(*book_, filePanel_);
 
@@ -143,7 +144,6 @@ void MainWindow::addBottomLine() {
     text_->setParent(this);
     export_ = std::make_unique<PointExport>(*program_, *status_, disk_, messages_);
     import_ = std::make_unique<PointImport>(*program_, *book_, disk_, messages_);
-    connect(filePanel_.exporting, &QPushButton::clicked, this, [this] { export_->ask(this); });
     connect(status_, &StatusBar::folderWanted, this, [this](const QString& folder) {
         if (onFolder) return onFolder(folder);
         QDesktopServices::openUrl(QUrl::fromLocalFile(folder));

@@ -32,6 +32,14 @@ QFrame* captionBar(ElidedLabel*& caption) {
     return bar;
 }
 
+QPushButton* exportButton(const char* name) {
+    auto* button = new QPushButton(QStringLiteral("내보내기"));
+    button->setObjectName(QString::fromLatin1(name));
+    button->setToolTip(QStringLiteral(
+        "변환한 점을 다른 프로그램의 파일로 씁니다 (GeoPackage, Shapefile, DXF, ...)"));
+    return button;
+}
+
 }  // namespace
 
 std::function<void()> clicker(WidgetBook& book, std::string_view button) {
@@ -67,10 +75,7 @@ FilePanel layOutFilePanel(WidgetBook& book) {
     saving->addStretch(1);
     saving->addWidget(book.at("cmdSave"));
     saving->addWidget(book.at("cmdSaveAs"));
-    parts.exporting = new QPushButton(QStringLiteral("내보내기"), parts.panel);
-    parts.exporting->setObjectName(QStringLiteral("exportPoints"));
-    parts.exporting->setToolTip(QStringLiteral(
-        "변환한 점을 다른 프로그램의 파일로 씁니다 (GeoPackage, Shapefile, DXF, ...)"));
+    parts.exporting = exportButton("exportPoints");
     saving->addWidget(parts.exporting);
     auto* leaving = new QHBoxLayout;
     leaving->addStretch(1);
@@ -94,7 +99,7 @@ FilePanel layOutFilePanel(WidgetBook& book) {
     return parts;
 }
 
-void layOutPlotSettings(WidgetBook& book) {
+QPushButton* layOutPlotSettings(WidgetBook& book) {
     auto* manual = new QVBoxLayout(book.at("frmeManual"));
     manual->setContentsMargins(8, 5, 8, 6);
     manual->setSpacing(3);
@@ -142,6 +147,9 @@ void layOutPlotSettings(WidgetBook& book) {
     saving->setToolTip(QStringLiteral("PNG, SVG, PDF 파일로 저장합니다 (Ctrl+S)"));
     QObject::connect(saving, &QPushButton::clicked, saving, [&book] { book.plotView()->saveAs(); });
     column->addWidget(saving);
+    QPushButton* const exporting = exportButton("exportPlotted");
+    exporting->setAutoDefault(true);
+    column->addWidget(exporting);
     column->addStretch(1);
     scroll->setMinimumWidth(content->sizeHint().width() + 16);
 
@@ -150,6 +158,7 @@ void layOutPlotSettings(WidgetBook& book) {
     };
     new PanelKeys(*book.at("frmePcfg"), draw, clicker(book, "cmdShow"));
     new PanelKeys(*book.at("pctPlot"), {}, clicker(book, "cmdShow"));
+    return exporting;
 }
 
 void layOutPrintMode(WidgetBook& book) {

@@ -32,7 +32,8 @@ bool goToBoxWithoutNumber(WidgetBook& book, std::initializer_list<std::string_vi
 void layOutOnePointPanel(WidgetBook& book);
 void layOutParameters(WidgetBook& book);
 [[nodiscard]] FilePanel layOutFilePanel(WidgetBook& book);
-void layOutPlotSettings(WidgetBook& book);
+// Returns its 내보내기.
+[[nodiscard]] QPushButton* layOutPlotSettings(WidgetBook& book);
 void layOutPrintMode(WidgetBook& book);
 
 }  // namespace kelvo::desktop

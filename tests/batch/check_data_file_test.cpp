@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <tuple>
+
 #include "batch/check_bench.h"
 #include "common/code_page.h"
 #include "support/batch_bench.h"
@@ -52,6 +55,25 @@ TEST(CheckDataFile, MarksTheFieldThatIsMeantInCharacters) {
     ASSERT_EQ(findings.size(), 1U) << shown(findings);
     EXPECT_EQ(findings[0].column, 12);
     EXPECT_EQ(findings[0].length, 7);
+}
+
+TEST(CheckDataFile, MarksTheWordThatIsNotUnderstood) {
+    for (const auto& [line, column, length] :
+         {std::tuple{"INPUT   grad x", 9, 4}, std::tuple{"OUTPUT   grad x", 10, 4},
+          std::tuple{"CORRECTION OFF x", 12, 3}}) {
+        const auto findings = check(std::string(line) + "\nWGS A 37.3533 126.3229 0\nend\n\n");
+        ASSERT_FALSE(findings.empty()) << line;
+        EXPECT_EQ(findings[0].line, 1) << line;
+        EXPECT_EQ(findings[0].column, column) << line;
+        EXPECT_EQ(findings[0].length, length) << line;
+    }
+}
+
+TEST(CheckDataFile, SaysTheGeoidOfAKnownPointToTheMillimetre) {
+    const std::string findings = shown(
+        check("CORRECTION\nWGS A 37.3533 126.3229 0\nend\n\n",
+              "부산61 35.10017832 129.04593498 64.521 35.09507604 129.05075251 93.773 2\n\n\n"));
+    EXPECT_NE(findings.find("표고를 뺀 값이 -29.252 m입니다"), std::string::npos) << findings;
 }
 
 TEST(CheckDataFile, TakesEveryLineEnd) {

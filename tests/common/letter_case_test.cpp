@@ -12,6 +12,7 @@ TEST(UpperCased, CoversLatinGreekCyrillicAndFullWidthLetters) {
     EXPECT_EQ(upperCased("абвяё"), "АБВЯЁ");
     EXPECT_EQ(upperCased("æðħĳŀłøœþŧŋ"), "ÆÐĦĲĿŁØŒÞŦŊ");
     EXPECT_EQ(upperCased("ⅰⅹ"), "ⅠⅩ");
+    EXPECT_EQ(upperCased("ⓐⓩ"), "ⒶⓏ");
 }
 
 TEST(UpperCased, LeavesOtherCharactersAlone) {
@@ -27,7 +28,7 @@ TEST(UpperCased, BytesThatAreNoCharacterStay) {
 }
 
 TEST(LowerCased, UndoesUpperCasing) {
-    for (const char* text : {"wgs", "ａｂ", "αω", "яё", "æøœ", "가a"}) {
+    for (const char* text : {"wgs", "ａｂ", "αω", "яё", "æøœ", "가a", "ⅰⅹ", "ⓐⓩ"}) {
         EXPECT_EQ(lowerCased(upperCased(std::string_view(text))), text);
     }
 }

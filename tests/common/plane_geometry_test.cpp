@@ -66,6 +66,12 @@ TEST(DistanceToLine, AnUprightLineCountsWithOffsetZero) {
     EXPECT_NEAR(result.direction, 0, 1e-9);
 }
 
+TEST(DistanceToLine, ALevelLineIsMeasuredFromWhereItLies) {
+    const auto result = DistanceToLine(0, 5, 10, 5, 3, 9);
+    EXPECT_NEAR(result.distance, 4, 1e-9);
+    EXPECT_NEAR(result.direction, 90, 1e-5);
+}
+
 TEST(PolarPoint, UsesTheFactorAsWritten) {
     const auto east = PolarPoint(1000, 2000, 90, 100);
     EXPECT_NEAR(east.x, 1000 + 2.267949e-05, 1e-10);

@@ -87,6 +87,28 @@ private slots:
         QVERIFY(!button->isVisible());
     }
 
+    void thePlotExportsTheSamePointsByAButtonBelowItsSave() {
+        if (!hasModule()) QSKIP("built without GDAL (KELVO_EXCHANGE=OFF)");
+        run();
+        const auto* save = window_->findChild<QPushButton*>("plotSave");
+        auto* button = window_->findChild<QPushButton*>("exportPlotted");
+        QVERIFY(button != nullptr);
+        QVERIFY(!button->isVisible());
+        hands_->click("cmdShow");
+        hands_->click("cmdPlot");
+        QVERIFY(button->isVisible() && save->isVisible());
+        QCOMPARE(button->parentWidget(), save->parentWidget());
+        QVERIFY(button->y() > save->y());
+        QCOMPARE(button->text(), QStringLiteral("내보내기"));
+        QCOMPARE(button->size(), save->size());
+        const std::string path = folder_->file("data/plotted.geojson");
+        hands_->dialogResults.push_back(path);
+        QTest::mouseClick(button, Qt::LeftButton);
+        QCOMPARE(readBytes(path).find("\"name\": \"A-1\"") != std::string::npos, true);
+        QVERIFY2(sentence().endsWith(qtText(path)), qPrintable(sentence()));
+        QVERIFY(window_->findChild<QPushButton*>("statusOpenFolder")->isVisible());
+    }
+
     void withoutARunThereIsNothingToExport() {
         openData("a.dat", "end\r\n \r\n");
         window_->findChild<QPushButton*>("exportPoints")->click();

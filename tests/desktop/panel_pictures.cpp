@@ -1,13 +1,16 @@
 // panel_pictures FOLDER [dark]: a picture of each panel for the documents, with a day's work in it.
+#include <QAction>
 #include <QApplication>
 #include <QDir>
 #include <QPrintPreviewDialog>
 #include <QTest>
+#include <QTimer>
 #include <cstdio>
 #include <fstream>
 
 #include "common/application_folder.h"
 #include "common/code_page.h"
+#include "desktop/import_dialog.h"
 #include "desktop/look_of_window.h"
 #include "desktop/main_window.h"
 #include "desktop/text_viewer.h"
@@ -40,12 +43,21 @@ constexpr const char* kData =
 constexpr const char* kKnownPoints =
     "*  이름      WGS위도      WGS경도       타원체고  위도         경도          표고     "
     "가중치\r\n"
-    "인천No-3   37.35332667  126.32293448  30.1756   37.35230997  126.32365917  40.3717   1\r\n"
-    "강화12     37.43120000  126.27000000  12.0000   37.43018942  126.27074150  21.2809   1\r\n"
-    "TP-153     37.34480000  126.57000000  40.2500   37.34381009  126.57075821  51.6997   1\r\n"
-    "서울원점   37.33000000  127.00360000  88.8000   37.32498464  127.00436298  100.0507  1\r\n"
+    "인천No-3   37.35332667  126.32293448  30.1756   37.35230997  126.32365917  11.5423   1\r\n"
+    "강화12     37.43120000  126.27000000  42.0000   37.43018942  126.27074150  24.1180   1\r\n"
+    "TP-153     37.34480000  126.57000000  40.2500   37.34381009  126.57075821  19.8640   1\r\n"
+    "서울원점   37.33000000  127.00360000  88.8000   37.32498464  127.00436298  65.7120   1\r\n"
     "*\r\n"
     "*  끝\r\n";
+
+// As a receiver writes it, with a name that is too wide for the tables.
+constexpr const char* kReceiverList =
+    "점명,위도,경도,타원체고,정밀도\r\n"
+    "송도3,37.38214467,126.64120833,28.1170,0.012\r\n"
+    "송도4,37.38190281,126.64933194,28.3025,0.011\r\n"
+    "송도국제교입구,37.37744131,126.65307522,31.8862,0.015\r\n"
+    "수준점7,37.37601908,126.66158114,27.5401,0.010\r\n"
+    "수준점8,37.37455219,126.66920056,27.6188,0.010\r\n";
 
 void put(const std::string& path, const std::string& text) {
     std::ofstream(path, std::ios::binary) << encodeCodePage(text);
@@ -64,6 +76,24 @@ public:
             std::fprintf(stderr, "%s not written\n", qPrintable(name));
             good_ = false;
         }
+    }
+
+    // Of the dialog that the action opens; it is then cancelled.
+    template <class Dialog>
+    void takeDialog(QAction& action, const QString& name) {
+        QTimer watch;
+        bool taken = false;
+        QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
+            auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+            if (dialog == nullptr) return;
+            watch.stop();
+            take(*dialog, name);
+            taken = true;
+            dialog->reject();
+        });
+        watch.start(20);
+        action.trigger();
+        good_ &= taken;
     }
 
     [[nodiscard]] bool good() const { return good_; }
@@ -104,6 +134,9 @@ int main(int argc, char** argv) {
 
     hands.click("mnuBatchEdit");
     pictures.take(window, "data");
+    put(folder + "/data/수신기.csv", kReceiverList);
+    hands.dialogResults.emplace_back(folder + "/data/수신기.csv");
+    pictures.takeDialog<desktop::ImportDialog>(*window.findChild<QAction*>("workImport"), "import");
     hands.click("mnuCorrEdit");
     pictures.take(window, "known-points");
     hands.click("mnuBatchGo");

@@ -127,6 +127,25 @@ class OtherPrograms(unittest.TestCase):
                     self.assertAlmostEqual(float(lat), point[1], places=8)
                     self.assertAlmostEqual(float(lon), point[2], places=8)
 
+    @needs("gpsbabel")
+    @needs("ogr2ogr")
+    def test_what_other_programs_write_as_kml_and_gpx_is_read(self):
+        self.convert("in.csv", "o.gpx")
+        self.run_in("gpsbabel", "-i", "gpx", "-f", "o.gpx", "-o", "gpx", "-F", "babel.gpx")
+        self.run_in("gpsbabel", "-i", "gpx", "-f", "o.gpx", "-o", "kml,points=1", "-F", "babel.kml")
+        self.convert("in.csv", "o.gpkg")
+        self.run_in("ogr2ogr", "-f", "KML", "ogr.kml", "o.gpkg", "-dsco", "NameField=name")
+        self.run_in("ogr2ogr", "-f", "LIBKML", "lib.kml", "o.gpkg")
+        self.run_in("ogr2ogr", "-f", "GPX", "-dsco", "GPX_USE_EXTENSIONS=YES", "-nlt", "POINT", "ogr.gpx", "o.gpkg")
+        for name in ("babel.gpx", "babel.kml", "ogr.kml", "lib.kml", "ogr.gpx"):
+            with self.subTest(name):
+                self.convert("--to", "wgs", name, "back.csv")
+                rows = list(csv.DictReader(io.StringIO((self.folder / "back.csv").read_text(encoding="utf-8"))))
+                self.assertEqual([r["name"] for r in rows], [p[0] for p in POINTS])
+                for row, point in zip(rows, POINTS):
+                    self.assertAlmostEqual(float(row["wgs_lat"]), point[1], places=5)
+                    self.assertAlmostEqual(float(row["wgs_lon"]), point[2], places=5)
+
     def test_every_format_is_read_back_into_the_same_table(self):
         for ending in FORMATS:
             with self.subTest(ending):

@@ -143,6 +143,21 @@ TEST(TmGrid, OneThatCannotBeComputedMakesEveryPointFail) {
     EXPECT_EQ(back.value.Lam, 129.5);
 }
 
+TEST(GeoToTM, FailsWhereOneCoordinateAloneLeavesTheRange) {
+    // the eighth power of such a longitude overflows, the seventh doesn't
+    const auto point = GeoToTM(37, 1e40, kUserBessel, kCentre);
+    EXPECT_TRUE(point.failed);
+    EXPECT_EQ(point.value.X, kCentre.X0);
+    EXPECT_EQ(point.value.Y, kCentre.Y0);
+}
+
+TEST(TmGrid, SharesAnEllipsoidOnlyWhereAxisAndFlatteningAreTheSame) {
+    const TmGrid grid(kUserBessel, kCentre);
+    EXPECT_TRUE(grid.sharesEllipsoid(TmGrid(kUserBessel, originOf(TmZone::East))));
+    EXPECT_FALSE(grid.sharesEllipsoid(TmGrid({kUserBessel.a, 298}, kCentre)));
+    EXPECT_FALSE(grid.sharesEllipsoid(TmGrid({6378137, kUserBessel.f}, kCentre)));
+}
+
 TEST(RadiusN, IsTheAxisAtTheEquatorAndGrowsToThePole) {
     const double e2 = 0.00669437999014132;
     EXPECT_EQ(KelvoSub::RadiusN(6378137, e2, 0), 6378137);

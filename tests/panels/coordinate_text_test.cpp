@@ -67,6 +67,9 @@ TEST(PastedAngles, SignsAndWordsOfTheUnitsAreRead) {
               (Texts{"37.35332567", "126.32293454"}));
     EXPECT_EQ(dms("37:35:33.2567 126:32:29.3454"), (Texts{"37.35332567", "126.32293454"}));
     EXPECT_EQ(dms("37-35-33.2567S 126-32-29.3454W"), (Texts{"-37.35332567", "-126.32293454"}));
+    EXPECT_EQ(dms("37-35-33.2567 S 126-32-29.3454 W 30.1756"),
+              (Texts{"-37.35332567", "-126.32293454", "30.1756"}));
+    EXPECT_EQ(dms("S 37-35-33.2567 W 126-32-29.3454"), (Texts{"-37.35332567", "-126.32293454"}));
 }
 
 TEST(PastedAngles, RowOrColumnOfASpreadsheetIsRead) {

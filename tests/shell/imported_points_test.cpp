@@ -91,6 +91,15 @@ TEST(GuessedChoice, GoesByTheHeader) {
     EXPECT_EQ(choice.angles, ListAngles::Degrees);
 }
 
+TEST(GuessedChoice, TakesNorthingAndEastingFromTheHeaderInEitherOrder) {
+    PointList list = points({{"A", "125963.97", "377504.2"}, {"B", "125964", "377505"}});
+    list.header = {"이름", "Y", "X"};
+    const ImportChoice choice = guessedChoice(list);
+    EXPECT_EQ(choice.system, System::Tm);
+    EXPECT_EQ(choice.north, 2U);
+    EXPECT_EQ(choice.east, 1U);
+}
+
 TEST(GuessedChoice, GoesByTheNumbersWithoutAHeader) {
     const ImportChoice swapped = guessedChoice(points({{"A", "127.1", "37.5", "30"}}));
     EXPECT_EQ(swapped.system, System::Wgs);
@@ -214,6 +223,7 @@ TEST(ImportedLines, WarnOfAnglesThatCanNotBe) {
     EXPECT_TRUE(warnsOf(intoEmptyText(points({{"A", "37.75", "126.1", "1"}}), choice), "60 이상"));
     choice.angles = ListAngles::Degrees;
     EXPECT_TRUE(warnsOf(intoEmptyText(points({{"A", "127.1", "37.1", "1"}}), choice), "범위 밖"));
+    EXPECT_FALSE(warnsOf(intoEmptyText(points({{"A", "90", "180", "1"}}), choice), "범위 밖"));
 }
 
 TEST(ImportedLines, WarnWhereTheFileStatesAnotherSystem) {

@@ -164,6 +164,22 @@ TEST_F(TwoWindows, TheListsOfFilesAreJoined) {
               "/app/data/mine.dat\r\n/app/data/new.dat\r\n/app/data/a.dat\r\n/app/data/b.dat\r\n");
 }
 
+TEST_F(TwoWindows, AFullListOfTheOtherIsReadToItsFifthFile) {
+    startBoth();
+    for (const char* name : {"c", "d", "e"}) {
+        const std::string path = std::string("/app/data/") + name + ".dat";
+        disk.putText(path, "*\r\n");
+        one->queueDialog(path);
+        one->file(2);
+    }
+    // The second window changes a parameter only.
+    other().click("OptCorr");
+    close(other());
+    const std::string list = disk.text("/app/kelvo.cfg");
+    for (const char* name : {"a", "b", "c", "d", "e"})
+        EXPECT_NE(list.find(std::string("/app/data/") + name + ".dat"), std::string::npos) << name;
+}
+
 TEST_F(TwoWindows, AWindowAloneWritesWhatItHas) {
     start();
     other().type("txtdX", "1");

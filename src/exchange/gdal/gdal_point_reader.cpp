@@ -11,6 +11,7 @@
 #include "common/utf8.h"
 #include "exchange/gdal/gdal_errors.h"
 #include "exchange/gdal/opened_file.h"
+#include "exchange/point_file_faults.h"
 
 namespace kelvo {
 
@@ -73,7 +74,7 @@ const OGRPoint* pointOf(const OGRGeometry& geometry) {
 class LayerPoints final : public PointFileReader {
 public:
     LayerPoints(VectorFormat format, const std::string& path)
-        : path_(path), format_(format), file_(openFileOf(format, path)) {
+        : path_(path), file_(openFileOf(format, path)) {
         const GdalErrors errors;
         std::string other;
         for (int i = 0; i < file_->GetLayerCount(); ++i) {
@@ -85,8 +86,8 @@ public:
                 other = OGRGeometryTypeToName(type);
             }
         }
-        if (errors.failed()) failDamaged(errors, path_);
-        if (layers_.empty() && !other.empty()) failOtherShape(other);
+        if (errors.failed()) failDamaged(errors.first(), path_);
+        if (layers_.empty() && !other.empty()) failOtherShape(other, path_);
         findFirst();
     }
 
@@ -102,7 +103,7 @@ public:
 private:
     void findFirst() {
         held_ = next(first_);
-        if (!held_) throw ExchangeFault("파일에 점이 하나도 없습니다 (" + path_ + ")");
+        if (!held_) failWithoutPoints(path_);
         system_ = systemOf(layers_[at_]->GetSpatialRef());
     }
 
@@ -111,14 +112,11 @@ private:
         while (at_ < layers_.size()) {
             OGRLayer* const layer = layers_[at_];
             const Feature feature(layer->GetNextFeature());
-            if (errors.failed()) failDamaged(errors, path_);
+            if (errors.failed()) failDamaged(errors.first(), path_);
             if (feature) {
                 take(*feature, point);
-                begun_ = true;
                 return true;
             }
-            // Way points, or else the points of a route, or else those of a track.
-            if (format_ == VectorFormat::Gpx && begun_) return false;
             ++at_;
         }
         return false;
@@ -130,30 +128,14 @@ private:
         const OGRGeometry* const geometry = feature.GetGeometryRef();
         if (geometry == nullptr || geometry->IsEmpty()) return;
         const OGRPoint* const place = pointOf(*geometry);
-        if (place == nullptr) failOtherShape(geometry->getGeometryName());
-        point.place = {.x = place->getX(), .y = place->getY(), .height = heightOf(feature, *place)};
-    }
-
-    // A way point's height is a field of its own.
-    double heightOf(const OGRFeature& feature, const OGRPoint& place) const {
-        if (format_ == VectorFormat::Gpx) {
-            const int field = feature.GetFieldIndex("ele");
-            if (field >= 0 && feature.IsFieldSetAndNotNull(field))
-                return feature.GetFieldAsDouble(field);
-        }
-        return place.getZ();
-    }
-
-    [[noreturn]] void failOtherShape(const std::string& shape) const {
-        throw ExchangeFault("점이 아닌 도형(" + shape + ")이 들어 있습니다 (" + path_ + ")");
+        if (place == nullptr) failOtherShape(geometry->getGeometryName(), path_);
+        point.place = {.x = place->getX(), .y = place->getY(), .height = place->getZ()};
     }
 
     std::string path_;
-    VectorFormat format_;
     OpenedFile file_;
     std::vector<OGRLayer*> layers_;
     std::size_t at_ = 0;
-    bool begun_ = false;
     bool held_ = false;
     PointOfFile first_;
     SystemOfFile system_;
@@ -170,13 +152,13 @@ public:
         if (OGRLayer* const layer = file->GetLayer(0); layer != nullptr) {
             while (const Feature feature = Feature(layer->GetNextFeature())) sort(*feature, texts);
         }
-        if (errors.failed()) failDamaged(errors, path);
+        if (errors.failed()) failDamaged(errors.first(), path);
         if (points_.empty()) {
             points_ = std::move(texts);
         } else {
             nameBy(texts);
         }
-        if (points_.empty()) throw ExchangeFault("파일에 점이 하나도 없습니다 (" + path + ")");
+        if (points_.empty()) failWithoutPoints(path);
     }
 
     const SystemOfFile& system() const override { return system_; }

@@ -8,7 +8,7 @@
 
 namespace kelvo {
 
-// As PointFiles::open.
+// As PointFiles::open, for all formats but KML and GPX.
 [[nodiscard]] std::unique_ptr<PointFileReader> makePointReader(VectorFormat format,
                                                                const std::string& path);
 

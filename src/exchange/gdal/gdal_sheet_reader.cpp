@@ -5,6 +5,7 @@
 #include "exchange/gdal/gdal_errors.h"
 #include "exchange/gdal/gdal_setting.h"
 #include "exchange/gdal/opened_file.h"
+#include "exchange/point_file_faults.h"
 
 namespace kelvo {
 
@@ -26,14 +27,14 @@ public:
             if (layer->GetFeatureCount() > 0) sheet_ = layer;
         }
         // The driver of ODS stops in the middle of a large sheet and goes on as if nothing were.
-        if (errors.failed()) failDamaged(errors, path_);
-        if (sheet_ == nullptr) throw ExchangeFault("파일에 점이 하나도 없습니다 (" + path_ + ")");
+        if (errors.failed()) failDamaged(errors.first(), path_);
+        if (sheet_ == nullptr) failWithoutPoints(path_);
     }
 
     bool read(std::vector<std::string>& cells) override {
         const GdalErrors errors;
         const std::unique_ptr<OGRFeature> row(sheet_->GetNextFeature());
-        if (errors.failed()) failDamaged(errors, path_);
+        if (errors.failed()) failDamaged(errors.first(), path_);
         cells.clear();
         if (!row) return false;
         for (int i = 0; i < row->GetFieldCount(); ++i)

@@ -4,6 +4,7 @@
 #include "exchange/gdal/gdal_point_reader.h"
 #include "exchange/gdal/gdal_point_writer.h"
 #include "exchange/gdal/gdal_sheet_reader.h"
+#include "exchange/xml/xml_point_reader.h"
 
 namespace kelvo {
 
@@ -18,6 +19,8 @@ public:
     }
     std::unique_ptr<PointFileReader> open(VectorFormat format,
                                           const std::string& path) const override {
+        if (format == VectorFormat::Kml) return makeKmlReader(path);
+        if (format == VectorFormat::Gpx) return makeGpxReader(path);
         return makePointReader(format, path);
     }
     std::unique_ptr<SheetReader> openSheet(VectorFormat format,

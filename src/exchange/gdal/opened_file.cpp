@@ -1,8 +1,6 @@
 #include "exchange/gdal/opened_file.h"
 
 #include <array>
-#include <cerrno>
-#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <string_view>
@@ -11,7 +9,7 @@
 
 #include "exchange/gdal/driver_of.h"
 #include "exchange/gdal/gdal_setting.h"
-#include "exchange/point_files.h"
+#include "exchange/point_file_faults.h"
 
 namespace kelvo {
 
@@ -47,26 +45,16 @@ CPLStringList openOptionsOf(VectorFormat format, const std::string& path) {
 
 OpenedFile openFileOf(VectorFormat format, const std::string& path) {
     if (std::ifstream probe(path, std::ios::binary); !probe)
-        throw ExchangeFault("파일을 열 수 없습니다: " + std::string(std::strerror(errno)) + " (" +
-                            path + ")");
+        failBySystem("파일을 열 수 없습니다", path);
     const GdalErrors errors;
     const GdalSetting letters(
         "DXF_ENCODING", format == VectorFormat::Dxf && isUnicodeDrawing(path) ? "UTF-8" : nullptr);
     const std::array<const char*, 2> drivers{driverOf(format), nullptr};
     OpenedFile file(GDALDataset::Open(path.c_str(), GDAL_OF_VECTOR | GDAL_OF_READONLY,
                                       drivers.data(), openOptionsOf(format, path).List(), nullptr));
-    if (!file) {
-        throw ExchangeFault(
-            "읽을 수 있는 " + std::string(limitsOf(format).name) + " 파일이 아닙니다" +
-            (errors.failed() ? ": " + errors.first() : std::string()) + " (" + path + ")");
-    }
-    if (errors.failed()) failDamaged(errors, path);
+    if (!file) failOtherKind(format, errors.first(), path);
+    if (errors.failed()) failDamaged(errors.first(), path);
     return file;
-}
-
-void failDamaged(const GdalErrors& errors, const std::string& path) {
-    throw ExchangeFault("파일이 온전하지 않아 끝까지 읽을 수 없습니다: " + errors.first() + " (" +
-                        path + ")");
 }
 
 }  // namespace kelvo

@@ -21,7 +21,4 @@ using OpenedFile = std::unique_ptr<GDALDataset, CloseOpened>;
 // read, is another kind of file, or is damaged as far as that shows at its beginning.
 [[nodiscard]] OpenedFile openFileOf(VectorFormat format, const std::string& path);
 
-// The fault of a file that is damaged, with what GDAL says of it.
-[[noreturn]] void failDamaged(const GdalErrors& errors, const std::string& path);
-
 }  // namespace kelvo
