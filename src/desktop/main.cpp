@@ -95,6 +95,8 @@ int main(int argc, char** argv) {
         std::string dataFile;
         if (!shownFile.isEmpty()) dataFile = absoluteName(argumentShownAs(shownFile, argc, argv));
 
+        const bool isFirstStart =
+            !QFile::exists(QDir(shownFolder).filePath(QStringLiteral("kelvo.cfg")));
         MainWindow window(folder);
         if (!window.start()) return 1;
         const EndSignals endSignals;
@@ -102,7 +104,10 @@ int main(int argc, char** argv) {
                          &MainWindow::endWithoutAsking);
         QObject::connect(&application, &QGuiApplication::commitDataRequest, &window,
                          &MainWindow::prepareForTheEnd);
-        if (!dataFile.empty()) window.openDataFile(dataFile);
+        if (!dataFile.empty())
+            window.openDataFile(dataFile);
+        else if (isFirstStart)
+            window.showSample();
         if (window.gate().isClosed()) return 1;
         return QApplication::exec();
     } catch (const RuntimeFault& fault) {

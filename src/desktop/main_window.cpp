@@ -246,6 +246,12 @@ void MainWindow::openDataFile(const std::string& path) {
     dialogs_.forgetChosen();
 }
 
+void MainWindow::showSample() {
+    gate_.run([this] { program_->form().find("mnuBatchEdit")->click(); });
+    if (!gate_.isClosed())
+        program_->status().say("보기 데이터 파일입니다. F5를 누르면 변환하고 보고서를 보입니다.");
+}
+
 void MainWindow::openResultFile(const std::string& path) {
     gate_.run([this, &path] { program_->OpenRichText(path); });
 }

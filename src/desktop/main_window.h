@@ -43,6 +43,8 @@ public:
     // Does what choosing this data file in the open dialog does. The name is the system's, of any
     // bytes.
     void openDataFile(const std::string& path);
+    // What a first start shows: the sample that it has written, and which key runs it.
+    void showSample();
     // Shows what a run has written.
     void openResultFile(const std::string& path);
     // Each data file as a run of its own; a box says at the end what each one gave.

@@ -128,9 +128,10 @@ int main(int argc, char** argv) {
     testing::WindowHands hands(window);
     Pictures pictures(QString::fromLocal8Bit(argv[1]));
     if (!window.start()) return 1;
+    window.showSample();
+    pictures.take(window, "start");
     window.openDataFile(folder + "/data/현장1.dat");
     hands.click("cmdClose");
-    pictures.take(window, "start");
 
     hands.click("mnuBatchEdit");
     pictures.take(window, "data");

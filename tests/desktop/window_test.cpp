@@ -41,6 +41,17 @@ class WindowTest final : public WindowCase {
     Q_OBJECT
 
 private slots:
+    void aFirstStartShowsTheSampleAndTheKeyThatRunsIt() {
+        window_->showSample();
+        QVERIFY(viewer().isVisible());
+        QVERIFY2(viewer().text().find("end") != std::string::npos, viewer().text().c_str());
+        QCOMPARE(QFileInfo(qtText(window_->program().fileOnView())).fileName(),
+                 QStringLiteral("test.dat"));
+        QVERIFY(window_->program().status().sentence().find("F5") != std::string::npos);
+        QTest::keyClick(keyTarget(), Qt::Key_F5);
+        QVERIFY(window_->program().status().sentence().find("변환, 보고서") != std::string::npos);
+    }
+
     void everyControlHasAWidgetUnderItsName() {
         for (const Control& control : form().controls()) {
             const QString name = qtText(control.name());
