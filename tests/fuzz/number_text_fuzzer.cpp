@@ -150,8 +150,10 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
         checkAngleForms(value);
         require(generalText(value) == plainGeneralText(value), "general text of ", Place{value},
                 ": ", generalText(value));
-        require(leadingNumber(generalText(value)) ==
-                    std::strtod(plainGeneralText(value).c_str(), nullptr),
+        // Fifteen digits of the very largest doubles are rounded up beyond them.
+        const double back = std::strtod(plainGeneralText(value).c_str(), nullptr);
+        if (!std::isfinite(back)) continue;
+        require(leadingNumber(generalText(value)) == back,
                 "a general text is read back: ", Place{value});
     }
     return 0;
