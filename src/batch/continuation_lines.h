@@ -7,6 +7,9 @@
 
 namespace kelvo {
 
+// The fields of the line that a block begins with; the keyword is the first.
+constexpr int kKeywordLineFields = 5;
+
 // Whether a line continues a block of lines: it begins with three blanks and holds a field.
 [[nodiscard]] bool isContinuationLine(std::string_view line);
 

@@ -9,8 +9,6 @@ namespace kelvo {
 
 namespace {
 
-constexpr int kKeywordLineFields = 5;
-
 void writePair(CurrentRun& run, const std::string& first, const std::string& second) {
     const int firstRow = run.rowsByName.rowOf(first);
     const int secondRow = run.rowsByName.rowOf(second);

@@ -16,8 +16,6 @@ namespace kelvo {
 
 namespace {
 
-constexpr int kKeywordLineFields = 5;
-
 // The lines of a block that are converted together.
 class GatheredLines {
 public:

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <string>
 
+#include "cli/terminal_line.h"
 #include "convert/conversion_of_rows.h"
 
 namespace kelvo {
@@ -19,7 +20,7 @@ public:
 
     void taken(const RowBlock& block, const Converted& soFar, double progress) override;
     void end(const Converted& all);
-    void wipe();
+    void wipe() { line_.wipe(); }
 
 private:
     using Clock = std::chrono::steady_clock;
@@ -30,7 +31,7 @@ private:
     bool summary_;
     std::size_t badPoints_ = 0;
     Clock::time_point due_ = Clock::now() + std::chrono::seconds(1);
-    std::size_t shown_ = 0;  // columns to wipe
+    TerminalLine line_;
 };
 
 }  // namespace kelvo

@@ -12,6 +12,7 @@
 #include "cli/command_line.h"
 #include "cli/progress_bar.h"
 #include "cli/shared_files.h"
+#include "cli/terminal_line.h"
 #include "common/application_folder.h"
 #include "common/disk.h"
 #include "common/one_line.h"
@@ -38,10 +39,6 @@ constexpr int kSomethingFound = 1;
 constexpr int kNotRead = 2;
 
 constexpr std::size_t kManyFiles = 5;  // from so many on a progress bar is worth its line
-
-void print(std::FILE* stream, const std::string& text) {
-    std::fwrite(text.data(), 1, text.size(), stream);
-}
 
 void printUsage(const std::string& complaint) {
     print(stderr, shownLine("kelvo-batch: " + complaint) + "\n" + usageText());

@@ -8,7 +8,7 @@
 #include "cli/convert_command_line.h"
 #include "cli/convert_files.h"
 #include "cli/convert_report.h"
-#include "cli/progress_bar.h"
+#include "cli/terminal_line.h"
 #include "convert/refusal.h"
 #include "convert/whole_output.h"
 #include "library/bad_definition.h"
@@ -20,10 +20,6 @@ using namespace kelvo;
 constexpr int kAllConverted = 0;
 constexpr int kSomeNot = 1;
 constexpr int kNothingDone = 2;
-
-void print(std::FILE* stream, const std::string& text) {
-    std::fwrite(text.data(), 1, text.size(), stream);
-}
 
 int convert(const ConvertCommandLine& line, ConvertReport& report) {
     const PointConverter converter = converterOf(line);

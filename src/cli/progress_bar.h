@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <string>
 
+#include "cli/terminal_line.h"
+
 namespace kelvo {
 
 // "[#####---------------] 1/4 NAME", a name too long for `columns` cut from the front.
@@ -15,20 +17,14 @@ class ProgressBar {
 public:
     // A bar that isn't wanted prints nothing.
     ProgressBar(std::size_t total, bool wanted) : total_(total), wanted_(wanted) {}
-    ProgressBar(const ProgressBar&) = delete;
-    ProgressBar& operator=(const ProgressBar&) = delete;
-    ~ProgressBar() { clear(); }
 
     void show(std::size_t done, const std::string& name);
-    void clear();
+    void clear() { line_.wipe(); }
 
 private:
     std::size_t total_;
     bool wanted_;
-    std::size_t shown_ = 0;  // columns to wipe
+    TerminalLine line_;
 };
-
-// True if standard error is a terminal.
-[[nodiscard]] bool standardErrorIsTerminal();
 
 }  // namespace kelvo

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 
+#include "common/blanks.h"
 #include "convert/coordinate_text.h"
 #include "convert/refusal.h"
 
@@ -12,12 +13,6 @@ namespace {
 
 constexpr std::size_t kName = 0;
 constexpr std::size_t kThird = 3;
-
-std::string_view withoutBlanksAround(std::string_view text) {
-    while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
-    while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
-    return text;
-}
 
 [[noreturn]] void refuse(const std::string& reason) {
     throw Refusal("--columns: " + reason);
@@ -37,7 +32,7 @@ std::optional<ColumnWish> wishOf(std::string_view entry) {
 }
 
 std::string_view nameAt(const std::vector<std::string_view>& row, std::size_t place) {
-    return withoutBlanksAround(row[place]);
+    return trimmed(row[place]);
 }
 
 std::size_t placeOf(const ColumnWish& wish, const std::vector<std::string_view>& row,
@@ -76,7 +71,7 @@ ColumnWishes columnWishesOf(std::string_view text) {
         if (count == wishes.columns.size()) refuse("more than four entries");
         const std::size_t comma = text.find(',');
         goesOn = comma != std::string_view::npos;
-        wishes.columns[count] = wishOf(withoutBlanksAround(text.substr(0, comma)));
+        wishes.columns[count] = wishOf(trimmed(text.substr(0, comma)));
         if (goesOn) text.remove_prefix(comma + 1);
     }
     for (std::size_t i = kName + 1; i < kThird; ++i)

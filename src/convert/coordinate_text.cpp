@@ -2,6 +2,7 @@
 
 #include <charconv>
 
+#include "common/blanks.h"
 #include "common/number_text.h"
 #include "common/utf8.h"
 
@@ -16,12 +17,6 @@ constexpr char32_t kNoCharacter = 0xFFFD;
 
 bool isDigit(char c) {
     return c >= '0' && c <= '9';
-}
-
-std::string_view withoutBlanksAround(std::string_view text) {
-    while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
-    while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
-    return text;
 }
 
 std::size_t skipDigits(std::string_view text, std::size_t at) {
@@ -55,7 +50,7 @@ bool isNumber(std::string_view text) {
 }  // namespace
 
 CoordinateRead readCoordinate(std::string_view text) {
-    text = withoutBlanksAround(text);
+    text = trimmed(text);
     if (text.empty()) return {};
     if (!isNumber(text)) return {.outcome = Outcome::NoNumber};
     double value = 0;

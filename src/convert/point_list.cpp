@@ -5,6 +5,7 @@
 #include <charconv>
 #include <utility>
 
+#include "common/blanks.h"
 #include "common/run_time_fault.h"
 #include "common/text_file.h"
 #include "convert/coordinate_text.h"
@@ -18,14 +19,6 @@ namespace kelvo {
 namespace {
 
 using Row = std::vector<std::string>;
-
-constexpr std::string_view kBlanks = " \t\r\n";
-
-std::string_view withoutBlanksAround(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(kBlanks);
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(kBlanks) + 1 - first);
-}
 
 bool isEmpty(const Row& row) {
     return std::ranges::all_of(row, [](const std::string& cell) { return cell.empty(); });
@@ -50,10 +43,11 @@ bool take(PointList& list, Row row) {
 
 Row cellsByBlanks(std::string_view line) {
     Row cells;
-    for (std::size_t at = line.find_first_not_of(kBlanks); at != std::string_view::npos;) {
-        const std::size_t end = std::min(line.find_first_of(kBlanks, at), line.size());
+    for (std::size_t at = line.find_first_not_of(kBlanksAndLineEnds);
+         at != std::string_view::npos;) {
+        const std::size_t end = std::min(line.find_first_of(kBlanksAndLineEnds, at), line.size());
         cells.emplace_back(line.substr(at, end - at));
-        at = line.find_first_not_of(kBlanks, end);
+        at = line.find_first_not_of(kBlanksAndLineEnds, end);
     }
     return cells;
 }
@@ -61,7 +55,7 @@ Row cellsByBlanks(std::string_view line) {
 Row cellsByDelimiter(std::string line, char delimiter) {
     Row cells;
     for (const std::string_view field : allFields(line, delimiter))
-        cells.emplace_back(withoutBlanksAround(field));
+        cells.emplace_back(trimmed(field, kBlanksAndLineEnds));
     return cells;
 }
 
@@ -78,7 +72,7 @@ PointList listOfGeometry(VectorFormat format, const std::string& path) {
     list.system = reader->system();
     list.header = {"이름", "북쪽(위도)", "동쪽(경도)", "높이"};
     for (PointOfFile point; reader->read(point);) {
-        Row row{std::string(withoutBlanksAround(point.name)), {}, {}, {}};
+        Row row{std::string(trimmed(point.name, kBlanksAndLineEnds)), {}, {}, {}};
         if (point.place)
             row = {std::move(row.front()), shortestText(point.place->y),
                    shortestText(point.place->x), shortestText(point.place->height)};
@@ -94,7 +88,7 @@ PointList listOfSheet(VectorFormat format, const std::string& path) {
     PointList list;
     for (std::vector<std::string> cells; reader->read(cells);) {
         Row row;
-        for (const std::string& cell : cells) row.emplace_back(withoutBlanksAround(cell));
+        for (const std::string& cell : cells) row.emplace_back(trimmed(cell, kBlanksAndLineEnds));
         if (!take(list, std::move(row))) break;
     }
     return list;
@@ -119,7 +113,7 @@ PointList pointListOfText(std::string_view bytes) {
     if (bytes.find('\0') != std::string_view::npos) throw Refusal("글로 된 점 목록이 아닙니다");
     const std::string text = textOfBytes(bytes);
     std::string_view rest = text;
-    rest.remove_prefix(std::min(rest.find_first_not_of(kBlanks), rest.size()));
+    rest.remove_prefix(std::min(rest.find_first_not_of(kBlanksAndLineEnds), rest.size()));
     const std::string_view first = firstLineOf(rest);
     const bool byBlanks = first.find_first_of(",;\t") == std::string_view::npos;
     const char delimiter = delimiterOf(first);

@@ -4,19 +4,19 @@
 #include <utility>
 
 #include "desktop/picture_painter.h"
+#include "desktop/twips.h"
 
 namespace kelvo::desktop {
 
 namespace {
 
-constexpr int kPixelsPerInch = 600;
-constexpr double kTwipsPerInch = 1440;
+constexpr int kPaperPixelsPerInch = 600;
 
 }  // namespace
 
 PaperSurface::PaperSurface()
-    : PictureSurface({.twipsPerPixel = kTwipsPerInch / kPixelsPerInch,
-                      .pixelsPerInch = kPixelsPerInch,
+    : PictureSurface({.twipsPerPixel = kTwipsPerInch / kPaperPixelsPerInch,
+                      .pixelsPerInch = kPaperPixelsPerInch,
                       .erasedByBackColor = false}) {}
 
 void PaperSurface::EndDoc() {

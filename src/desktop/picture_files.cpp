@@ -11,18 +11,18 @@
 
 #include "desktop/picture_painter.h"
 #include "desktop/raster_modes.h"
+#include "desktop/twips.h"
 
 namespace kelvo::desktop {
 
 namespace {
 
-constexpr double kTwipsPerInch = 1440;
-constexpr double kPixelsPerInch = 300;
+constexpr double kSavedPixelsPerInch = 300;
 constexpr double kMostPixels = 40e6;  // a wide picture gets fewer pixels to the inch
 
 bool savePng(const FramedPicture& shown, const QString& path) {
     const QRectF& frame = shown.frame;
-    const double scale = std::min(kPixelsPerInch / kTwipsPerInch,
+    const double scale = std::min(kSavedPixelsPerInch / kTwipsPerInch,
                                   std::sqrt(kMostPixels / (frame.width() * frame.height())));
     QImage image((frame.size() * scale).toSize(), QImage::Format_RGB32);
     const int dotsPerMetre = static_cast<int>(std::lround(scale * kTwipsPerInch / 0.0254));

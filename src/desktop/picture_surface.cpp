@@ -4,18 +4,15 @@
 #include <cmath>
 #include <utility>
 
+#include "desktop/qt_text.h"
+#include "desktop/twips.h"
+
 namespace kelvo::desktop {
 
 namespace {
 
-constexpr double kTwipsPerPoint = 20;
-
 QColor colourOf(std::int32_t value) {
     return QColor(value & 0xFF, (value >> 8) & 0xFF, (value >> 16) & 0xFF);
-}
-
-QString qt(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 bool same(const TextLook& one, const TextLook& other) {

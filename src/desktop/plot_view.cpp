@@ -14,6 +14,7 @@
 
 #include "desktop/picture_files.h"
 #include "desktop/picture_painter.h"
+#include "desktop/twips.h"
 
 namespace kelvo::desktop {
 
@@ -22,7 +23,6 @@ namespace {
 constexpr double kMostMagnified = 60;
 constexpr double kKeyStep = 60;  // pixels that an arrow key moves the picture
 constexpr double kReach = 8;     // pixels from the pointer to a point that it names
-constexpr double kTwipsPerPixel = 15;
 constexpr int kTilesWide = 4;
 constexpr int kTilesHigh = 4;
 

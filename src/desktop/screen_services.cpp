@@ -20,13 +20,12 @@
 
 #include "common/shown_line.h"
 #include "desktop/paper_surface.h"
+#include "desktop/twips.h"
 #include "desktop/widget_book.h"
 
 namespace kelvo::desktop {
 
 namespace {
-
-constexpr double kTwipsPerPixel = 15;
 
 // While a box waits for its answer the pointer is free.
 class Waiting {

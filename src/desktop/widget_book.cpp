@@ -64,10 +64,6 @@ QString shownCaption(const Control& control) {
 
 }  // namespace
 
-QString qt(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 WidgetBook::WidgetBook(Form& form, EventGate& gate, QMenuBar& menuBar, QWidget* firstParent)
     : form_(form), gate_(gate), menuBar_(menuBar), firstParent_(firstParent) {
     for (Control& control : form.controls()) make(control);

@@ -13,6 +13,7 @@
 #include <string_view>
 
 #include "desktop/event_gate.h"
+#include "desktop/qt_text.h"
 #include "form/form.h"
 
 namespace kelvo::desktop {
@@ -80,7 +81,5 @@ private:
     bool takingText_ = false;
     PlotView* plotView_ = nullptr;
 };
-
-[[nodiscard]] QString qt(std::string_view text);
 
 }  // namespace kelvo::desktop

@@ -3,6 +3,8 @@
 #include <array>
 #include <string_view>
 
+#include "common/blanks.h"
+
 namespace kelvo {
 
 namespace {
@@ -26,17 +28,11 @@ std::array<SystemBoxes, 4> systemsOf(const Form& form) {
          {"UTM", {"txtUX", "txtUY", "txtUH"}}}};
 }
 
-std::string_view withoutBlanks(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 std::string rowOf(const Form& form, const SystemBoxes& system) {
     std::string row;
     for (const std::string_view box : system.boxes) {
         if (box != system.boxes.front()) row += '\t';
-        row += withoutBlanks(form.find(box)->text());
+        row += trimmed(form.find(box)->text());
     }
     return row;
 }

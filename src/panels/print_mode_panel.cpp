@@ -9,14 +9,14 @@ namespace kelvo {
 namespace {
 
 // The size that a view without a say of its own gives the panel, twips.
-constexpr double kWidth = 6000;
-constexpr double kHeight = 4500;
+constexpr double kFrameWidth = 6000;
+constexpr double kFrameHeight = 4500;
 
 }  // namespace
 
 PrintModePanel::PrintModePanel(Form& form, Control& window, Control& frmeOne, Control& frmeFile)
     : on_(form), window_(window), frmeOne_(frmeOne), frmeFile_(frmeFile) {
-    on_.frmePrintMode.setSize(kWidth, kHeight);
+    on_.frmePrintMode.setSize(kFrameWidth, kFrameHeight);
     on_.cmdModeSave.onClick = [this] { cmdModeSave_Click(); };
     on_.cmdModeCancel.onClick = [this] { cmdModeCancel_Click(); };
 }

@@ -3,6 +3,7 @@
 #include <array>
 #include <memory>
 
+#include "common/blanks.h"
 #include "common/checked_arithmetic.h"
 #include "common/fixed_width.h"
 #include "common/letter_case.h"
@@ -145,12 +146,6 @@ void setUpPage(clsplot1& object, const PrintMode& mode, Surface& printer) {
     if (mode.style == kItalic || mode.style == kBoldItalic) object.ChangeFontStyle(2, "t");
     if (mode.strikethru) object.ChangeFontStyle(3, "t");
     if (mode.underline) object.ChangeFontStyle(4, "t");
-}
-
-std::string_view trimmed(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
 void userPrint(const std::string& fileName, const std::string& ending, const PrintMode& mode,

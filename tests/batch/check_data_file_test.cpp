@@ -20,7 +20,7 @@ using testing::check;
 using testing::checkWithoutKnownPoints;
 using testing::linesOf;
 using testing::shown;
-using Lines = std::vector<long>;
+using LineNumbers = std::vector<long>;
 
 TEST(CheckDataFile, FindsNothingInAFileWithoutSlips) {
     const std::string good =
@@ -81,7 +81,7 @@ TEST(CheckDataFile, TakesEveryLineEnd) {
         const auto findings =
             check("zone 2" + lineEnd + lineEnd + "zone 중부" + lineEnd +
                   "WGS A 37.3533 126.3229 0" + lineEnd + "end" + lineEnd + lineEnd);
-        EXPECT_EQ(linesOf(Kind::BadZone, findings), Lines{3}) << shown(findings);
+        EXPECT_EQ(linesOf(Kind::BadZone, findings), LineNumbers{3}) << shown(findings);
     }
 }
 
@@ -95,7 +95,7 @@ TEST(CheckDataFile, SaysOfAnEmptyFileThatARunStops) {
 TEST(CheckDataFile, SaysOfAMissingFileOfKnownPointsOnlyWhereItIsNeeded) {
     const std::string point = "WGS A 37.3533 126.3229 0\nend\n\n";
     EXPECT_EQ(linesOf(Kind::NoKnownPoints, checkWithoutKnownPoints("CORRECTION\n" + point)),
-              Lines{1});
+              LineNumbers{1});
     EXPECT_EQ(shown(checkWithoutKnownPoints(point)), "");
 }
 
@@ -111,16 +111,16 @@ TEST(CheckDataFile, GivesFindingsOfTheKnownPointsAfterItsOwn) {
 TEST(CheckDataFile, SaysThatKnownPointsAreNeverRead) {
     const std::string late =
         "WGS A 37.3533 126.3229 0\nCORRECTION\nWGS B 37.3533 126.3229 0\nend\n\n";
-    EXPECT_EQ(linesOf(Kind::NoKnownPoints, check(late)), Lines{2});
+    EXPECT_EQ(linesOf(Kind::NoKnownPoints, check(late)), LineNumbers{2});
     const std::string read =
         "WGS A 37.3533 126.3229 0\nCORRECTION\nadd 10.405\nWGS B 37.3533 126.3229 0\nend\n\n";
-    EXPECT_EQ(linesOf(Kind::NoKnownPoints, check(read)), Lines{});
+    EXPECT_EQ(linesOf(Kind::NoKnownPoints, check(read)), LineNumbers{});
 }
 
 TEST(CheckDataFile, NamesTheDistanceToTheNearestKnownPoint) {
     // 부산 (35.16712, 129.08192) to 수원 (37.28626, 127.00442): 300 km along a great circle.
     const auto findings = check("CORRECTION\nINPUT deg\nWGS B 35.16712 129.08192 0\nend\n\n");
-    ASSERT_EQ(linesOf(Kind::FarFromKnownPoints, findings), Lines{3}) << shown(findings);
+    ASSERT_EQ(linesOf(Kind::FarFromKnownPoints, findings), LineNumbers{3}) << shown(findings);
     EXPECT_NE(shown(findings).find(" 300 km "), std::string::npos) << shown(findings);
 }
 
@@ -142,8 +142,8 @@ TEST(CheckDataFile, LooksAtThePointsThatFollowAStop) {
     const auto findings = check(
         "CORRECTION\nWGS A 37.35286118 126.32345468 67\nINPUT deg\n"
         "WGS B 37.5912810556 126.5429296667 67\nWGS C 126.3229 37.3533 0\nend\n\n");
-    EXPECT_EQ(linesOf(Kind::RunStops, findings), Lines{4}) << shown(findings);
-    EXPECT_EQ(linesOf(Kind::OutsideCountry, findings), Lines{5}) << shown(findings);
+    EXPECT_EQ(linesOf(Kind::RunStops, findings), LineNumbers{4}) << shown(findings);
+    EXPECT_EQ(linesOf(Kind::OutsideCountry, findings), LineNumbers{5}) << shown(findings);
 }
 
 TEST(CheckDataFile, QuotesNoControlCharacterAndNoLongWord) {
@@ -157,9 +157,9 @@ TEST(CheckDataFile, QuotesNoControlCharacterAndNoLongWord) {
 TEST(CheckDataFile, LeavesTheManualOfTheSampleAlone) {
     const std::string sample = decodeCodePage(
         testing::TemporaryFolder::readBytes(KELVO_SOURCE_DIR "/examples/sample.dat"));
-    EXPECT_EQ(linesOf(Kind::AfterEnd, check(sample)), Lines{});
+    EXPECT_EQ(linesOf(Kind::AfterEnd, check(sample)), LineNumbers{});
     const auto more = check(sample + "WGS B 37.3533 126.3229 0\r\n\r\n");
-    EXPECT_EQ(linesOf(Kind::AfterEnd, more), Lines{214});
+    EXPECT_EQ(linesOf(Kind::AfterEnd, more), LineNumbers{214});
 }
 
 std::string example(const std::string& name) {
@@ -262,10 +262,10 @@ TEST(CheckDataFile, ForetellsEachFaultThatDataCanCause) {
 }
 
 TEST(CheckDataFile, SuspectsGridPointsThatAreNoGridPoints) {
-    EXPECT_EQ(linesOf(Kind::BadPoint, check("UTM A 37.3533 126.3229 0\nend\n\n")), Lines{1});
+    EXPECT_EQ(linesOf(Kind::BadPoint, check("UTM A 37.3533 126.3229 0\nend\n\n")), LineNumbers{1});
     // An origin of one's own may have small coordinates.
     const std::string own = "tm para\n6377397.155 299.1528128\n37.5 127\n0 0\n1\n";
-    EXPECT_EQ(linesOf(Kind::BadPoint, check(own + "TM A 377.3 126.3 0\nend\n\n")), Lines{});
+    EXPECT_EQ(linesOf(Kind::BadPoint, check(own + "TM A 377.3 126.3 0\nend\n\n")), LineNumbers{});
 }
 
 }  // namespace

@@ -11,13 +11,13 @@ using testing::BatchBench;
 using Lines = std::vector<std::string>;
 
 constexpr std::size_t kNotes = 16;
-constexpr const char* kPoint = "\nWGS p 37.3 127 10\nend\n\n";
+constexpr const char* kOnePoint = "\nWGS p 37.3 127 10\nend\n\n";
 
 class Commands : public ::testing::Test {
 protected:
     // The header line of a run with these commands and one point after them, counted from 1.
     std::string header(const std::string& commands, std::size_t line) {
-        bench.run(commands + kPoint);
+        bench.run(commands + kOnePoint);
         EXPECT_EQ(bench.fault, 0) << bench.faultText;
         const Lines out = bench.out();
         return out.size() > kNotes + line ? out[kNotes + line - 1] : std::string();
@@ -35,7 +35,7 @@ protected:
 };
 
 TEST_F(Commands, WithoutAnyTheDefaultsHold) {
-    bench.run(kPoint);
+    bench.run(kOnePoint);
     const Lines out = bench.out();
     ASSERT_GT(out.size(), kNotes + 23);
     const Lines expected{
@@ -149,7 +149,7 @@ TEST_F(Commands, CaseAndLeadingSeparatorsDoNotCount) {
 }
 
 TEST_F(Commands, CommentsEmptyLinesAndUnknownWordsArePassedOver) {
-    bench.run("*zone 3\n\n   \nhello\nW GS\n가나다\n7x\n" + std::string(kPoint));
+    bench.run("*zone 3\n\n   \nhello\nW GS\n가나다\n7x\n" + std::string(kOnePoint));
     EXPECT_EQ(bench.fault, 0);
     EXPECT_EQ(bench.points(), 1);
     EXPECT_EQ(bench.out()[kNotes + 12], "   원점위도 =  38.00000      원점경도 = 127.00000");
@@ -231,13 +231,13 @@ TEST_F(Commands, AZoneNumberBeyondTheFiveKeepsItsOriginForAllPoints) {
 }
 
 TEST_F(Commands, AZoneNumberBeyondSixteenBitsIsAnOverflow) {
-    bench.run("zone 32768" + std::string(kPoint));
+    bench.run("zone 32768" + std::string(kOnePoint));
     EXPECT_EQ(bench.fault, 6);
-    bench.run("zone -32769" + std::string(kPoint));
+    bench.run("zone -32769" + std::string(kOnePoint));
     EXPECT_EQ(bench.fault, 6);
-    bench.run("zone 32767" + std::string(kPoint));
+    bench.run("zone 32767" + std::string(kOnePoint));
     EXPECT_EQ(bench.fault, 0);
-    bench.run("zone 1e39" + std::string(kPoint));
+    bench.run("zone 1e39" + std::string(kOnePoint));
     EXPECT_EQ(bench.fault, 0) << "more than the single field holds: zone 0";
 }
 
@@ -344,11 +344,11 @@ TEST_F(Commands, ParametersBetweenPointsGiveASecondHeader) {
     for (const char* command :
          {"7 para\n1 2 3\n4 5 6\n7", "zone 3", "add 0", "tm para\n6377397 299\n38 127\n5 2\n1",
           "utm para\n6377397 299\n0 129\n0 500000\n1"}) {
-        bench.run("WGS a 37.3 127 1\n*\n" + std::string(command) + kPoint);
+        bench.run("WGS a 37.3 127 1\n*\n" + std::string(command) + kOnePoint);
         EXPECT_EQ(headers(), 2) << command;
     }
     for (const char* command : {"NO CORR", "INPUT deg", "OUTPUT deg", "UTM 123", "1st 1 2 3"}) {
-        bench.run("WGS a 37.3 127 1\n*\n" + std::string(command) + kPoint);
+        bench.run("WGS a 37.3 127 1\n*\n" + std::string(command) + kOnePoint);
         EXPECT_EQ(headers(), 1) << command;
     }
 }

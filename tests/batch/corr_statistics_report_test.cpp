@@ -15,7 +15,7 @@ namespace {
 using testing::ReportBench;
 using Lines = std::vector<std::string>;
 
-const std::string kEnd = "*\n*\n";
+const std::string kEndLine = "*\n*\n";
 constexpr double kSecond = 1.0 / 3600;
 
 class Statistics : public ::testing::Test {
@@ -47,7 +47,7 @@ protected:
 };
 
 TEST_F(Statistics, AMissIsTheKnownPositionMinusTheComputedOne) {
-    ASSERT_EQ(bench.print(known("a", 10, 2, -3) + kEnd), 0);
+    ASSERT_EQ(bench.print(known("a", 10, 2, -3) + kEndLine), 0);
     EXPECT_NEAR(point(1).DPhi, 2 * kSecond, 2e-10);
     EXPECT_NEAR(point(1).DLam, -3 * kSecond, 2e-10);
     // the orthometric height is the ellipsoidal one less the geoid
@@ -58,7 +58,7 @@ TEST_F(Statistics, TheFirstAdjustmentCountsAsComputed) {
     bench.para.dPhi = 0.5;
     bench.para.dLam = -0.25;
     bench.para.dH = 1.5;
-    ASSERT_EQ(bench.print(known("a", 10, 2, -3) + kEnd), 0);
+    ASSERT_EQ(bench.print(known("a", 10, 2, -3) + kEndLine), 0);
     EXPECT_NEAR(point(1).DPhi, 1.5 * kSecond, 2e-10);
     EXPECT_NEAR(point(1).DLam, -2.75 * kSecond, 2e-10);
     EXPECT_NEAR(point(1).DH, 60 - (10 - geoid(point(1)) + 1.5), 1e-3);
@@ -66,7 +66,8 @@ TEST_F(Statistics, TheFirstAdjustmentCountsAsComputed) {
 
 TEST_F(Statistics, SumsMeansAndDeviationsTakeEveryPoint) {
     ASSERT_EQ(
-        bench.print(known("a", 10, 1, 4) + known("b", 20, 3, 4) + known("c", 30, 5, 10) + kEnd), 0);
+        bench.print(known("a", 10, 1, 4) + known("b", 20, 3, 4) + known("c", 30, 5, 10) + kEndLine),
+        0);
     EXPECT_NEAR(row("합계").Phi, 9 * kSecond, 5e-10);
     EXPECT_NEAR(row("합계").Lam, 18 * kSecond, 5e-10);
     EXPECT_NEAR(row("평균 ").Phi, 3 * kSecond, 5e-10);
@@ -77,7 +78,7 @@ TEST_F(Statistics, SumsMeansAndDeviationsTakeEveryPoint) {
 }
 
 TEST_F(Statistics, LengthsAreMetresAtThePointAndTheirMean) {
-    ASSERT_EQ(bench.print(known("a", 10, 3, 0) + known("b", 20, 0, 4) + kEnd), 0);
+    ASSERT_EQ(bench.print(known("a", 10, 3, 0) + known("b", 20, 0, 4) + kEndLine), 0);
     const auto atA = KelvoSub::ArcSecLen(point(1).WgsPhi, point(1).WgsLam);
     const auto atB = KelvoSub::ArcSecLen(point(2).WgsPhi, point(2).WgsLam);
     const double La = 3 * atA.MPhi;
@@ -88,14 +89,14 @@ TEST_F(Statistics, LengthsAreMetresAtThePointAndTheirMean) {
 }
 
 TEST_F(Statistics, TheLengthOfTheDeviationIsTakenAtAFixedPlace) {
-    ASSERT_EQ(bench.print(known("a", 10, 3, 0) + known("b", 20, -3, 8) + kEnd), 0);
+    ASSERT_EQ(bench.print(known("a", 10, 3, 0) + known("b", 20, -3, 8) + kEndLine), 0);
     // deviations of 3 and 4 seconds, at latitude 35 and longitude 127: 30.8136 and 25.3548 m
     const double L = std::sqrt(std::pow(3 * 30.8136, 2) + std::pow(4 * 25.3548, 2));
     EXPECT_NEAR(row("평균편차").L, L, 5e-4);
 }
 
 TEST_F(Statistics, TheDeviationOfHeightsIsSmallerByTheRootOfTwo) {
-    ASSERT_EQ(bench.print(known("a", 10, 0, 0) + known("b", 20, 0, 0, "10", "64") + kEnd), 0);
+    ASSERT_EQ(bench.print(known("a", 10, 0, 0) + known("b", 20, 0, 0, "10", "64") + kEndLine), 0);
     const double plain = std::fabs(point(2).DH - point(1).DH) / 2;
     EXPECT_NEAR(plain, 2, 0.3);
     EXPECT_NEAR(row("평균편차").h, plain / std::sqrt(2.0), 1e-4);
@@ -103,14 +104,14 @@ TEST_F(Statistics, TheDeviationOfHeightsIsSmallerByTheRootOfTwo) {
 }
 
 TEST_F(Statistics, OnePointHasNoDeviationsAndIsNotFlagged) {
-    ASSERT_EQ(bench.print(known("a", 10, 50, -50) + kEnd), 0);
+    ASSERT_EQ(bench.print(known("a", 10, 50, -50) + kEndLine), 0);
     EXPECT_EQ(row("평균편차").Phi, 0);
     EXPECT_EQ(row("평균편차").h, 0);
     EXPECT_EQ(bench.detLine("다음 보정점들에서"), "");
 }
 
 TEST_F(Statistics, TwoPointsAreNeverFlagged) {
-    ASSERT_EQ(bench.print(known("a", 10, 29, -29) + known("b", 20, -29, 29) + kEnd), 0);
+    ASSERT_EQ(bench.print(known("a", 10, 29, -29) + known("b", 20, -29, 29) + kEndLine), 0);
     EXPECT_EQ(bench.detLine("다음 보정점들에서"), "");
 }
 
@@ -118,10 +119,10 @@ TEST_F(Statistics, ElevenPointsAreTheFewestThatFlagOne) {
     // one of n apart is sqrt(n - 1) deviations from the mean
     std::string nine;
     for (int i = 0; i < 8; ++i) nine += known("p", 10 + i, 0, 0);
-    ASSERT_EQ(bench.print(nine + known("far", 40, 20, 20) + kEnd), 0);
+    ASSERT_EQ(bench.print(nine + known("far", 40, 20, 20) + kEndLine), 0);
     EXPECT_EQ(bench.detLine("다음 보정점들에서"), "");
     std::string eleven = nine + known("p", 50, 0, 0) + known("p", 51, 0, 0);
-    ASSERT_EQ(bench.print(eleven + known("far", 40, 20, 0.5) + kEnd), 0);
+    ASSERT_EQ(bench.print(eleven + known("far", 40, 20, 0.5) + kEndLine), 0);
     EXPECT_EQ(bench.detLine("다음 보정점들에서"),
               " 다음 보정점들에서  3.0 배의 표준편차보다 큰 차이가 발견되었습니다. 체크후 다시 "
               "실행하십시오");
@@ -130,7 +131,7 @@ TEST_F(Statistics, ElevenPointsAreTheFewestThatFlagOne) {
 TEST_F(Statistics, TheWarningNamesLatitudeAndLongitudeSeparately) {
     std::string text;
     for (int i = 0; i < 14; ++i) text += known("p", 10 + i, 0, 0);
-    ASSERT_EQ(bench.print(text + known("북", 40, 20, 0) + known("동", 41, 0, 20) + kEnd), 0);
+    ASSERT_EQ(bench.print(text + known("북", 40, 20, 0) + known("동", 41, 0, 20) + kEndLine), 0);
     const Lines det = bench.lines("/det");
     const auto at = std::find(det.begin(), det.end(), " 북 위도,  동 경도,  ");
     ASSERT_NE(at, det.end());
@@ -140,19 +141,19 @@ TEST_F(Statistics, TheWarningNamesLatitudeAndLongitudeSeparately) {
     EXPECT_EQ(*(at + 3), " 각 좌표점 별 보정량");
     EXPECT_TRUE(bench.messages.shown.empty());
 
-    ASSERT_EQ(bench.print(text + known("둘", 40, 20, -20) + kEnd), 0);
+    ASSERT_EQ(bench.print(text + known("둘", 40, 20, -20) + kEndLine), 0);
     EXPECT_NE(bench.detLine(" 둘 위도,  둘 경도,  "), "") << "one point may stand in it twice";
 }
 
 TEST_F(Statistics, HeightsAreNotTestedForOutliers) {
     std::string text;
     for (int i = 0; i < 14; ++i) text += known("p", 10 + i, i % 2, i % 2);
-    ASSERT_EQ(bench.print(text + known("h", 40, 0, 0, "10", "9000") + kEnd), 0);
+    ASSERT_EQ(bench.print(text + known("h", 40, 0, 0, "10", "9000") + kEndLine), 0);
     EXPECT_EQ(bench.detLine("다음 보정점들에서"), "");
 }
 
 TEST_F(Statistics, APointWithoutOneHeightCountsOnlyInLatitudeAndLongitude) {
-    ASSERT_EQ(bench.print(known("a", 10, 1, 1) + known("b", 20, 3, 3, "0", "120") + kEnd), 0);
+    ASSERT_EQ(bench.print(known("a", 10, 1, 1) + known("b", 20, 3, 3, "0", "120") + kEndLine), 0);
     EXPECT_NEAR(row("합계").Phi, 4 * kSecond, 5e-10);
     EXPECT_NEAR(row("합계").h, point(1).DH, 1e-4);
     EXPECT_NEAR(row("평균 ").h, point(1).DH, 1e-4);
@@ -164,21 +165,21 @@ TEST_F(Statistics, APointWithoutOneHeightCountsOnlyInLatitudeAndLongitude) {
 }
 
 TEST_F(Statistics, APointWithoutAHeightKeepsTheMissThatItsSlotHeld) {
-    ASSERT_EQ(bench.print(known("a", 10, 1, 1) + known("b", 20, 3, 3, "10", "63") + kEnd), 0);
+    ASSERT_EQ(bench.print(known("a", 10, 1, 1) + known("b", 20, 3, 3, "10", "63") + kEndLine), 0);
     const double before = point(2).DH;
     EXPECT_NE(before, 0);
-    ASSERT_EQ(bench.print(known("a", 10, 1, 1) + known("c", 20, 3, 3, "10", "0") + kEnd), 0);
+    ASSERT_EQ(bench.print(known("a", 10, 1, 1) + known("c", 20, 3, 3, "10", "0") + kEndLine), 0);
     EXPECT_EQ(point(2).DH, before);
 }
 
 TEST_F(Statistics, AnyOtherHeightHoweverSmallIsKnown) {
-    ASSERT_EQ(bench.print(known("a", 10, 1, 1, "1e-300", "1e-300") + kEnd), 0);
+    ASSERT_EQ(bench.print(known("a", 10, 1, 1, "1e-300", "1e-300") + kEndLine), 0);
     EXPECT_NEAR(point(1).DH, geoid(point(1)), 1e-3);
 }
 
 TEST_F(Statistics, AWeightOfZeroStillEntersEveryStatistic) {
     ASSERT_EQ(bench.print(known("a", 10, 1, 1) + known("b", 20, 3, 3, "10", "60", "0") +
-                          known("c", 30, 5, 5, "10", "60", "") + kEnd),
+                          known("c", 30, 5, 5, "10", "60", "") + kEndLine),
               0);
     EXPECT_NEAR(row("평균 ").Phi, 3 * kSecond, 5e-10);
 }
@@ -192,7 +193,7 @@ TEST_F(Statistics, WithoutAnyPointTheSumStandsBeforeTheFault) {
 }
 
 TEST_F(Statistics, WithoutAnyHeightTheSumStandsBeforeTheFault) {
-    EXPECT_EQ(bench.print(known("a", 10, 1, 1, "0", "0") + kEnd), 6);
+    EXPECT_EQ(bench.print(known("a", 10, 1, 1, "0", "0") + kEndLine), 6);
     const Lines det = bench.lines("/det");
     ASSERT_EQ(det.size(), 12U);
     EXPECT_NE(det.back().find(" 합계        "), std::string::npos);

@@ -73,14 +73,14 @@ TEST_P(StoredRun, WritesEveryByteOfItsReportsAndEndsWithItsExitCode) {
     EXPECT_EQ(ended.out, "");
 }
 
-std::string nameOf(const ::testing::TestParamInfo<std::string>& info) {
+std::string fileName(const ::testing::TestParamInfo<std::string>& info) {
     return info.param;
 }
 
 INSTANTIATE_TEST_SUITE_P(Stored, StoredRun,
                          ::testing::ValuesIn(testing::goldenCases(testing::goldenFolder() / "batch",
                                                                   ".dat")),
-                         nameOf);
+                         fileName);
 
 TEST_F(KelvoBatch, AMissingDataFileIsFault53AndLeavesNoFiles) {
     expectFault(run(folder.file("none.dat")), 53);

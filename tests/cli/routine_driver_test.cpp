@@ -53,14 +53,14 @@ TEST_P(RoutineScript, AnswersAsStored) {
     }
 }
 
-std::string nameOf(const ::testing::TestParamInfo<std::string>& info) {
+std::string scriptName(const ::testing::TestParamInfo<std::string>& info) {
     return info.param;
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Stored, RoutineScript,
     ::testing::ValuesIn(testing::goldenCases(testing::goldenFolder() / "routines", ".txt")),
-    nameOf);
+    scriptName);
 
 }  // namespace
 }  // namespace kelvo

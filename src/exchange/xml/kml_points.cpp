@@ -1,5 +1,6 @@
 #include "exchange/xml/kml_points.h"
 
+#include "common/blanks.h"
 #include "exchange/point_file_faults.h"
 #include "exchange/xml/place_text.h"
 
@@ -9,7 +10,7 @@ namespace {
 
 // Names often stand on lines of their own.
 std::string onOneLine(std::string_view name) {
-    std::string line(trimmed(name));
+    std::string line(trimmed(name, kBlanksAndLineEnds));
     std::erase_if(line, [](char letter) { return letter == '\n' || letter == '\r'; });
     return line;
 }

@@ -3,19 +3,19 @@
 #include <charconv>
 #include <string>
 
+#include "common/blanks.h"
+
 namespace kelvo {
 
 namespace {
 
-constexpr std::string_view kBlanks = " \t\r\n";
-
 // Blanks end a place, except beside a comma.
 std::string_view firstOf(std::string_view list) {
-    list = trimmed(list);
-    for (std::size_t at = list.find_first_of(kBlanks); at != std::string_view::npos;) {
-        const std::size_t next = list.find_first_not_of(kBlanks, at);
+    list = trimmed(list, kBlanksAndLineEnds);
+    for (std::size_t at = list.find_first_of(kBlanksAndLineEnds); at != std::string_view::npos;) {
+        const std::size_t next = list.find_first_not_of(kBlanksAndLineEnds, at);
         if (list[next] != ',' && list[at - 1] != ',') return list.substr(0, at);
-        at = list.find_first_of(kBlanks, next);
+        at = list.find_first_of(kBlanksAndLineEnds, next);
     }
     return list;
 }
@@ -29,14 +29,8 @@ std::string_view cutAtComma(std::string_view& rest) {
 
 }  // namespace
 
-std::string_view trimmed(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(kBlanks);
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
-
 std::optional<double> numberIn(std::string_view text) {
-    text = trimmed(text);
+    text = trimmed(text, kBlanksAndLineEnds);
     if (text.starts_with('+')) text.remove_prefix(1);
     // Letters would be "inf" and "nan" to from_chars.
     if (text.find_first_not_of("0123456789.eE+-") != std::string_view::npos) return std::nullopt;
@@ -51,7 +45,7 @@ std::optional<Place> firstPlaceIn(std::string_view list) {
     std::string_view rest = firstOf(list);
     const auto x = numberIn(cutAtComma(rest));
     const auto y = numberIn(cutAtComma(rest));
-    const std::string_view height = trimmed(cutAtComma(rest));
+    const std::string_view height = trimmed(cutAtComma(rest), kBlanksAndLineEnds);
     const auto h = height.empty() ? 0.0 : numberIn(height);
     if (!x || !y || !h) return std::nullopt;
     return Place{.x = *x, .y = *y, .height = *h};

@@ -8,9 +8,6 @@
 
 namespace kelvo {
 
-// Without blanks, tabs and line ends around.
-[[nodiscard]] std::string_view trimmed(std::string_view text);
-
 // A number with blanks around it; nothing for any other text, or one that a double can't hold.
 [[nodiscard]] std::optional<double> numberIn(std::string_view text);
 
