@@ -106,7 +106,8 @@ void checkSwitchOn(const TextLine& line, const LineFields& fields, Findings& fin
 void checkSwitchOff(const TextLine& line, const LineFields& fields, bool corrects,
                     Findings& findings) {
     const std::string word = upperWord(fields, 2);
-    if (!corrects || word.empty() || isWordOf(Command::Correction, word)) return;
+    if (!corrects || word.empty() || word.starts_with("보정")) return;
+    if (!lettersOf(word).empty() && isWordOf(Command::Correction, word)) return;
     findings.add(Kind::OnlyResembles, line, fields[1],
                  quoted(fields[1].text) + "은(는) NO CORR 명령으로 읽혀 보정이 꺼집니다");
 }
