@@ -85,7 +85,7 @@ bool isRemark(const LineFields& fields) {
         word = withoutWideBlanks(fields[n].text);
     if (word.empty()) return true;
     const char32_t first = firstCharacter(word).code;
-    if (isAsciiLetter(first) || isWideLetter(first) || isDigit(word.front())) return false;
+    if (isAsciiLetter(first) || isWideLetter(first)) return false;
     return numberLength(word) == 0;
 }
 

@@ -99,13 +99,16 @@ TEST(CheckPoints, AGridPointWithinAKilometreOfZeroIsTakenForSomethingElse) {
               "1:6+7 " + small + ". 경위도이면 WGS나 UGS를 쓰십시오\n");
     EXPECT_EQ(saidOfPoints("TM A 377,504.2 125,963.9 0"),
               "1:6+3 " + small + ". 쉼표는 빈칸과 같아서 수를 나눕니다\n");
-    EXPECT_EQ(saidOfPoints("TM A 5 6,7"),
-              "1:6+1 " + small + ". 쉼표는 빈칸과 같아서 수를 나눕니다\n");
+    for (const std::string line : {"TM A 5 6,7", "TM A 5 0,9", "TM A 5 9,0"})
+        EXPECT_EQ(saidOfPoints(line),
+                  "1:6+1 " + small + ". 쉼표는 빈칸과 같아서 수를 나눕니다\n");
     for (const std::string line : {"TM A 5, 6", "TM A 5 ,6", "TM A 5 6,", "TM A,5 6"})
         EXPECT_EQ(saidOfPoints(line), "1:6+1 " + small + "\n") << line;
     EXPECT_EQ(saidOfPoints("zone 6\nTM A 5 6 0").find(small), std::string::npos);
     for (const std::string line : {"TM A 1000 0 0", "TM A 0 1000 0", "TM A -1000 0 0"})
-        EXPECT_EQ(saidOfPoints(line).find(small), std::string::npos) << line;
+        EXPECT_EQ(saidOfPoints(line), "") << line;
+    // 1,000 km south of 38 degrees.
+    EXPECT_NE(saidOfPoints("TM A -500000 200000 0").find("밖에 있습니다"), std::string::npos);
 }
 
 // In front of a guess: where the point has turned out to be.

@@ -92,7 +92,7 @@ std::string letter(char32_t code) {
 }
 
 TEST(CheckText, ALineIsARemarkUnlessALetterOrANumberStandsInFront) {
-    for (const std::string line : {"", "  ", "*", "* WGS", "*WGS", "# 1 2", "// x", "- x", "@A", "[",
+    for (const std::string line : {"", "  ", "*", "* WGS", "*WGS", "*9", "# 1 2", "// x", "- x", "@A", "[",
                                    "`", "{", "/", ":", "+x"})
         EXPECT_TRUE(isRemarkLine(line)) << line;
     for (const std::string line :

@@ -74,7 +74,8 @@ TEST(CheckWords, AWordThatOnlyResemblesACommandIsNamedWithTheCommandThatItIs) {
                       each.command + " 명령으로 읽힙니다. 명령은 첫 두 글자로만 가립니다\n");
     for (const Case& each : std::vector<Case>{{"TMX", "TM", " B 455000 160000 0\n"},
                                               {"utmx", "UTM", " B 4164000 283000 0\n"},
-                                              {"WGX", "WGS", " B 37.3534 126.3230 0\n"},
+                                              {"WGA", "WGS", " B 37.3534 126.3230 0\n"},
+                                              {"WGZ", "WGS", " B 37.3534 126.3230 0\n"},
                                               {"ugly", "UGS", " B 37.3534 126.3230 0\n"}})
         EXPECT_EQ(saidAfterPoint(each.word + each.rest),
                   "2:1+" + std::to_string(each.word.size()) + " \"" + each.word + "\"은(는) " +
@@ -90,7 +91,7 @@ TEST(CheckWords, BeginningsOfACommandAndMarksAfterItAreTheCommand) {
          {"7para\n" + kShiftLines, "7PARAMETERS\n" + kShiftLines, "1st 0 0 0\n",
           "1st-corr 0 0 0\n", "1STCORRECTION 0 0 0\n", "co\n", "Corr.\n", "CORRECTION\n", "no\n",
           "NOCORR\n", "ZO 2\n", "ad 1\n", "IN ddd.mmssss\n", "INPUT: ddd.mmssss\n", "ou deg\n",
-          "WGS84 B 37.3534 126.3230 0\n", "UG B 37.3534 126.3230 0\n", "TM para\n" + kGridLines,
+          "WGS84 B 37.3534 126.3230 0\n", "WGS[84] B 37.3534 126.3230 0\n", "WGS@ B 37.3534 126.3230 0\n", "UG B 37.3534 126.3230 0\n", "TM para\n" + kGridLines,
           "TMPARA\n" + kGridLines, "UTM  para\n" + kUtmGridLines, "UTMPARA\n" + kUtmGridLines}) {
         EXPECT_EQ(saidBeforePoint(line), "") << line;
     }
@@ -149,10 +150,11 @@ TEST(CheckWords, ACorrectionIsSaidNotToBeSwitchedOffByAWordAfterIt) {
 TEST(CheckWords, AHeadingThatSwitchesTheCorrectionOffIsNamedWhileItIsOn) {
     EXPECT_EQ(saidBeforePoint("CORRECTION\nNo 이름 위도\n"),
               "2:1+2 \"No\"은(는) NO CORR 명령으로 읽혀 보정이 꺼집니다\n");
-    EXPECT_EQ(saidBeforePoint("CORRECTION\nNo 1 2\n"),
-              "2:1+2 \"No\"은(는) NO CORR 명령으로 읽혀 보정이 꺼집니다\n");
+    for (const std::string heading : {"No 1 2", "No 이름"})
+        EXPECT_EQ(saidBeforePoint("CORRECTION\n" + heading + "\n"),
+                  "2:1+2 \"No\"은(는) NO CORR 명령으로 읽혀 보정이 꺼집니다\n");
     for (const std::string lines : {"CORRECTION\nNO\n", "CORRECTION\nNO corr\n",
-                                    "CORRECTION\nNO CORRECTION\n", "CORRECTION\nNO 보정\n", "No 이름 위도\n"})
+                                    "CORRECTION\nNO CORRECTION\n", "CORRECTION\nNO corr x\n", "CORRECTION\nNO 보정\n", "No 이름 위도\n"})
         EXPECT_EQ(saidBeforePoint(lines), "") << lines;
 }
 

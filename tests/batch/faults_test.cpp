@@ -8,7 +8,7 @@ namespace {
 
 using testing::BatchBench;
 
-constexpr std::size_t kNotes = 16;
+constexpr std::size_t kNotesOfFaults = 16;
 constexpr std::size_t kHeader = 23;
 const std::string kKnownOfFaults =
     "k1 37.30 127.00 10 37.2950 127.0007 20 1\nk2 37.40 127.10 12 37.3950 127.1007 22 1\n*\n*\n";
@@ -36,7 +36,7 @@ TEST(Faults, AMissingFileOfKnownPointsEndsTheRunBehindItsHeader) {
     BatchBench bench;
     bench.run("CORR\nWGS a 37.3 127 1\nend\n\n");
     EXPECT_EQ(bench.fault, 53);
-    EXPECT_EQ(bench.out().size(), kNotes + kHeader);
+    EXPECT_EQ(bench.out().size(), kNotesOfFaults + kHeader);
     EXPECT_TRUE(bench.det().empty());
     EXPECT_EQ(bench.points(), 0);
 }
@@ -51,7 +51,7 @@ TEST(Faults, TheTwoHundredAndFirstKnownPointIsASubscriptFault) {
     bench.known(known + "l 37.30 127.00 10 37.2950 127.0007 20 1\n*\n*\n");
     bench.run("CORR\nWGS a 37.301 127.001 1\nend\n\n");
     EXPECT_EQ(bench.fault, 9);
-    EXPECT_EQ(bench.out().size(), kNotes + kHeader);
+    EXPECT_EQ(bench.out().size(), kNotesOfFaults + kHeader);
 }
 
 TEST(Faults, WithoutAUsableWeightThePointCannotBeCorrected) {
