@@ -46,6 +46,8 @@ TEST(CheckOrigins, AZoneThatAPointDoesntKeepIsSaidOnceWithThePoint) {
               overridden("1", "TM", "127", "3", "129"));
     EXPECT_EQ(saidOfOrigins("zone 2\n" + kCentrePoint), "");
     EXPECT_EQ(saidOfOrigins("zone 6\n" + kEastPoint), "");
+    // No zone at all is a finding of its own.
+    EXPECT_EQ(saidOfOrigins("zone 0\n" + kEastPoint).find("바뀝니다"), std::string::npos);
     // Points of TM keep it, and one in front of the others has used it.
     EXPECT_EQ(saidOfOrigins("zone 3\nTM T 455000 160000 0\n" + kCentrePoint), "");
     EXPECT_EQ(saidOfOrigins("zone 3\n" + tmParameters("127") + kCentrePoint), "");

@@ -107,6 +107,8 @@ TEST(CheckPoints, AGridPointWithinAKilometreOfZeroIsTakenForSomethingElse) {
     EXPECT_EQ(saidOfPoints("zone 6\nTM A 5 6 0").find(small), std::string::npos);
     for (const std::string line : {"TM A 1000 0 0", "TM A 0 1000 0", "TM A -1000 0 0"})
         EXPECT_EQ(saidOfPoints(line), "") << line;
+    for (const std::string line : {"UTM A 0 2000 0", "UTM A 2000 0 0"})
+        EXPECT_NE(saidOfPoints(line).find("밖에 있습니다"), std::string::npos) << line;
     // 1,000 km south of 38 degrees.
     EXPECT_NE(saidOfPoints("TM A -500000 200000 0").find("밖에 있습니다"), std::string::npos);
 }
