@@ -76,6 +76,7 @@ TEST(CheckOrigins, JejuAndItsZoneBelongTogetherWhichIsSaidOnce) {
     const std::string elsewhere = " zone 5는 제주도의 원점인데 점이 제주도 밖에 있습니다\n";
     EXPECT_EQ(saidOfOrigins(jeju + "UGS L 33.2144 126.3145 0\n"), "1" + needed);
     EXPECT_EQ(saidOfOrigins("zone 5\n" + jeju), "");
+    EXPECT_EQ(saidOfOrigins("zone 6\n" + jeju), "");
     EXPECT_EQ(saidOfOrigins("zone 5\n" + kCentrePoint + kEastPoint), "2" + elsewhere);
     EXPECT_EQ(saidOfOrigins(jeju + "zone 5\n" + kCentrePoint), "1" + needed);
     EXPECT_EQ(saidOfOrigins("zone 5\n" + kCentrePoint + "zone 2\n" + jeju), "2" + elsewhere);

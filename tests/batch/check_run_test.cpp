@@ -126,5 +126,29 @@ TEST(CheckRun, TheTenThousandthPointIsTheLast) {
 }
 
 
+// From 129 degrees on, the grid point would be in the country; 320 km west of 123 it isn't.
+TEST(CheckRun, AGridPointHasTheOriginOfThePointInFrontOfIt) {
+    const std::string utm = "UTM B 4164000 180000 0\nend\n\n";
+    EXPECT_EQ(saidOfFile(kOnePoint + utm), "");
+    EXPECT_NE(saidOfFile("WGS A 37.3533 125.3229 0\n" + utm).find("밖에 있습니다"),
+              std::string::npos);
+    // From 131 degrees on, 250 km to the east of it.
+    const std::string tm = "TM B 455000 450000 0\nend\n\n";
+    EXPECT_EQ(saidOfFile(kOnePoint + tm), "");
+    EXPECT_NE(saidOfFile("WGS A 37.3533 130.3229 0\n" + tm).find("밖에 있습니다"),
+              std::string::npos);
+}
+
+TEST(CheckRun, OnAUtmOriginOfOnesOwnCoordinatesMayBeSmall) {
+    EXPECT_EQ(saidOfFile("utm para\n6377397.155 299.1528128\n37.5 127\n0 0\n1\n"
+                         "UTM A 377.3 126.3 0\nend\n\n"),
+              "");
+}
+
+TEST(CheckRun, AStopThatNoKnownPointCausesIsSaidWithoutACure) {
+    EXPECT_EQ(saidOfFile("7 para\n1e308 1e308 1e308\n1e308 1 1\n1e308\n" + kOnePoint + "end\n\n"),
+              "5 실행이 멈춥니다 (오류 6): 값이 나타낼 수 있는 범위를 넘었습니다\n");
+}
+
 }  // namespace
 }  // namespace kelvo

@@ -100,10 +100,18 @@ TEST(SystemFileCalls, ReadingAllTakesThePlaceOfWhatTheTextHeld) {
     calls.close(file);
 }
 
-TEST(SystemFileCalls, CarryingAttributesGivesZeroWhereItWorked) {
+TEST(SystemFileCalls, CarryingAttributesBringsAllOfThemAndLeavesNoOther) {
     const TemporaryFolder folder;
+    const std::string a = folder.file("a");
+    const std::string b = folder.file("b");
     folder.put("a", "a");
     folder.put("b", "b");
+    ASSERT_EQ(chmod(a.c_str(), 0640), 0);
+    const bool kept = setxattr(a.c_str(), "user.kelvo", "note", 4, 0) == 0;
+    if (kept) {
+        ASSERT_EQ(setxattr(a.c_str(), "user.second", "more", 4, 0), 0);
+        ASSERT_EQ(setxattr(b.c_str(), "user.other", "own", 3, 0), 0);
+    }
     SystemFileCalls calls;
     const FileHandle from = calls.openThere(folder.file("a"));
     const FileHandle to = calls.openThere(folder.file("b"));
@@ -111,6 +119,15 @@ TEST(SystemFileCalls, CarryingAttributesGivesZeroWhereItWorked) {
     EXPECT_EQ(calls.carryAttributes(-1, to), -EBADF);
     calls.close(from);
     calls.close(to);
+    EXPECT_EQ(statusOf(b).st_mode & 07777U, 0640U);
+    if (!kept) return;
+    std::array<char, 16> value{};
+    for (const auto& [name, held] :
+         {std::pair{"user.kelvo", "note"}, std::pair{"user.second", "more"}}) {
+        EXPECT_EQ(getxattr(b.c_str(), name, value.data(), value.size()), 4) << name;
+        EXPECT_STREQ(value.data(), held);
+    }
+    EXPECT_EQ(getxattr(b.c_str(), "user.other", value.data(), value.size()), -1);
 }
 
 TEST(SystemFileCalls, ALeftoverIsAFileOfThisUserThatNobodyHolds) {
