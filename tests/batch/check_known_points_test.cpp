@@ -55,9 +55,9 @@ TEST(CheckKnownPoints, ALineHasANameAndSevenNumbers) {
               "kelvo.cor 1 보정점에는 이름과 수 일곱 개가 있어야 합니다\n");
     for (std::size_t n = 2; n <= 8; ++n) {
         const std::string cut = goodPoint()[n - 1] + "-1";
-        EXPECT_EQ(saidOfKnown(lineWith(n, cut)),
-                  "kelvo.cor 1:" + columnOf(n) + "+" + std::to_string(cut.size()) + " \"" + cut +
-                      "\"은(는) 수로 다 읽히지 않습니다\n");
+        EXPECT_EQ(saidOfKnown(lineWith(n, cut)), "kelvo.cor 1:" + columnOf(n) + "+" +
+                                                     std::to_string(cut.size()) + " \"" + cut +
+                                                     "\"은(는) 수로 다 읽히지 않습니다\n");
     }
 }
 
@@ -98,9 +98,18 @@ TEST(CheckKnownPoints, APointOutsideTheCountryIsNamedAtItsLatitude) {
     const std::string outside =
         " 보정점이 쓸 수 있는 곳(위도 32~39도, 경도 124~132도) 밖에 있습니다\n";
     EXPECT_EQ(saidOfKnown("K 31.5 126.58 0 31.5 126.58 0 1\n"), "kelvo.cor 1:3+4" + outside);
-    EXPECT_EQ(saidOfKnown("* a\n\nK 37.5 133.5 0 37.5 133.5 0 1\n"),
-              "kelvo.cor 3:3+4" + outside);
+    EXPECT_EQ(saidOfKnown("* a\n\nK 37.5 133.5 0 37.5 133.5 0 1\n"), "kelvo.cor 3:3+4" + outside);
     EXPECT_EQ(saidOfKnown("K 32.5 126.58 0 32.5 126.58 0 1\n"), "");
+}
+
+TEST(CheckKnownPoints, OfOneLineComesTheNumberThenTheAngleThenTheHeightsThenThePlace) {
+    EXPECT_EQ(
+        saidOfKnown("K 30.7-1 126.58 9 31.1 126.58 5 1\n"),
+        "kelvo.cor 1:3+6 \"30.7-1\"은(는) 수로 다 읽히지 않습니다\n"
+        "kelvo.cor 1:3+6 \"30.7-1\"은(는) ddd.mmssss가 아닙니다: 분이 70입니다\n"
+        "kelvo.cor 1:31+1 WGS 타원체고에서 표고를 뺀 값이 4 m입니다. 우리나라에서는 15 m에서 34 "
+        "m입니다\n"
+        "kelvo.cor 1:3+6 보정점이 쓸 수 있는 곳(위도 32~39도, 경도 124~132도) 밖에 있습니다\n");
 }
 
 // A second of latitude is 30.827 m on Bessel's ellipsoid here; the point's own miss is 1.3 m.
@@ -114,8 +123,8 @@ TEST(CheckKnownPoints, AMissOfMoreThanAKilometreIsSaidInKilometres) {
                " km 어긋납니다\n";
     };
     EXPECT_EQ(said("37.35186070"), "");
-    EXPECT_EQ(said("37.35509930"), "");         // 32.386 seconds, 998.4 m and the miss
-    EXPECT_EQ(said("37.35510170"), far("1"));   // 32.41 seconds, 999.1 m and the miss
+    EXPECT_EQ(said("37.35509930"), "");           // 32.386 seconds, 998.4 m and the miss
+    EXPECT_EQ(said("37.35510170"), far("1"));     // 32.41 seconds, 999.1 m and the miss
     EXPECT_EQ(said("37.41186070"), far("11.1"));  // 6 minutes, 11,098 m
 }
 
@@ -135,9 +144,9 @@ TEST(CheckKnownPoints, AFileThatGivesNoCorrectionIsSaidToStopTheRunOnce) {
     EXPECT_EQ(testing::placed(testing::check(twice, lineWith(8, "0") + "\n\n")),
               stops + ": 모든 보정점의 가중치가 0입니다\n");
     EXPECT_EQ(testing::placed(testing::check(twice, "* a\n\n")), none);
-    EXPECT_EQ(testing::placed(testing::check(twice, lineWith(2, "x") + testing::kKnownPoints)),
-              testing::placed(testing::check(kCorrectedPoint,
-                                             lineWith(2, "x") + testing::kKnownPoints)));
+    EXPECT_EQ(
+        testing::placed(testing::check(twice, lineWith(2, "x") + testing::kKnownPoints)),
+        testing::placed(testing::check(kCorrectedPoint, lineWith(2, "x") + testing::kKnownPoints)));
     EXPECT_EQ(testing::placed(testing::checkWithoutKnownPoints(twice)),
               "1 보정점의 파일이 없어 실행이 멈춥니다 (오류 53): kelvo.cor\n");
 }
@@ -148,7 +157,8 @@ TEST(CheckKnownPoints, AFileThatARunCantReadIsSaidToStopIt) {
               "하였습니다\n");
     const std::string twoLines =
         " 실행이 멈춥니다 (오류 62). 마지막 점의 뒤에 빈 줄 둘을 두십시오\n";
-    EXPECT_EQ(saidOfKnownAlone(lineOf(goodPoint()) + lineOf(goodPoint())), "kelvo.cor 2" + twoLines);
+    EXPECT_EQ(saidOfKnownAlone(lineOf(goodPoint()) + lineOf(goodPoint())),
+              "kelvo.cor 2" + twoLines);
     EXPECT_EQ(saidOfKnownAlone(lineOf(goodPoint()) + "\n"), "kelvo.cor 2" + twoLines);
     EXPECT_EQ(saidOfKnownAlone(lineOf(goodPoint()) + "\n\n"), "");
     std::string many;
@@ -160,8 +170,7 @@ TEST(CheckKnownPoints, AFileThatARunCantReadIsSaidToStopIt) {
 
 TEST(CheckKnownPoints, APointOnTheLastLineIsSaidNotToBeRead) {
     const std::string good = lineOf(goodPoint());
-    const std::string unread =
-        " 파일의 마지막 줄이어서 읽지 않습니다. 뒤에 빈 줄 둘을 두십시오\n";
+    const std::string unread = " 파일의 마지막 줄이어서 읽지 않습니다. 뒤에 빈 줄 둘을 두십시오\n";
     EXPECT_EQ(saidOfKnownAlone(good + "\n" + good), "kelvo.cor 3" + unread);
     for (const std::string last : {"* 1 2", "K x 126", "K 37 x", "K 37", "K"})
         EXPECT_EQ(saidOfKnownAlone(good + "\n" + last), "") << last;

@@ -69,11 +69,13 @@ TEST(CheckNames, APairNeedsTwoPointsThatCameBefore) {
 
 TEST(CheckNames, APointAfterThePairIsSaidToComeTooLate) {
     const std::string late =
-        "4 첫 DIST 뒤에 있는 점 2개는 어느 표에도 나오지 않습니다. 점들을 모두 DIST 앞에 쓰십시오\n";
-    EXPECT_EQ(saidOfNames(pointsNamed({"A", "B"}) +
-                          "DIST A C\nWGS C 37.3533 126.3229 0\n    D 37.3534 126.3229 0\n"
-                          "DIST A C\n"),
-              "3:8+1 점 \"C\"은(는) 이 줄보다 뒤인 4번째 줄에 나와 거리를 구하지 못합니다\n" + late);
+        "4 첫 DIST 뒤에 있는 점 2개는 어느 표에도 나오지 않습니다. 점들을 모두 DIST 앞에 "
+        "쓰십시오\n";
+    EXPECT_EQ(
+        saidOfNames(pointsNamed({"A", "B"}) +
+                    "DIST A C\nWGS C 37.3533 126.3229 0\n    D 37.3534 126.3229 0\n"
+                    "DIST A C\n"),
+        "3:8+1 점 \"C\"은(는) 이 줄보다 뒤인 4번째 줄에 나와 거리를 구하지 못합니다\n" + late);
 }
 
 TEST(CheckNames, AThirdNameOfALineIsSaidNotToBeRead) {
@@ -96,9 +98,8 @@ TEST(CheckNames, APairOnTwoOriginsIsSaidWithBoth) {
     EXPECT_EQ(saidOfNames("WGS A 37.3533 126.3229 0\n    B 37.3533 128.3229 0\nDIST A B\n"),
               "3 두 점의 TM 원점이 달라 거리와 방향에 뜻이 없습니다: \"A\" 127.00289도, \"B\" "
               "129.00289도\n");
-    EXPECT_EQ(
-        saidOfNames("add 0\nWGS A 37.3533 126.3229 0\n    B 37.3533 128.3229 0\nDIST A B\n"),
-        "4 두 점의 TM 원점이 달라 거리와 방향에 뜻이 없습니다: \"A\" 127도, \"B\" 129도\n");
+    EXPECT_EQ(saidOfNames("add 0\nWGS A 37.3533 126.3229 0\n    B 37.3533 128.3229 0\nDIST A B\n"),
+              "4 두 점의 TM 원점이 달라 거리와 방향에 뜻이 없습니다: \"A\" 127도, \"B\" 129도\n");
 }
 
 TEST(CheckNames, OriginsDifferByEachOfTheirFiveValues) {

@@ -46,8 +46,9 @@ TEST(CheckParameters, AWordAfterFirstAdjustmentIsSaidToMoveTheValues) {
               "\"0.76\"은(는) 버림" +
                   end);
     for (const std::string rest : {"", " x"})
-        EXPECT_EQ(saidOf("1st corr 1 2" + rest + "\n"),
-                  "1:5+4 \"corr\"이(가) 첫째 값 0으로 읽힙니다: 위도 0초, 경도 1초, 높이 2 m" + end);
+        EXPECT_EQ(
+            saidOf("1st corr 1 2" + rest + "\n"),
+            "1:5+4 \"corr\"이(가) 첫째 값 0으로 읽힙니다: 위도 0초, 경도 1초, 높이 2 m" + end);
 }
 
 TEST(CheckParameters, TheFirstOfThreeAdjustmentsThatIsNoNumberIsNamed) {
@@ -135,9 +136,9 @@ TEST(CheckParameters, TheShiftWithAPivotIsKnownInBothDirectionsWhereItRotates) {
             EXPECT_EQ(saidOf(seven(shift, rotation)), said) << rotation;
         EXPECT_EQ(saidOf(seven(shift)), "") << shift;
     }
-    for (const std::string shift : {"145.908 -505.034 -685.756", "145.907 -505.035 -685.756",
-                                    "145.907 -505.034 -685.757", "-145.908 505.034 685.756",
-                                    "-145.907 505.035 685.756", "-145.907 505.034 685.757"})
+    for (const std::string shift :
+         {"145.908 -505.034 -685.756", "145.907 -505.035 -685.756", "145.907 -505.034 -685.757",
+          "-145.908 505.034 685.756", "-145.907 505.035 685.756", "-145.907 505.034 685.757"})
         EXPECT_EQ(saidOf(seven(shift, "1 2 3")), "") << shift;
 }
 

@@ -30,25 +30,30 @@ TEST(CheckPoints, MinutesAndSecondsEndBeforeSixty) {
 TEST(CheckPoints, TheCountryReachesFrom32To39DegreesAndFrom124To132) {
     for (const Position in : {Position{.Phi = 32, .Lam = 124}, Position{.Phi = 39, .Lam = 132}})
         EXPECT_TRUE(isInCountry(in));
-    for (const Position out : {Position{.Phi = 31.999, .Lam = 127}, Position{.Phi = 39.001, .Lam = 127},
-                               Position{.Phi = 37, .Lam = 123.999}, Position{.Phi = 37, .Lam = 132.001}})
+    for (const Position out :
+         {Position{.Phi = 31.999, .Lam = 127}, Position{.Phi = 39.001, .Lam = 127},
+          Position{.Phi = 37, .Lam = 123.999}, Position{.Phi = 37, .Lam = 132.001}})
         EXPECT_FALSE(isInCountry(out)) << out.Phi << " " << out.Lam;
-    for (const Position in : {Position{.Phi = 33.0, .Lam = 126.0}, Position{.Phi = 33.7, .Lam = 127.1}})
+    for (const Position in :
+         {Position{.Phi = 33.0, .Lam = 126.0}, Position{.Phi = 33.7, .Lam = 127.1}})
         EXPECT_TRUE(isOnJeju(in));
-    for (const Position out : {Position{.Phi = 32.99, .Lam = 126.5}, Position{.Phi = 33.71, .Lam = 126.5},
-                               Position{.Phi = 33.4, .Lam = 125.99}, Position{.Phi = 33.4, .Lam = 127.11}})
+    for (const Position out :
+         {Position{.Phi = 32.99, .Lam = 126.5}, Position{.Phi = 33.71, .Lam = 126.5},
+          Position{.Phi = 33.4, .Lam = 125.99}, Position{.Phi = 33.4, .Lam = 127.11}})
         EXPECT_FALSE(isOnJeju(out)) << out.Phi << " " << out.Lam;
 }
 
 TEST(CheckPoints, ANumberThatIsntReadAsItStandsIsNamedByItsCoordinate) {
-    const std::string zero = "은(는) 수가 아니어서 0으로 읽힙니다. 이름에는 빈칸을 쓸 수 없습니다\n";
+    const std::string zero =
+        "은(는) 수가 아니어서 0으로 읽힙니다. 이름에는 빈칸을 쓸 수 없습니다\n";
     for (const std::string word : {"WGS", "UGS"})
         EXPECT_EQ(saidOfPoints(word + " A x y z"), "1:7+1 위도 \"x\"" + zero + "1:9+1 경도 \"y\"" +
-                                                      zero + "1:11+1 높이 \"z\"" + zero);
+                                                       zero + "1:11+1 높이 \"z\"" + zero);
     EXPECT_EQ(saidOfPoints("TM A x y z"),
               "1:6+1 X \"x\"" + zero + "1:8+1 Y \"y\"" + zero + "1:10+1 높이 \"z\"" + zero);
     EXPECT_EQ(saidOfPoints("UTM A 1x1 4000000"), "1:7+3 X \"1x1\"에서 1만 읽힙니다\n");
-    EXPECT_EQ(saidOfPoints("WGS A 37-35-33 126.3229"), "1:7+8 위도 \"37-35-33\"에서 37만 읽힙니다\n");
+    EXPECT_EQ(saidOfPoints("WGS A 37-35-33 126.3229"),
+              "1:7+8 위도 \"37-35-33\"에서 37만 읽힙니다\n");
     EXPECT_EQ(saidOfPoints("WGS A 37.3533 126.3229 0\n      B 37.3533 126-32 0"),
               "2:17+6 경도 \"126-32\"에서 126만 읽힙니다\n");
     const std::string two = "1 이름 다음에 좌표 두 개가 있어야 합니다. 없는 것은 0으로 읽힙니다\n";
@@ -60,7 +65,8 @@ TEST(CheckPoints, ANumberThatIsntReadAsItStandsIsNamedByItsCoordinate) {
 }
 
 TEST(CheckPoints, OnlyAHeightThatIsntReadLeavesThePointItsPlace) {
-    const std::string zero = "은(는) 수가 아니어서 0으로 읽힙니다. 이름에는 빈칸을 쓸 수 없습니다\n";
+    const std::string zero =
+        "은(는) 수가 아니어서 0으로 읽힙니다. 이름에는 빈칸을 쓸 수 없습니다\n";
     const std::string outside =
         "1:7+2 점이 쓸 수 있는 곳(위도 32~39도, 경도 124~132도) 밖에 있습니다: 위도 20도, 경도 "
         "126도\n";
@@ -100,8 +106,7 @@ TEST(CheckPoints, AGridPointWithinAKilometreOfZeroIsTakenForSomethingElse) {
     EXPECT_EQ(saidOfPoints("TM A 377,504.2 125,963.9 0"),
               "1:6+3 " + small + ". 쉼표는 빈칸과 같아서 수를 나눕니다\n");
     for (const std::string line : {"TM A 5 6,7", "TM A 5 0,9", "TM A 5 9,0"})
-        EXPECT_EQ(saidOfPoints(line),
-                  "1:6+1 " + small + ". 쉼표는 빈칸과 같아서 수를 나눕니다\n");
+        EXPECT_EQ(saidOfPoints(line), "1:6+1 " + small + ". 쉼표는 빈칸과 같아서 수를 나눕니다\n");
     for (const std::string line : {"TM A 5, 6", "TM A 5 ,6", "TM A 5 6,", "TM A,5 6"})
         EXPECT_EQ(saidOfPoints(line), "1:6+1 " + small + "\n") << line;
     EXPECT_EQ(saidOfPoints("zone 6\nTM A 5 6 0").find(small), std::string::npos);
@@ -123,9 +128,9 @@ TEST(CheckPoints, APointOutsideTheCountryIsSaidWithItsPlaceAndAGuess) {
     // 126 32 29 is 126.5414 degrees, 37 35 33 is 37.5925.
     EXPECT_EQ(saidOfPoints("WGS A 126.3229 37.3533 0"),
               outsideAt("1:7+8", "126.5414", "37.5925") + ". 위도와 경도가 바뀐 것 같습니다\n");
-    EXPECT_EQ(saidOfPoints("WGS 37.3533 126.3229 10 0"),
-              outsideAt("1:13+8", "126.5414", "10") +
-                  ". 점의 이름이 빠져 한 칸씩 밀린 것 같습니다\n");
+    EXPECT_EQ(
+        saidOfPoints("WGS 37.3533 126.3229 10 0"),
+        outsideAt("1:13+8", "126.5414", "10") + ". 점의 이름이 빠져 한 칸씩 밀린 것 같습니다\n");
     EXPECT_EQ(saidOfPoints("WGS A 37 35 33 126 32 29"),
               outsideAt("1:7+2", "37", "35") + ". 도, 분, 초를 띄어 쓸 수 없습니다\n");
     EXPECT_EQ(saidOfPoints("WGS A 37 35 33 126 32"), outsideAt("1:7+2", "37", "35") + "\n");

@@ -15,8 +15,9 @@ const std::string kOnePoint = "WGS A 37.3533 126.3229 0\n";
 TEST(CheckRun, AFileWithoutPointsIsSaidToHaveNoneWhereItIsRead) {
     EXPECT_EQ(saidOfFile(""), "1 빈 파일이어서 실행이 멈춥니다 (오류 62)\n");
     const std::string none = " 여기까지 변환할 점이 하나도 없습니다\n";
-    EXPECT_EQ(saidOfFile("zone 2\n"), "1" + none + "1 파일의 마지막 줄이어서 실행되지 않습니다. "
-                                                   "뒤에 end와 빈 줄을 두십시오\n");
+    EXPECT_EQ(saidOfFile("zone 2\n"), "1" + none +
+                                          "1 파일의 마지막 줄이어서 실행되지 않습니다. "
+                                          "뒤에 end와 빈 줄을 두십시오\n");
     EXPECT_EQ(saidOfFile("zone 2\n* a\n\n"), "3" + none);
     EXPECT_EQ(saidOfFile("zone 2\nend\n* a\n\n"), "2" + none);
     EXPECT_EQ(saidOfFile("end\n\n"), "1" + none);
@@ -102,8 +103,7 @@ TEST(CheckRun, APointNextToAKnownPointStopsTheRunAndIsSaidWithTheCure) {
         "CORRECTION\nINPUT deg\nWGS A 37.5912810556 126.5429296667 67\nWGS B 37.5 126.5 60\n"
         "end\n\n");
     EXPECT_TRUE(said.starts_with("3 실행이 멈춥니다 (오류 6): ")) << said;
-    EXPECT_TRUE(
-        said.ends_with(". 보정점 바로 옆의 점이므로 좌표를 kelvo.cor와 똑같이 쓰십시오\n"))
+    EXPECT_TRUE(said.ends_with(". 보정점 바로 옆의 점이므로 좌표를 kelvo.cor와 똑같이 쓰십시오\n"))
         << said;
     EXPECT_EQ(std::count(said.begin(), said.end(), '\n'), 1) << said;
 }
@@ -124,7 +124,6 @@ TEST(CheckRun, TheTenThousandthPointIsTheLast) {
     EXPECT_EQ(saidOfFile(lines + "word\nend\n\n"),
               "10001 10000개가 넘는 점이어서 실행이 여기서 멈춥니다 (오류 9). 파일을 나누십시오\n");
 }
-
 
 // From 129 degrees on, the grid point would be in the country; 320 km west of 123 it isn't.
 TEST(CheckRun, AGridPointHasTheOriginOfThePointInFrontOfIt) {

@@ -92,8 +92,8 @@ std::string letter(char32_t code) {
 }
 
 TEST(CheckText, ALineIsARemarkUnlessALetterOrANumberStandsInFront) {
-    for (const std::string line : {"", "  ", "*", "* WGS", "*WGS", "*9", "# 1 2", "// x", "- x", "@A", "[",
-                                   "`", "{", "/", ":", "+x"})
+    for (const std::string line : {"", "  ", "*", "* WGS", "*WGS", "*9", "# 1 2", "// x", "- x",
+                                   "@A", "[", "`", "{", "/", ":", "+x"})
         EXPECT_TRUE(isRemarkLine(line)) << line;
     for (const std::string line :
          {"A", "Z", "a", "z", " a *", "0", "9x", "-1", "+2", ".5", "가", "&H1F"})
@@ -104,9 +104,9 @@ TEST(CheckText, LettersOfKoreanTextAreTheSyllablesTheJamoTheCharactersAndTheFull
     struct Run {
         char32_t first, last;
     };
-    for (const Run run : {Run{0xAC00, 0xD7A3}, Run{0x3131, 0x318E}, Run{0x4E00, 0x9FFF},
-                          Run{0xF900, 0xFAFF}, Run{0xFF10, 0xFF19}, Run{0xFF21, 0xFF3A},
-                          Run{0xFF41, 0xFF5A}}) {
+    for (const Run run :
+         {Run{0xAC00, 0xD7A3}, Run{0x3131, 0x318E}, Run{0x4E00, 0x9FFF}, Run{0xF900, 0xFAFF},
+          Run{0xFF10, 0xFF19}, Run{0xFF21, 0xFF3A}, Run{0xFF41, 0xFF5A}}) {
         EXPECT_FALSE(isRemarkLine(letter(run.first) + " 1")) << static_cast<unsigned>(run.first);
         EXPECT_FALSE(isRemarkLine(letter(run.last) + " 1")) << static_cast<unsigned>(run.last);
         EXPECT_TRUE(isRemarkLine(letter(run.first - 1) + " 1")) << static_cast<unsigned>(run.first);
@@ -129,8 +129,8 @@ TEST(CheckText, AQuotedWordHasTwentyFourCharactersAndNoControlCharacter) {
     EXPECT_EQ(kelvo::quoted(longest + "x"), "\"" + longest + "…\"");
     EXPECT_EQ(kelvo::quoted(""), "\"\"");
     EXPECT_EQ(kelvo::quoted("a\x1f"
-                     "b\x7f"
-                     "c\u0080\u009f~"),
+                            "b\x7f"
+                            "c\u0080\u009f~"),
               "\"a·b·c··~\"");
     EXPECT_EQ(kelvo::quoted("a b\u00a0"), "\"a b\u00a0\"");
 }
@@ -182,12 +182,11 @@ TEST(CheckText, AnEncodingIsWrongByItsMarkOrByTwoLettersOfUtf8) {
               "CP949(ANSI)로 저장하십시오");
     EXPECT_FALSE(marked.hidesCommands);
     const WrongEncoding letters = said("* 가나");
-    EXPECT_EQ(letters.text,
-              "UTF-8로 저장된 파일이라 한글이 깨집니다. CP949(ANSI)로 저장하십시오");
+    EXPECT_EQ(letters.text, "UTF-8로 저장된 파일이라 한글이 깨집니다. CP949(ANSI)로 저장하십시오");
     EXPECT_FALSE(letters.hidesCommands);
     // One letter of three bytes may be two of the code page by chance; so may letters of two.
-    for (const std::string_view bytes : {"* 가"sv, ""sv, "WGS A\0B"sv, "* \xC2\xB0\xC2\xB0"sv,
-                                         "가나\xB0"sv, "\xB0\xA1\xB3\xAA"sv})
+    for (const std::string_view bytes :
+         {"* 가"sv, ""sv, "WGS A\0B"sv, "* \xC2\xB0\xC2\xB0"sv, "가나\xB0"sv, "\xB0\xA1\xB3\xAA"sv})
         EXPECT_EQ(said(bytes).text, "") << bytes;
 }
 

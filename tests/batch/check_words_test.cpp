@@ -87,12 +87,29 @@ TEST(CheckWords, AWordThatOnlyResemblesACommandIsNamedWithTheCommandThatItIs) {
 }
 
 TEST(CheckWords, BeginningsOfACommandAndMarksAfterItAreTheCommand) {
-    for (const std::string& line : std::vector<std::string>
-         {"7para\n" + kShiftLines, "7PARAMETERS\n" + kShiftLines, "1st 0 0 0\n",
-          "1st-corr 0 0 0\n", "1STCORRECTION 0 0 0\n", "co\n", "Corr.\n", "CORRECTION\n", "no\n",
-          "NOCORR\n", "ZO 2\n", "ad 1\n", "IN ddd.mmssss\n", "INPUT: ddd.mmssss\n", "ou deg\n",
-          "WGS84 B 37.3534 126.3230 0\n", "WGS[84] B 37.3534 126.3230 0\n", "WGS@ B 37.3534 126.3230 0\n", "UG B 37.3534 126.3230 0\n", "TM para\n" + kGridLines,
-          "TMPARA\n" + kGridLines, "UTM  para\n" + kUtmGridLines, "UTMPARA\n" + kUtmGridLines}) {
+    for (const std::string& line : std::vector<std::string>{"7para\n" + kShiftLines,
+                                                            "7PARAMETERS\n" + kShiftLines,
+                                                            "1st 0 0 0\n",
+                                                            "1st-corr 0 0 0\n",
+                                                            "1STCORRECTION 0 0 0\n",
+                                                            "co\n",
+                                                            "Corr.\n",
+                                                            "CORRECTION\n",
+                                                            "no\n",
+                                                            "NOCORR\n",
+                                                            "ZO 2\n",
+                                                            "ad 1\n",
+                                                            "IN ddd.mmssss\n",
+                                                            "INPUT: ddd.mmssss\n",
+                                                            "ou deg\n",
+                                                            "WGS84 B 37.3534 126.3230 0\n",
+                                                            "WGS[84] B 37.3534 126.3230 0\n",
+                                                            "WGS@ B 37.3534 126.3230 0\n",
+                                                            "UG B 37.3534 126.3230 0\n",
+                                                            "TM para\n" + kGridLines,
+                                                            "TMPARA\n" + kGridLines,
+                                                            "UTM  para\n" + kUtmGridLines,
+                                                            "UTMPARA\n" + kUtmGridLines}) {
         EXPECT_EQ(saidBeforePoint(line), "") << line;
     }
 }
@@ -101,8 +118,9 @@ TEST(CheckWords, NumbersOnTheLineOfSevenParametersAreSaidNotToBeRead) {
     const auto said = [](const std::string& line) {
         return saidBeforePoint(line + "\n" + kShiftLines);
     };
-    EXPECT_EQ(said("7 115.8"),
-              "1:1+1 \"7\" 다음에 빈칸이 있어 7 para 명령으로 읽히고, 다음 세 줄이 그 값이 됩니다\n");
+    EXPECT_EQ(
+        said("7 115.8"),
+        "1:1+1 \"7\" 다음에 빈칸이 있어 7 para 명령으로 읽히고, 다음 세 줄이 그 값이 됩니다\n");
     const std::string unread = " 7 para 줄의 수는 읽지 않습니다. 다음 세 줄이 그 값이 됩니다\n";
     EXPECT_EQ(said("7 para 1 2 3"), "1:8+1" + unread);
     EXPECT_EQ(said("7para 11 2 3"), "1:7+2" + unread);
@@ -132,8 +150,8 @@ TEST(CheckWords, AFormOfAnglesToPrintIsOneOfFour) {
                   "1:8+" + std::to_string(form.size()) +
                       " OUTPUT의 형태는 deg, ddd mm ss.ss, ddd-mm-ss.ss, ddd.mmssss입니다. \"" +
                       form + "\"이면 ddd.mmssss로 나옵니다\n");
-    for (const std::string form : {"deg", "Deg", "ddd", "ddd mm ss.ss", "ddd-mm-ss.ss", "ddd-",
-                                   "ddd.mmssss", "DDD.M"})
+    for (const std::string form :
+         {"deg", "Deg", "ddd", "ddd mm ss.ss", "ddd-mm-ss.ss", "ddd-", "ddd.mmssss", "DDD.M"})
         EXPECT_EQ(saidBeforePoint("OUTPUT " + form + "\n"), "") << form;
 }
 
@@ -153,8 +171,9 @@ TEST(CheckWords, AHeadingThatSwitchesTheCorrectionOffIsNamedWhileItIsOn) {
     for (const std::string heading : {"No 1 2", "No 이름"})
         EXPECT_EQ(saidBeforePoint("CORRECTION\n" + heading + "\n"),
                   "2:1+2 \"No\"은(는) NO CORR 명령으로 읽혀 보정이 꺼집니다\n");
-    for (const std::string lines : {"CORRECTION\nNO\n", "CORRECTION\nNO corr\n",
-                                    "CORRECTION\nNO CORRECTION\n", "CORRECTION\nNO corr x\n", "CORRECTION\nNO 보정\n", "No 이름 위도\n"})
+    for (const std::string lines :
+         {"CORRECTION\nNO\n", "CORRECTION\nNO corr\n", "CORRECTION\nNO CORRECTION\n",
+          "CORRECTION\nNO corr x\n", "CORRECTION\nNO 보정\n", "No 이름 위도\n"})
         EXPECT_EQ(saidBeforePoint(lines), "") << lines;
 }
 

@@ -36,9 +36,12 @@ TEST(LowerCased, UndoesUpperCasing) {
 }
 
 // The letters of the code page that have two cases, one beside the other.
-constexpr std::pair<const char*, const char*> kBothCases[] = {
-    {"azæðøþđħĳŀłŋœŧ", "AZÆÐØÞĐĦĲĿŁŊŒŦ"}, {"αρσω", "ΑΡΣΩ"}, {"аяё", "АЯЁ"}, {"ⅰⅹ", "ⅠⅩ"},
-    {"ⓐⓩ", "ⒶⓏ"},                         {"ａｚ", "ＡＺ"}};
+constexpr std::pair<const char*, const char*> kBothCases[] = {{"azæðøþđħĳŀłŋœŧ", "AZÆÐØÞĐĦĲĿŁŊŒŦ"},
+                                                              {"αρσω", "ΑΡΣΩ"},
+                                                              {"аяё", "АЯЁ"},
+                                                              {"ⅰⅹ", "ⅠⅩ"},
+                                                              {"ⓐⓩ", "ⒶⓏ"},
+                                                              {"ａｚ", "ＡＺ"}};
 
 TEST(LetterCase, GoesBothWaysForTheFirstAndTheLastOfEachRow) {
     for (const auto& [lower, upper] : kBothCases) {
