@@ -34,8 +34,8 @@ protected:
 
 TEST_F(UnfinishedSave, WhateverWasWrittenOfItBecomesTheNewContent) {
     using std::string_literals::operator""s;
-    for (const std::string& held : {"before"s, "new"s, "nefore"s, "newore"s, "ne"s, ""s, "b\0f"s,
-                                    "new\0\0\0\0"s})
+    for (const std::string& held :
+         {"before"s, "new"s, "nefore"s, "newore"s, "ne"s, ""s, "b\0f"s, "new\0\0\0\0"s})
         for (const std::string after : {"new", ""}) {
             if (after.empty() && held.starts_with("n")) continue;
             finish(held, copyOf("before", after));
