@@ -19,7 +19,7 @@ std::string withLineEnds(std::string_view text) {
             result += text[i];
             continue;
         }
-        if (carriageReturn && i + 1 < text.size() && text[i + 1] == '\n') ++i;
+        if (carriageReturn && text.substr(i + 1).starts_with('\n')) ++i;
         result += "\r\n";
     }
     return result;

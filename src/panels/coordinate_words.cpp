@@ -154,20 +154,25 @@ char hemisphereOf(char letter) {
     return std::string_view("NSEW").find(upper) == std::string_view::npos ? '\0' : upper;
 }
 
+bool beginsWithDigit(std::string_view text) {
+    return !text.empty() && isDigit(text.front());
+}
+
+// Whether a hemisphere may follow: a digit, a point or a sign.
+bool takesHemisphere(std::string_view text) {
+    return !text.empty() &&
+           std::string_view("0123456789.\x01\x03").find(text.back()) != std::string_view::npos;
+}
+
 CoordinateWord wordOf(std::string_view text) {
     CoordinateWord word;
     word.text = text;
     std::string_view core = text;
-    // What a hemisphere may follow.
-    const auto isPlain = [](char letter) {
-        return isDigit(letter) || letter == '.' || letter == kDegreeSign || letter == kMinuteSign ||
-               letter == kSecondSign;
-    };
-    if (core.size() > 1 && hemisphereOf(core.front()) != '\0' && isDigit(core[1])) {
+    if (hemisphereOf(core.front()) != '\0' && beginsWithDigit(core.substr(1))) {
         word.hemisphere = hemisphereOf(core.front());
         core.remove_prefix(1);
-    } else if (core.size() > 1 && hemisphereOf(core.back()) != '\0' &&
-               isPlain(core[core.size() - 2])) {
+    } else if (hemisphereOf(core.back()) != '\0' &&
+               takesHemisphere(core.substr(0, core.size() - 1))) {
         word.hemisphere = hemisphereOf(core.back());
         core.remove_suffix(1);
     }
@@ -187,7 +192,7 @@ CoordinateWord wordOf(std::string_view text) {
 void joinHemispheres(std::vector<CoordinateWord>& words) {
     for (std::size_t at = 0; at < words.size();) {
         const std::string& text = words[at].text;
-        const char hemisphere = text.size() == 1 ? hemisphereOf(text.front()) : '\0';
+        const char hemisphere = text.size() == 1 ? hemisphereOf(text[0]) : '\0';
         const auto free = [&](std::size_t place) {
             return place < words.size() && words[place].kind != CoordinateWord::Kind::Other &&
                    words[place].hemisphere == '\0';
@@ -215,17 +220,17 @@ CoordinateLine coordinateWords(std::string_view text) {
     const std::string plain = withAnglesTogether(withPlainSigns(text));
     CoordinateLine line;
     std::size_t begin = 0;
+    std::size_t lastEnd = 0;  // of the word before
     for (std::size_t at = 0; at <= plain.size(); ++at) {
         if (at < plain.size() && !isGap(plain[at])) continue;
         if (at > begin) {
             if (!line.words.empty()) {
-                // What stands between this word and the one before.
-                const std::size_t gap = plain.find_last_not_of(" \t\n;,", begin - 1) + 1;
-                const bool tight = plain.substr(gap, begin - gap) == "," &&
-                                   isDigit(plain[gap - 1]) && isDigit(plain[begin]);
+                const bool tight = plain.substr(lastEnd, begin - lastEnd) == "," &&
+                                   isDigit(plain[lastEnd - 1]) && isDigit(plain[begin]);
                 (tight ? line.tightCommas : line.otherGaps) = true;
             }
             line.words.push_back(wordOf(std::string_view(plain).substr(begin, at - begin)));
+            lastEnd = at;
         }
         begin = at + 1;
     }

@@ -133,7 +133,7 @@ TEST(CoordinateWords, TakeTheHemisphereInFrontOrAtTheEnd) {
     EXPECT_EQ(wordsOf("S37-35-33 37-35-33W"), "angle 37 35 33 S; angle 37 35 33 W");
     EXPECT_EQ(wordsOf("37°35′33″S"), "angle 37 35 33 S");
     EXPECT_EQ(wordsOf("37.5x 37.5A D37.5"), "other 37.5x; other 37.5A; other D37.5");
-    EXPECT_EQ(wordsOf("N-5"), "other N-5");
+    EXPECT_EQ(wordsOf("N-5 N.5 5mN 5e1xE"), "other N-5; other N.5; other 5mN; other 5e1xE");
     EXPECT_EQ(wordsOf("NN"), "other NN");
 }
 
