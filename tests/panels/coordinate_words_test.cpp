@@ -39,8 +39,8 @@ TEST(CoordinateWords, AreNumbersWhereTheyAreOneFromEndToEnd) {
     for (const char* number :
          {"5", "-5", "5.", ".5", "-.5", "12.25", "5e3", "5E3", "5e-3", "5e+3", "-1.5e10", "0"})
         EXPECT_EQ(wordsOf(number), std::string("number ") + number);
-    for (const char* other : {"-", "+", ".", "-.", "5ee", "5e-", "5e3x", "--5", "+-5", "5-", "5.5.5",
-                              "1,5x", "x5", "5x", "e5x", ".e5", "5e3.5"}) {
+    for (const char* other : {"-", "+", ".", "-.", "5ee", "5e-", "5e3x", "--5", "+-5", "5-",
+                              "5.5.5", "1,5x", "x5", "5x", "e5x", ".e5", "5e3.5"}) {
         const auto words = coordinateWords(other).words;
         EXPECT_EQ(words.back().kind, CoordinateWord::Kind::Other) << other;
     }
@@ -169,7 +169,7 @@ TEST(CoordinateWords, AreWholeIfTheyAreNumbersOfDigitsAlone) {
         return coordinateWords(text).words[0].hasDigits();
     };
     for (const char* text : {"A1", "1A", "5", "37-35-33"}) EXPECT_TRUE(hasDigits(text)) << text;
-    for (const char* text : {"A", "도근점", "-"}) EXPECT_FALSE(hasDigits(text)) << text;
+    for (const char* text : {"A", "도근점", "-", ":", "/"}) EXPECT_FALSE(hasDigits(text)) << text;
 }
 
 TEST(CoordinateWords, SayWhetherACommaStandsBetweenDigits) {
