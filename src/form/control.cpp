@@ -12,7 +12,6 @@ namespace {
 // Every line end made CR LF.
 std::string withLineEnds(std::string_view text) {
     std::string result;
-    result.reserve(text.size());
     for (std::size_t i = 0; i < text.size(); ++i) {
         const bool carriageReturn = text[i] == '\r';
         if (!carriageReturn && text[i] != '\n') {

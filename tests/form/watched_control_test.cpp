@@ -63,7 +63,8 @@ protected:
             case Property::Value:
                 return control.value() ? "on" : "off";
             case Property::Items:
-                return std::to_string(control.items().size() + control.entries().size());
+                return std::to_string(control.items().size() + control.entries().size()) +
+                       (control.index() < 0 ? "" : " chosen");
             case Property::Index:
                 return std::to_string(control.index());
             case Property::Enabled:
@@ -151,6 +152,10 @@ TEST_F(WatchedControl, TellsItsViewOfATextBeforeTheChangeHandlerRuns) {
     box.onChange = [&] { heard.push_back("change " + box.text()); };
     box.typeText("5");
     EXPECT_EQ(heard, (Heard{"box text 5 1+0", "change 5"}));
+    box.setSelection(0, 1);
+    heard.clear();
+    box.setText("678");
+    EXPECT_EQ(heard, (Heard{"box text 678 0+0", "change 678"}));
 }
 
 TEST_F(WatchedControl, KeepsTheSelectionAtTheEndOfTheText) {
