@@ -62,9 +62,12 @@ protected:
                        std::to_string(control.selLength());
             case Property::Value:
                 return control.value() ? "on" : "off";
-            case Property::Items:
-                return std::to_string(control.items().size() + control.entries().size()) +
-                       (control.index() < 0 ? "" : " chosen");
+            case Property::Items: {
+                std::string text = std::to_string(control.items().size());
+                if (control.kind() == ControlKind::MenuArray) text.clear();
+                for (const MenuEntry& entry : control.entries()) text += entry.enabled ? "+" : "-";
+                return text + (control.index() < 0 ? "" : " chosen");
+            }
             case Property::Index:
                 return std::to_string(control.index());
             case Property::Enabled:
@@ -252,14 +255,14 @@ TEST_F(WatchedControl, OfAMenuTellsOfItsEntries) {
     menu.setEntryEnabled(2, false);
     menu.setEntryEnabled(2, false);
     menu.setEntryEnabled(1, true);
-    EXPECT_EQ(heard, (Heard{"menu items 3", "menu items 3"}));
+    EXPECT_EQ(heard, (Heard{"menu items +++", "menu items ++-"}));
     EXPECT_FALSE(menu.entries()[2].enabled);
     EXPECT_TRUE(menu.entries()[1].enabled);
     heard.clear();
     menu.unloadEntriesDownTo(3);
     EXPECT_EQ(heard, Heard{});
     menu.unloadEntriesDownTo(1);
-    EXPECT_EQ(heard, (Heard{"menu items 1"}));
+    EXPECT_EQ(heard, (Heard{"menu items +"}));
     menu.unloadEntriesDownTo(0);
     EXPECT_EQ(menu.highestIndex(), -1);
     EXPECT_EQ(faultNumberOf([&] { menu.unloadEntriesDownTo(-1); }), 9);
