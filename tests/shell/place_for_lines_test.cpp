@@ -83,6 +83,7 @@ TEST(PlaceForLines, IsAfterTheParametersOfACommand) {
     EXPECT_EQ(placed(text, 3, 1), "4");
     EXPECT_EQ(placed(text, 4, 0), "4");
     EXPECT_EQ(placed(text, 4, 1), "5");
+    EXPECT_EQ(placed("7 para\n1 2 3", 1, 3), "2e");
 }
 
 TEST(PlaceForLines, KnowsTheFormOfAnglesThatWasAskedForLast) {

@@ -29,6 +29,12 @@ TEST_F(StartUp, FirstStartWritesSampleAndConfigurationAndReadsThem) {
     EXPECT_TRUE(kelvo.told().empty());
 }
 
+// What a save that was cut short has left there goes.
+TEST_F(StartUp, TidiesTheApplicationFolderAndItsData) {
+    start();
+    EXPECT_EQ(disk.tidied, (std::set<std::string>{"/app", "/app/data"}));
+}
+
 TEST_F(StartUp, FirstConfigurationIsWrittenInZonesOfFourteenColumns) {
     start();
     const std::string editor = kFileNamesIgnoreCase ? "Notepad.exe" : "xdg-open";
