@@ -20,7 +20,7 @@ constexpr std::string_view kIndent = "   ";
 struct LineOfText {
     std::string_view text;
     LinesToCome before;  // what the line before has left
-    bool readsDegrees;
+    bool readsDegrees = false;
 };
 
 bool isBlank(std::string_view line) {
