@@ -74,12 +74,12 @@ ListAngles anglesOf(const PointList& list, const ImportChoice& choice) {
     return packed < kRowsForDms ? ListAngles::Degrees : ListAngles::Dms;
 }
 
+// For a choice that is still that of WGS84.
 bool takeFromHeader(const PointList& list, ImportChoice& choice) {
     choice.name = columnNamed(list, kNames);
     choice.height = columnNamed(list, kHeights);
     choice.north = columnNamed(list, kLatitudes);
     choice.east = columnNamed(list, kLongitudes);
-    choice.system = System::Wgs;
     if (choice.north != kNoListColumn && choice.east != kNoListColumn) return true;
     choice.north = columnNamed(list, kNorthings);
     choice.east = columnNamed(list, kEastings);
