@@ -30,9 +30,14 @@ TEST_F(StartUp, FirstStartWritesSampleAndConfigurationAndReadsThem) {
 }
 
 // What a save that was cut short has left there goes.
-TEST_F(StartUp, TidiesTheApplicationFolderAndItsData) {
+TEST_F(StartUp, TidiesTheApplicationFolderAndItsDataBeforeItReads) {
+    std::set<std::string> tidied;
+    disk.before = [&](const std::string& operation, const std::string& path) {
+        if (operation == "openForReading" && path == "/app/kelvo.cfg" && tidied.empty())
+            tidied = disk.tidied;
+    };
     start();
-    EXPECT_EQ(disk.tidied, (std::set<std::string>{"/app", "/app/data"}));
+    EXPECT_EQ(tidied, (std::set<std::string>{"/app", "/app/data"}));
 }
 
 TEST_F(StartUp, FirstConfigurationIsWrittenInZonesOfFourteenColumns) {
