@@ -12,14 +12,13 @@ namespace {
 // Every line end made CR LF.
 std::string withLineEnds(std::string_view text) {
     std::string result;
-    result.reserve(text.size());
     for (std::size_t i = 0; i < text.size(); ++i) {
         const bool carriageReturn = text[i] == '\r';
         if (!carriageReturn && text[i] != '\n') {
             result += text[i];
             continue;
         }
-        if (carriageReturn && i + 1 < text.size() && text[i + 1] == '\n') ++i;
+        if (carriageReturn && text.substr(i + 1).starts_with('\n')) ++i;
         result += "\r\n";
     }
     return result;

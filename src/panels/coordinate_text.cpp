@@ -32,8 +32,8 @@ constexpr const char* kWholeDegrees =
 // The minutes and seconds in the decimals of a ddd.mmssss are below 60.
 bool isDmsNumber(const std::string& number) {
     const std::size_t point = number.find('.');
-    std::string decimals = point == std::string::npos ? std::string() : number.substr(point + 1);
-    decimals.resize(std::max<std::size_t>(decimals.size(), 4), '0');
+    const std::string decimals =
+        (point == std::string::npos ? std::string() : number.substr(point + 1)) + "0000";
     return decimals[0] < '6' && decimals[2] < '6';
 }
 

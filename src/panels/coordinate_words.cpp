@@ -19,6 +19,10 @@ bool isDigit(char letter) {
     return letter >= '0' && letter <= '9';
 }
 
+bool endsInDigit(const std::string& text) {
+    return !text.empty() && isDigit(text.back());
+}
+
 bool isGap(char letter) {
     return letter == ' ' || letter == '\t' || letter == '\n' || letter == ';' || letter == ',';
 }
@@ -59,8 +63,7 @@ std::string withPlainSigns(std::string_view text) {
     std::string plain;
     while (!text.empty()) {
         const Utf8Character character = firstCharacter(text);
-        const bool afterDigit = !plain.empty() && isDigit(plain.back());
-        const char letter = plainLetter(character.code, afterDigit);
+        const char letter = plainLetter(character.code, endsInDigit(plain));
         if (letter != '\0')
             plain += letter;
         else
@@ -75,14 +78,14 @@ std::string withPlainSigns(std::string_view text) {
 std::string withAnglesTogether(const std::string& plain) {
     std::string result;
     for (std::size_t at = 0; at < plain.size(); ++at) {
-        result += plain[at];
+        const bool afterHyphen = plain[at] == '-' && endsInDigit(result);
         const bool afterDegrees = plain[at] == kDegreeSign;
-        const bool afterHyphen = plain[at] == '-' && at > 0 && isDigit(plain[at - 1]);
+        result += plain[at];
         if (!afterDegrees && !afterHyphen && plain[at] != kMinuteSign) continue;
         const std::size_t number = std::min(plain.find_first_not_of(' ', at + 1), plain.size());
         const std::size_t behind =
             std::min(plain.find_first_not_of("0123456789.", number), plain.size());
-        const char sign = behind < plain.size() ? plain[behind] : '\0';
+        const char sign = plain.c_str()[behind];  // '\0' at the end
         const bool minutesFollow = sign == kMinuteSign;
         const bool secondsFollow = !minutesFollow && sign != kDegreeSign;
         const bool together = afterHyphen || (afterDegrees ? minutesFollow : secondsFollow);
@@ -93,8 +96,7 @@ std::string withAnglesTogether(const std::string& plain) {
 
 // Takes digits off the front.
 std::string digits(std::string_view& rest) {
-    std::size_t length = 0;
-    while (length < rest.size() && isDigit(rest[length])) ++length;
+    const std::size_t length = std::min(rest.find_first_not_of("0123456789"), rest.size());
     std::string taken(rest.substr(0, length));
     rest.remove_prefix(length);
     return taken;
@@ -119,32 +121,32 @@ bool isNumber(std::string_view rest) {
     return rest.empty();
 }
 
-bool readAngle(std::string_view rest, CoordinateWord& word) {
+// Makes the word an angle if it is one from end to end.
+void readAngle(std::string_view rest, CoordinateWord& word) {
     const bool negative = !rest.empty() && rest.front() == '-';
     takes(rest, "+-");
     const std::string degrees = digits(rest);
     const bool signs = !rest.empty() && rest.front() == kDegreeSign;
-    if (!takes(rest, "-:\x01")) return false;
+    if (!takes(rest, "-:\x01")) return;
     const std::string minutes = digits(rest);
-    if (!takes(rest, signs ? "\x02" : "-:")) return false;
+    if (!takes(rest, signs ? "\x02" : "-:")) return;
     std::string seconds = digits(rest);
     if (degrees.empty() || degrees.size() > 3 || minutes.empty() || minutes.size() > 2 ||
         seconds.empty() || seconds.size() > 2) {
-        return false;
+        return;
     }
     if (takes(rest, ".")) {
         const std::string decimals = digits(rest);
-        if (decimals.empty()) return false;
+        if (decimals.empty()) return;
         seconds += '.' + decimals;
     }
     takes(rest, "\x03");
-    if (!rest.empty()) return false;
+    if (!rest.empty()) return;
     word.kind = CoordinateWord::Kind::Angle;
     word.degrees = degrees;
     word.minutes = minutes;
     word.seconds = seconds;
     word.negative = negative;
-    return true;
 }
 
 char hemisphereOf(char letter) {
@@ -152,28 +154,35 @@ char hemisphereOf(char letter) {
     return std::string_view("NSEW").find(upper) == std::string_view::npos ? '\0' : upper;
 }
 
+bool beginsWithDigit(std::string_view text) {
+    return !text.empty() && isDigit(text.front());
+}
+
+// Whether a hemisphere may follow: a digit, a point or a sign.
+bool takesHemisphere(std::string_view text) {
+    return !text.empty() &&
+           std::string_view("0123456789.\x01\x03").find(text.back()) != std::string_view::npos;
+}
+
 CoordinateWord wordOf(std::string_view text) {
     CoordinateWord word;
     word.text = text;
     std::string_view core = text;
-    const auto isPlain = [](char letter) { return isDigit(letter) || letter == '.'; };
-    if (core.size() > 1 && hemisphereOf(core.front()) != '\0' && isDigit(core[1])) {
+    if (hemisphereOf(core.front()) != '\0' && beginsWithDigit(core.substr(1))) {
         word.hemisphere = hemisphereOf(core.front());
         core.remove_prefix(1);
-    } else if (core.size() > 1 && hemisphereOf(core.back()) != '\0' &&
-               (isPlain(core[core.size() - 2]) || core[core.size() - 2] < ' ')) {
+    } else if (hemisphereOf(core.back()) != '\0' &&
+               takesHemisphere(core.substr(0, core.size() - 1))) {
         word.hemisphere = hemisphereOf(core.back());
         core.remove_suffix(1);
     }
-    if (readAngle(core, word)) return word;
-    if (core.size() > 1 && core.back() == kDegreeSign) {
-        word.saysDegrees = true;
-        core.remove_suffix(1);
-    } else if (core.size() > 1 && (core.back() == 'm' || core.back() == 'M')) {
-        core.remove_suffix(1);
-    }
+    readAngle(core, word);
+    if (word.kind == CoordinateWord::Kind::Angle) return word;
+    const bool inDegrees = core.back() == kDegreeSign;
+    if (inDegrees || core.back() == 'm' || core.back() == 'M') core.remove_suffix(1);
     if (isNumber(core)) {
         word.kind = CoordinateWord::Kind::Number;
+        word.saysDegrees = inDegrees;
         word.text = core.front() == '+' ? core.substr(1) : core;
     }
     return word;
@@ -183,7 +192,7 @@ CoordinateWord wordOf(std::string_view text) {
 void joinHemispheres(std::vector<CoordinateWord>& words) {
     for (std::size_t at = 0; at < words.size();) {
         const std::string& text = words[at].text;
-        const char hemisphere = text.size() == 1 ? hemisphereOf(text.front()) : '\0';
+        const char hemisphere = text.size() == 1 ? hemisphereOf(text[0]) : '\0';
         const auto free = [&](std::size_t place) {
             return place < words.size() && words[place].kind != CoordinateWord::Kind::Other &&
                    words[place].hemisphere == '\0';
@@ -211,17 +220,17 @@ CoordinateLine coordinateWords(std::string_view text) {
     const std::string plain = withAnglesTogether(withPlainSigns(text));
     CoordinateLine line;
     std::size_t begin = 0;
+    std::size_t lastEnd = 0;  // of the word before
     for (std::size_t at = 0; at <= plain.size(); ++at) {
         if (at < plain.size() && !isGap(plain[at])) continue;
         if (at > begin) {
             if (!line.words.empty()) {
-                // What stands between this word and the one before.
-                const std::size_t gap = plain.find_last_not_of(" \t\n;,", begin - 1) + 1;
-                const bool tight = plain.substr(gap, begin - gap) == "," &&
-                                   isDigit(plain[gap - 1]) && isDigit(plain[begin]);
+                const bool tight = plain.substr(lastEnd, begin - lastEnd) == "," &&
+                                   isDigit(plain[lastEnd - 1]) && isDigit(plain[begin]);
                 (tight ? line.tightCommas : line.otherGaps) = true;
             }
             line.words.push_back(wordOf(std::string_view(plain).substr(begin, at - begin)));
+            lastEnd = at;
         }
         begin = at + 1;
     }

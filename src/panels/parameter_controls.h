@@ -79,9 +79,6 @@ struct ParameterControls {
     [[nodiscard]] std::array<Control*, 6> zoneOptions() const {
         return {&optWest, &optCenter, &optEast, &optEastSea, &optJeju, &optUser};
     }
-    [[nodiscard]] std::array<Control*, 3> utmZoneOptions() const {
-        return {&optUTM3, &optUTM9, &optUUser};
-    }
 
     // Boxes with the fields that they stand for, in the order in which they are stored and shown.
     using BoxOfField = std::pair<Control*, double TransPara::*>;

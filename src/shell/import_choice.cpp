@@ -23,17 +23,18 @@ constexpr double kSameAxis = 1;         // metres; the axes of ellipsoids in use
 constexpr std::size_t kLooksAt = 100;   // rows
 constexpr std::size_t kRowsForDms = 2;  // one row of decimal degrees may look like ddd.mmssss
 
-constexpr std::array<std::string_view, 10> kNames{"name", "이름", "점명",  "점이름", "점번호",
-                                                  "번호", "측점", "point", "id",     "no"};
-constexpr std::array<std::string_view, 4> kLatitudes{"wgs_lat", "lat", "latitude", "위도"};
-constexpr std::array<std::string_view, 5> kLongitudes{"wgs_lon", "lon", "longitude", "lng", "경도"};
-constexpr std::array<std::string_view, 8> kNorthings{"x",        "tm_x",  "utm_x", "n",
-                                                     "northing", "north", "x좌표", "종선좌표"};
-constexpr std::array<std::string_view, 8> kEastings{"y",       "tm_y", "utm_y", "e",
-                                                    "easting", "east", "y좌표", "횡선좌표"};
-constexpr std::array<std::string_view, 12> kHeights{"h",     "z",    "height", "elevation",
-                                                    "ele",   "높이", "표고",   "타원체고",
-                                                    "wgs_h", "tm_h", "utm_h",  "level"};
+constexpr auto kNames = std::to_array<std::string_view>(
+    {"name", "이름", "점명", "점이름", "점번호", "번호", "측점", "point", "id", "no"});
+constexpr auto kLatitudes = std::to_array<std::string_view>({"wgs_lat", "lat", "latitude", "위도"});
+constexpr auto kLongitudes =
+    std::to_array<std::string_view>({"wgs_lon", "lon", "longitude", "lng", "경도"});
+constexpr auto kNorthings = std::to_array<std::string_view>(
+    {"x", "tm_x", "utm_x", "n", "northing", "north", "x좌표", "종선좌표"});
+constexpr auto kEastings = std::to_array<std::string_view>(
+    {"y", "tm_y", "utm_y", "e", "easting", "east", "y좌표", "횡선좌표"});
+constexpr auto kHeights =
+    std::to_array<std::string_view>({"h", "z", "height", "elevation", "ele", "높이", "표고",
+                                     "타원체고", "wgs_h", "tm_h", "utm_h", "level"});
 
 std::size_t columnNamed(const PointList& list, Words words) {
     for (const std::string_view word : words) {
@@ -73,12 +74,12 @@ ListAngles anglesOf(const PointList& list, const ImportChoice& choice) {
     return packed < kRowsForDms ? ListAngles::Degrees : ListAngles::Dms;
 }
 
+// For a choice that is still that of WGS84.
 bool takeFromHeader(const PointList& list, ImportChoice& choice) {
     choice.name = columnNamed(list, kNames);
     choice.height = columnNamed(list, kHeights);
     choice.north = columnNamed(list, kLatitudes);
     choice.east = columnNamed(list, kLongitudes);
-    choice.system = System::Wgs;
     if (choice.north != kNoListColumn && choice.east != kNoListColumn) return true;
     choice.north = columnNamed(list, kNorthings);
     choice.east = columnNamed(list, kEastings);

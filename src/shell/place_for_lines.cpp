@@ -64,17 +64,17 @@ public:
 
     // The line `end`, or the end of the text.
     [[nodiscard]] std::size_t endLine() const {
-        for (std::size_t line = 1; line < lines_.size(); ++line)
-            if (lines_[line].before.block == Block::End) return line - 1;
-        return count();
+        const auto after = std::ranges::find(
+            lines_, Block::End, [](const LineOfText& line) { return line.before.block; });
+        return after == lines_.end() ? count()
+                                     : static_cast<std::size_t>(after - lines_.begin()) - 1;
     }
 
     // Whether the line goes on with what stands in front of it.
     [[nodiscard]] bool belongsToLineBefore(std::size_t line) const {
         const LineOfText& here = lines_[line];
-        const bool parameters =
-            here.before.block == Block::Parameters && here.before.parameterLines > 0;
-        return parameters || (here.text.starts_with(kIndent) && !isBlank(here.text));
+        return here.before.parameterLines > 0 ||
+               (here.text.starts_with(kIndent) && !isBlank(here.text));
     }
 
 private:

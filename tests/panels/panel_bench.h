@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -85,7 +86,11 @@ protected:
     Control& frmeOne = form.frame("frmeOne", "frmKelvo", "");
     ParameterPanels parameters{form, state};
     int written = 0;  // how often the configuration was written
-    OnePointPanel panel{form, frmeOne, parameters, state, disk, messages, [this] { ++written; }};
+    std::function<void()> whenWritten;
+    OnePointPanel panel{form, frmeOne, parameters, state, disk, messages, [this] {
+                            ++written;
+                            if (whenWritten) whenWritten();
+                        }};
 };
 
 }  // namespace kelvo::testing

@@ -42,6 +42,32 @@ TEST_F(PlotCircles, AnglesAreBroughtIntoOneTurnOnceOnly) {
                               "Circle 567.0000 1134.0000 113.4000 0 -5.9341 0.1745 0.0000 192"}));
 }
 
+// Each end by itself, and 0 and 360 stay what they are.
+TEST_F(PlotCircles, EachEndOfAnArcIsBroughtIntoItsTurn) {
+    useScreen();
+    const struct {
+        double start;
+        double end;
+        const char* radians;
+    } arcs[] = {
+        {0, 90, "0.0000 1.5708"},    {90, 0, "1.5708 0.0000"},    {360, 90, "6.2832 1.5708"},
+        {90, 360, "1.5708 6.2832"},  {361, 91, "0.0175 1.5882"},  {91, 361, "1.5882 0.0175"},
+        {370, 400, "0.1745 0.6981"}, {-90, -45, "4.7124 5.4978"}, {-1, 90, "6.2657 1.5708"},
+        {90, -1, "1.5708 6.2657"},   {10, -300, "0.1745 1.0472"}, {0, 357, "0.0000 6.2308"},
+        {357, 0, "6.2308 0.0000"},   {0, 364, "0.0000 0.0698"}};
+    for (const auto& arc : arcs) {
+        object.pcircle(10, 20, 2, arc.start, arc.end, 0);
+        EXPECT_EQ(drawn(), Lines{"Circle 567.0000 1134.0000 113.4000 0 " +
+                                 std::string(arc.radians) + " 0.0000 192"})
+            << arc.start << ' ' << arc.end;
+    }
+    for (const auto& [start, end] :
+         {std::pair{0.0, 358.01}, {358.01, 0.0}, {0.0, 362.99}, {5.0, -355.0}}) {
+        object.pcircle(10, 20, 2, start, end, 0);
+        EXPECT_EQ(drawn(), Lines{kWhole}) << start << ' ' << end;
+    }
+}
+
 TEST_F(PlotCircles, ArcTakesThePensColour) {
     useScreen();
     object.setBlackWhite(true);

@@ -109,6 +109,13 @@ TEST_F(PlotGrid, LogarithmicDecadeHasItsLinesAtMultiplesAndItsMinorsBehindTheFir
     expectNear({values.begin() + 18, values.end()}, minors);
 }
 
+TEST_F(PlotGrid, LogarithmicDecadeHasOneMinorLessThanItsPeriods) {
+    useScreen();
+    // 2.3 periods a decade: the first is drawn, the second would still lie in the decade.
+    object.pgrid(0, 1, 100, 10, 10, 10 / 2.3, 0, 0, 100, 10, 10, 10, 2, 0, 0);
+    expectNear(valuesOf(readLines(), true, false), {1 + 10 / 2.3});
+}
+
 TEST_F(PlotGrid, LogarithmicYAxisDrawsLevelLines) {
     useScreen();
     object.pgrid(0, 0, 100, 10, 10, 10, 0, 1, 100, 100, 10, 10, 1, 0, 0);

@@ -92,6 +92,24 @@ TEST_F(PlotDevice, MagnificationOfZeroCountsAsOne) {
     EXPECT_EQ(drawn(), Lines{"DrawWidth = 2.0000"});
 }
 
+TEST_F(PlotDevice, MagnificationsOfZeroDrawAsOneDoes) {
+    const auto lineAt = [this](double sx, double sy) {
+        object.pinitialize(0, 0, sx, sy, 2, screen);
+        object.pwindow(0, 0, 100, 100, 0, 0, 100, 100, 0);
+        drawn();
+        object.pline(0, 0, 10, 20, 1, false);
+        object.pcircle(10, 20, 2, 0, 360, 1);
+        return drawn();
+    };
+    lineAt(1, 1);  // sets the width of the pen
+    const Lines plain = lineAt(1, 1);
+    EXPECT_EQ(lineAt(0, 1), plain);
+    EXPECT_EQ(lineAt(1, 0), plain);
+    EXPECT_EQ(lineAt(0, 0), plain);
+    EXPECT_NE(lineAt(2, 1), plain);
+    EXPECT_NE(lineAt(1, 2), plain);
+}
+
 TEST_F(PlotDevice, PenWidthIsAtLeastOnePixel) {
     useScreen();
     object.plwidth(0);

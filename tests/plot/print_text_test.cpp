@@ -131,6 +131,13 @@ TEST_F(FastPrint, NameOfFewerThanThreeCharactersIsAFault) {
     EXPECT_EQ(faultOf([&] { print("가나"); }), 5);
 }
 
+TEST_F(FastPrint, NameOfThreeCharactersIsItsOwnEnding) {
+    disk.putText("/work/dat", numberedLines(1));
+    print("dat");
+    // Four empty lines at the top: it counts as a data file.
+    EXPECT_EQ(disk.text("/work/temp"), "\r\n\r\n\r\n\r\nline 1\r\n\f\r\n");
+}
+
 TEST_F(FastPrint, TheScratchFileItselfIsAlreadyOpen) {
     mode.LeftMargin = 3;
     disk.putText("/work/temp", "one\r\n");

@@ -146,5 +146,22 @@ TEST_F(OnDisk, WhatIsNoJournalIsLeftAlone) {
     EXPECT_EQ(folder.bytes("unsaved/notes.txt"), "mine");
 }
 
+TEST_F(OnDisk, AnEntryCountsOnlyWithItsPathItsTimeAndAnEmptyLine) {
+    fs::create_directories(folder.file("unsaved/0123456789abcdef"));
+    const std::string head = "파일: /a.dat\r\n시각: 2004-06-07 09:30:00\r\n";
+    const auto offered = [&](const std::string& bytes) {
+        folder.put("unsaved/0123456789abcdef/viewer.txt", bytes);
+        const auto left = JournalFolder(folder.path()).left(Shelf::OnView);
+        return left.size() == 1 ? left.front().text.text : std::string("none");
+    };
+    EXPECT_EQ(offered(head + "\r\n글\r\n"), "글\r\n");
+    EXPECT_EQ(offered(head + "\r\n"), "");
+    for (const std::string& damaged :
+         {head, head + "글\r\n", head + "\n글", std::string("파일: /a.dat\r\n\r\n글"),
+          std::string("시각: 2004-06-07 09:30:00\r\n\r\n글"),
+          std::string("파일: /a.dat\r\n시각: 2004\n\n글"), std::string()})
+        EXPECT_EQ(offered(damaged), "none") << damaged;
+}
+
 }  // namespace
 }  // namespace kelvo

@@ -29,6 +29,17 @@ TEST_F(StartUp, FirstStartWritesSampleAndConfigurationAndReadsThem) {
     EXPECT_TRUE(kelvo.told().empty());
 }
 
+// What a save that was cut short has left there goes.
+TEST_F(StartUp, TidiesTheApplicationFolderAndItsDataBeforeItReads) {
+    std::set<std::string> tidied;
+    disk.before = [&](const std::string& operation, const std::string& path) {
+        if (operation == "openForReading" && path == "/app/kelvo.cfg" && tidied.empty())
+            tidied = disk.tidied;
+    };
+    start();
+    EXPECT_EQ(tidied, (std::set<std::string>{"/app", "/app/data"}));
+}
+
 TEST_F(StartUp, FirstConfigurationIsWrittenInZonesOfFourteenColumns) {
     start();
     const std::string editor = kFileNamesIgnoreCase ? "Notepad.exe" : "xdg-open";

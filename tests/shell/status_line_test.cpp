@@ -100,5 +100,25 @@ TEST_F(StatusLineOfTheWindow, SavingOnViewLeavesTheScreenAsItIs) {
     EXPECT_EQ(kelvo.window.fileOnView(), "/app/data/a.dat");
 }
 
+TEST(StatusLine, TellsItsViewOfEachChangeWhenItIsDone) {
+    StatusLine line;
+    line.add({3, "보는 이가 없습니다"});  // without a view nothing more happens
+    std::vector<std::string> heard;
+    line.onChange = [&] {
+        heard.push_back(line.sentence() + '|' + line.dataFile() + '|' +
+                        std::to_string(line.messages().size()));
+    };
+    line.say("열었습니다");
+    line.runBegins("a.dat");
+    line.add({2, "첫째"});
+    line.add({1, "둘째"});
+    line.say("끝났습니다");
+    EXPECT_EQ(heard,
+              (std::vector<std::string>{"열었습니다||1", "열었습니다|a.dat|0", "열었습니다|a.dat|1",
+                                        "열었습니다|a.dat|2", "끝났습니다|a.dat|2"}));
+    EXPECT_EQ(line.messages()[0].line, 2);
+    EXPECT_EQ(line.messages()[1].text, "둘째");
+}
+
 }  // namespace
 }  // namespace kelvo

@@ -22,7 +22,7 @@ public:
     void rename(const std::string& from, const std::string& to) override;
     bool sameFile(const std::string& one, const std::string& other) override;
     std::string placeOf(const std::string& path) override { return full(path); }
-    void tidy(const std::string&) override {}
+    void tidy(const std::string& folder) override { tidied.insert(folder); }
     std::unique_ptr<Turn> takeTurn(const std::string& folder) override;
     std::string currentFolder() override { return current_; }
     void setCurrentFolder(const std::string& path) override;
@@ -42,6 +42,7 @@ public:
 
     std::map<std::string, std::string> files;
     std::set<std::string> folders;
+    std::set<std::string> tidied;  // folders that were tidied up
     std::set<std::string> inTurn;  // folders at which somebody has its turn now
 
 private:
