@@ -1,0 +1,150 @@
+// Files that take their place as a whole, on a real disk.
+#include "convert/whole_output.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <filesystem>
+#include <string>
+#include <thread>
+
+#include "common/run_time_fault.h"
+#include "convert/file_identity.h"
+#include "support/temporary_folder.h"
+
+namespace kelvo {
+namespace {
+
+namespace fs = std::filesystem;
+
+class WholeOutput : public ::testing::Test {
+protected:
+    [[nodiscard]] std::size_t filesThere() const {
+        return static_cast<std::size_t>(
+            std::distance(fs::directory_iterator(folder.path()), fs::directory_iterator()));
+    }
+    // The fault of opening, 0 for none.
+    static int faultOfOpening(const std::string& path) {
+        try {
+            static_cast<void>(wholeFile(path));
+        } catch (const RuntimeFault& fault) {
+            return fault.number();
+        }
+        return 0;
+    }
+    static fs::perms permissions(const std::string& path) { return fs::status(path).permissions(); }
+
+    testing::TemporaryFolder folder;
+};
+
+TEST_F(WholeOutput, TakesItsPlaceWhenItIsClosedAndNotBefore) {
+    folder.put("a", "old");
+    const auto file = wholeFile(folder.file("a"));
+    file->write("ne");
+    file->write("w");
+    EXPECT_EQ(folder.bytes("a"), "old");
+    file->close();
+    EXPECT_EQ(folder.bytes("a"), "new");
+    EXPECT_EQ(filesThere(), 1U);
+}
+
+TEST_F(WholeOutput, ThatIsNeverClosedLeavesTheOldFileAndNothingElse) {
+    folder.put("a", "old");
+    wholeFile(folder.file("a"))->write("new");
+    EXPECT_EQ(folder.bytes("a"), "old");
+    EXPECT_EQ(filesThere(), 1U);
+    wholeFile(folder.file("b"))->write("new");
+    EXPECT_EQ(filesThere(), 1U);
+}
+
+TEST_F(WholeOutput, KeepsEveryPermissionOfTheOldFile) {
+    folder.put("a", "old");
+    for (const unsigned bits : {0640U, 0604U, 0755U, 02750U, 04711U}) {
+        fs::permissions(folder.file("a"), static_cast<fs::perms>(bits));
+        wholeFile(folder.file("a"))->close();
+        EXPECT_EQ(permissions(folder.file("a")), static_cast<fs::perms>(bits)) << bits;
+    }
+}
+
+TEST_F(WholeOutput, ANewFileHasThePermissionsOfAnyOther) {
+    const mode_t mask = ::umask(0);
+    wholeFile(folder.file("a"))->close();
+    ::umask(mask);
+    EXPECT_EQ(permissions(folder.file("a")), static_cast<fs::perms>(0666));
+}
+
+TEST_F(WholeOutput, ALinkIsFollowedEvenToWhatIsNotThereYet) {
+    fs::create_symlink("target", folder.file("link"));
+    const auto file = wholeFile(folder.file("link"));
+    file->write("new");
+    file->close();
+    EXPECT_TRUE(fs::is_symlink(folder.file("link")));
+    EXPECT_EQ(folder.bytes("target"), "new");
+}
+
+TEST_F(WholeOutput, WhatCannotBeWrittenIsAFaultAtOnce) {
+    EXPECT_NE(faultOfOpening(folder.path()), 0);
+    EXPECT_NE(faultOfOpening(folder.file("gone/a")), 0);
+    EXPECT_NE(faultOfOpening(folder.file("gone") + "/"), 0);
+    EXPECT_EQ(faultOfOpening(folder.file("a")), 0);
+    EXPECT_EQ(filesThere(), 0U);
+}
+
+TEST_F(WholeOutput, AFolderThatGoesBeforeTheEndIsAFault) {
+    fs::create_directory(folder.file("sub"));
+    const auto file = wholeFile(folder.file("sub/a"));
+    file->write("new");
+    fs::remove_all(folder.file("sub"));
+    EXPECT_THROW(file->close(), RuntimeFault);
+}
+
+TEST_F(WholeOutput, ADirectoryInItsPlaceAtTheEndIsAFaultThatLeavesNothing) {
+    const auto file = wholeFile(folder.file("a"));
+    file->write("new");
+    fs::create_directory(folder.file("a"));
+    EXPECT_THROW(file->close(), RuntimeFault);
+    EXPECT_EQ(filesThere(), 1U);
+}
+
+TEST_F(WholeOutput, APipeIsWrittenInPlaceAsTheBytesCome) {
+    const std::string path = folder.file("pipe");
+    ASSERT_EQ(::mkfifo(path.c_str(), 0600), 0);
+    std::string read;
+    std::thread reader([&] { read = testing::TemporaryFolder::readBytes(path); });
+    {
+        const auto pipe = wholeFile(path);
+        pipe->write("a");
+        pipe->write("bc");
+        pipe->close();
+    }
+    reader.join();
+    EXPECT_EQ(read, "abc");
+    EXPECT_TRUE(fs::is_fifo(path));
+}
+
+TEST_F(WholeOutput, ADeviceThatIsFullIsAFault) {
+    const auto full = wholeFile("/dev/full");
+    EXPECT_THROW(full->write("a"), RuntimeFault);
+}
+
+TEST_F(WholeOutput, AFileIsKnownByWhatItIsAndNotByItsName) {
+    folder.put("a", "four");
+    folder.put("b", "four");
+    fs::create_hard_link(folder.file("a"), folder.file("hard"));
+    fs::create_symlink("a", folder.file("soft"));
+    const auto a = identityOfFile(folder.file("a"));
+    ASSERT_TRUE(a);
+    EXPECT_EQ(a->size, 4U);
+    EXPECT_TRUE(a->isSameFile(*identityOfFile(folder.file("hard"))));
+    EXPECT_TRUE(a->isSameFile(*identityOfFile(folder.file("soft"))));
+    EXPECT_FALSE(a->isSameFile(*identityOfFile(folder.file("b"))));
+    EXPECT_FALSE((FileIdentity{.device = 1, .number = 2, .size = 3})
+                     .isSameFile({.device = 2, .number = 2, .size = 3}));
+    EXPECT_FALSE(identityOfFile(folder.file("gone")));
+    EXPECT_FALSE(identityOfFile(folder.path()));
+    EXPECT_FALSE(identityOfFile("/dev/null"));
+    EXPECT_FALSE(identityOfStream(-1));
+}
+
+}  // namespace
+}  // namespace kelvo
