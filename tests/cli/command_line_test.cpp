@@ -87,5 +87,36 @@ TEST(ProgressLine, ALongNameIsCutFromTheFrontBetweenCharacters) {
     EXPECT_EQ(line, "[--------------------] 0/5 /긴/자료.dat");
 }
 
+TEST(ProgressLine, OfNoFilesIsFull) {
+    EXPECT_EQ(progressLine(0, 0, "x"), "[####################] 0/0 x");
+    EXPECT_EQ(progressLine(3, 7, "x"), "[########------------] 3/7 x");
+}
+
+TEST(ProgressLine, FillsItsColumnsAndNoMore) {
+    const std::string bar = "[##########----------] 1/2 ";  // 27 columns
+    EXPECT_EQ(progressLine(1, 2, std::string(52, 'x')), bar + std::string(52, 'x'));
+    EXPECT_EQ(progressLine(1, 2, "a" + std::string(52, 'x')), bar + std::string(52, 'x'));
+    EXPECT_EQ(progressLine(1, 2, "abc", 29), bar + "bc");
+    EXPECT_EQ(progressLine(1, 2, "abc", 28), bar + "c");
+    EXPECT_EQ(progressLine(1, 2, "abc", 27), bar);
+    EXPECT_EQ(progressLine(1, 2, "abc", 5), bar);
+    EXPECT_EQ(progressLine(1, 2, "가", 29), bar);
+    EXPECT_EQ(progressLine(1, 2, "가", 30), bar + "가");
+}
+
+TEST(ProgressBar, ShowsALineThatGivesWay) {
+    ::testing::internal::CaptureStderr();
+    {
+        ProgressBar bar(2, true);
+        bar.show(1, "a");
+        bar.clear();
+        ProgressBar none(2, false);
+        none.show(1, "b");
+    }
+    const std::string line = "[##########----------] 1/2 a";
+    EXPECT_EQ(::testing::internal::GetCapturedStderr(),
+              line + "\r" + std::string(line.size(), ' ') + "\r");
+}
+
 }  // namespace
 }  // namespace kelvo

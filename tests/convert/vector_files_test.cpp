@@ -373,5 +373,68 @@ TEST_F(VectorFiles, ASheetIsReadAsTextWithQuotesAndEmptyLines) {
     }
 }
 
+// The table of a Shapefile shows the decimals of its columns.
+TEST_F(VectorFiles, AColumnHasTheDecimalsThatItsCellsHave) {
+    const std::vector<OutputSystem> systems{OutputSystem::Wgs, OutputSystem::Tm};
+    VectorOutput file = output(VectorFormat::Shapefile, systems);
+    const std::vector<GivenPoint> given{{37.5, 127.25, 50}};
+    const ConvertedPoint point = converted(plain(), given).points[0];
+    const auto has = [&](const std::string& cell) {
+        return folder.bytes("a.dbf").find(" " + cell + " ") != std::string::npos;
+    };
+    std::ignore = written(file, plain(), given);
+    EXPECT_TRUE(has("37.5000000000"));
+    EXPECT_TRUE(has("127.2500000000"));
+    EXPECT_TRUE(has("50.0000"));
+    EXPECT_TRUE(has("127.000000000000"));
+    std::string north;
+    appendCell(north, columnsOf(OutputSystem::Tm)[0], point, AngleForm::Degrees);
+    EXPECT_TRUE(has(north));
+    file.angles = AngleForm::Dms;
+    std::ignore = written(file, plain(), given);
+    EXPECT_TRUE(has("37.3000000000"));
+    // Text stands at the left of its column.
+    for (const auto& [form, cell] : {std::pair(AngleForm::Blanks, "37 30 00.0000"),
+                                     std::pair(AngleForm::Hyphens, "37-30-00.0000")}) {
+        file.angles = form;
+        std::ignore = written(file, plain(), given);
+        EXPECT_TRUE(has(cell + std::string(100, ' '))) << cell;
+    }
+}
+
+TEST_F(VectorFiles, NumbersAreNumbersAndOnlyAnglesInPartsAreText) {
+    VectorOutput file = output(VectorFormat::GeoJson, {OutputSystem::Wgs});
+    const auto latitude = [&](AngleForm form) {
+        file.angles = form;
+        std::ignore = written(file, plain(), seoul);
+        const std::string text = folder.bytes("a.geojson");
+        const std::size_t at = text.find("\"wgs_lat\": ") + 11;
+        return text.substr(at, 3);
+    };
+    EXPECT_EQ(latitude(AngleForm::Degrees), "37.");
+    EXPECT_EQ(latitude(AngleForm::Dms), "37.");
+    EXPECT_EQ(latitude(AngleForm::Blanks), "\"37");
+    EXPECT_EQ(latitude(AngleForm::Hyphens), "\"37");
+}
+
+TEST_F(VectorFiles, EveryPointHasItsOwnCells) {
+    const std::vector<GivenPoint> given{{37.5, 127, 50}, {36.5, 127.25, 60}, {38, 126.75, 70}};
+    std::ignore = written(output(VectorFormat::Xlsx, {OutputSystem::Wgs, OutputSystem::Tm}),
+                          plain(), given);
+    const RowBlock block = converted(plain(), given);
+    const auto found = rows();
+    ASSERT_EQ(found.size(), 4U);
+    for (std::size_t i = 0; i < given.size(); ++i) {
+        const Texts& row = found[i + 1];
+        const ConvertedPoint& p = block.points[i];
+        const std::vector<double> wanted{p.WgsPhi, p.WgsLam, p.WgsH, p.TmX, p.TmY, p.TmH, p.Lam0};
+        ASSERT_GE(row.size(), 8U);
+        EXPECT_EQ(row[0], "P" + std::to_string(i + 1));
+        for (std::size_t k = 0; k < wanted.size(); ++k)
+            EXPECT_NEAR(std::stod(row[k + 1]), wanted[k], 5e-5) << i << ' ' << k;
+        for (std::size_t k = 8; k < row.size(); ++k) EXPECT_EQ(row[k], "");
+    }
+}
+
 }  // namespace
 }  // namespace kelvo
