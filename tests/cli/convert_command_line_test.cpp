@@ -139,6 +139,15 @@ TEST(ConvertCommandLine, AnOptionGivenTwiceIsNamed) {
                   option + " is given twice");
 }
 
+TEST(ConvertCommandLine, OfSeveralOptionsGivenTwiceTheFirstOfTheHelpIsNamed) {
+    for (std::size_t i = 0; i + 1 < kOptions.size(); ++i) {
+        const std::string& one = kOptions[i];
+        const std::string& next = kOptions[i + 1];
+        EXPECT_EQ(readConvertCommandLine(Words{next, "a", next, "b", one, "a", one, "b"}).complaint,
+                  one + " is given twice");
+    }
+}
+
 TEST(ConvertCommandLine, AMisspeltOptionIsNamedBeforeWhatIsMissing) {
     EXPECT_EQ(readConvertCommandLine(Words{"--frm", "wgs"}).complaint, "unknown option --frm");
     EXPECT_EQ(said({"-q"}), "unknown option -q");

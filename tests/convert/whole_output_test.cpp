@@ -1,8 +1,10 @@
 // Files that take their place as a whole, on a real disk.
 #include "convert/whole_output.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <string>
@@ -45,6 +47,18 @@ TEST_F(WholeOutput, TakesItsPlaceWhenItIsClosedAndNotBefore) {
     EXPECT_EQ(folder.bytes("a"), "old");
     file->close();
     EXPECT_EQ(folder.bytes("a"), "new");
+    EXPECT_EQ(filesThere(), 1U);
+}
+
+// So that a killed program leaves nothing, where the file system knows files without a name.
+TEST_F(WholeOutput, HasNoNameUntilItIsClosed) {
+    const int unnamed = ::open(folder.path().c_str(), O_TMPFILE | O_WRONLY, 0600);
+    if (unnamed < 0) GTEST_SKIP() << "no files without a name here";
+    ::close(unnamed);
+    const auto file = wholeFile(folder.file("a"));
+    file->write("new");
+    EXPECT_EQ(filesThere(), 0U);
+    file->close();
     EXPECT_EQ(filesThere(), 1U);
 }
 

@@ -86,6 +86,19 @@ TEST(TableCells, TheFaultIsTheFirstThatARunMeets) {
     EXPECT_EQ(first(faultOfTables, &P::UserLam, &P::UtmX), &P::UserLam);
 }
 
+// The text of such a fault names the angle.
+TEST(TableCells, OfTwoAnglesTheLatitudeIsLookedAtFirst) {
+    P point = with(&P::WgsPhi, 40000);
+    point.WgsLam = 50000;
+    point.UserPhi = 60000;
+    EXPECT_NE(textOf(faultOfTables, point).find("40000"), std::string::npos);
+    point.WgsPhi = 0;
+    EXPECT_NE(textOf(faultOfTables, point).find("50000"), std::string::npos);
+    P corrected = with(&P::CorrPhi, 40000);
+    corrected.CorrLam = 50000;
+    EXPECT_NE(textOf(faultOfDetailRow, corrected).find("40000"), std::string::npos);
+}
+
 TEST(TableCells, ACellHasTheDecimalsOfItsTableAndNoBlanks) {
     std::string text = "|";
     appendAngleCell(text, -7.5, AngleForm::Degrees);
