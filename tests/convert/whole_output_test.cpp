@@ -6,6 +6,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <array>
 #include <filesystem>
 #include <string>
 #include <thread>
@@ -158,6 +159,90 @@ TEST_F(WholeOutput, AFileIsKnownByWhatItIsAndNotByItsName) {
     EXPECT_FALSE(identityOfFile(folder.path()));
     EXPECT_FALSE(identityOfFile("/dev/null"));
     EXPECT_FALSE(identityOfStream(-1));
+}
+
+// Neither too few nor too many: standard output isn't theirs.
+TEST_F(WholeOutput, ClosesItsOwnDescriptorsOnly) {
+    const auto open = [] {
+        std::string numbers;
+        for (int number = 0; number < 256; ++number)
+            if (::fcntl(number, F_GETFD) != -1) numbers += std::to_string(number) + " ";
+        return numbers;
+    };
+    const std::string before = open();
+    {
+        const auto file = wholeFile(folder.file("a"));
+        file->write("new");
+        file->close();
+        EXPECT_EQ(open(), before);
+        wholeFile(folder.file("b"))->write("given up");
+        wholeFile("/dev/null")->write("device");
+        const auto in = standardInput();
+        standardOutput()->close();
+        EXPECT_NE(open(), before);
+    }
+    EXPECT_EQ(open(), before);
+}
+
+// Standard input for as long as this lives.
+class InputFrom {
+public:
+    explicit InputFrom(int descriptor) : kept_(::dup(STDIN_FILENO)) {
+        ::dup2(descriptor, STDIN_FILENO);
+        ::close(descriptor);
+    }
+    ~InputFrom() {
+        ::dup2(kept_, STDIN_FILENO);
+        ::close(kept_);
+    }
+    InputFrom(const InputFrom&) = delete;
+    InputFrom& operator=(const InputFrom&) = delete;
+
+private:
+    int kept_;
+};
+
+TEST_F(WholeOutput, StandardInputIsReadToItsEnd) {
+    std::array<int, 2> ends{};
+    ASSERT_EQ(::pipe(ends.data()), 0);
+    const InputFrom input(ends[0]);
+    const auto reader = standardInput();
+    std::thread writer([&] {
+        for (const char letter : {'a', 'b', 'c', 'd', 'e'}) {
+            EXPECT_EQ(::write(ends[1], &letter, 1), 1);
+            std::this_thread::yield();
+        }
+        ::close(ends[1]);
+    });
+    std::array<char, 3> three{};
+    EXPECT_EQ(reader->read(three), 3U);
+    EXPECT_EQ(std::string(three.data(), 3), "abc");
+    EXPECT_EQ(reader->read(three), 2U);
+    EXPECT_EQ(std::string(three.data(), 2), "de");
+    EXPECT_EQ(reader->read(three), 0U);
+    writer.join();
+}
+
+TEST_F(WholeOutput, AFolderAsStandardInputIsAFaultThatNamesIt) {
+    const InputFrom input(::open(folder.path().c_str(), O_RDONLY));
+    const auto reader = standardInput();
+    std::array<char, 3> three{};
+    try {
+        std::ignore = reader->read(three);
+        FAIL();
+    } catch (const RuntimeFault& fault) {
+        EXPECT_NE(fault.text().find("standard input"), std::string::npos) << fault.text();
+    }
+}
+
+TEST_F(WholeOutput, DescriptorZeroIsClosedLikeAnyOther) {
+    const int kept = ::dup(STDIN_FILENO);
+    ::close(STDIN_FILENO);
+    wholeFile(folder.file("a"))->write("new");  // the lowest number that is free
+    const bool isClosed = ::fcntl(STDIN_FILENO, F_GETFD) == -1;
+    ::dup2(kept, STDIN_FILENO);
+    ::close(kept);
+    EXPECT_TRUE(isClosed);
 }
 
 }  // namespace
