@@ -24,7 +24,7 @@ constexpr std::string_view kStream = "-";
 constexpr std::size_t kLargestDefinition = std::size_t{64} << 20U;
 
 template <class Work>
-auto orRefusal(const Work& work) {
+auto faultAsRefusal(const Work& work) {
     try {
         return work();
     } catch (const RuntimeFault& fault) {
@@ -33,7 +33,7 @@ auto orRefusal(const Work& work) {
 }
 
 std::string textOfFile(const std::string& path) {
-    return orRefusal([&path] {
+    return faultAsRefusal([&path] {
         PlatformDisk disk;
         const auto file = disk.openForReading(path);
         std::string bytes;
@@ -109,7 +109,7 @@ std::unique_ptr<RowSource> openSource(const ConvertCommandLine& line,
         return std::make_unique<DelimitedSource>(openSheetAsText(*format, line.input), line.columns,
                                                  0);
     const auto identity = identityOf(line.input, STDIN_FILENO);
-    return orRefusal([&]() -> std::unique_ptr<RowSource> {
+    return faultAsRefusal([&]() -> std::unique_ptr<RowSource> {
         PlatformDisk disk;
         return std::make_unique<DelimitedSource>(
             line.input == kStream ? standardInput() : disk.openForReading(line.input), line.columns,
@@ -130,7 +130,7 @@ std::unique_ptr<RowSink> openSink(const ConvertCommandLine& line, const Definiti
     }
     if (line.geometry)
         throw Refusal("--geometry is for vector formats; OUTPUT is text (" + line.output + ")");
-    return orRefusal([&]() -> std::unique_ptr<RowSink> {
+    return faultAsRefusal([&]() -> std::unique_ptr<RowSink> {
         return std::make_unique<DelimitedSink>(
             line.output == kStream ? standardOutput() : wholeFile(line.output), columnsOf(line.to),
             line.anglesOut);

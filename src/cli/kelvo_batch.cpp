@@ -140,8 +140,8 @@ bool exportAll(const PointTable& points, const std::vector<std::string>& paths,
 int runAll(const CommandLine& line, const std::string& folder, StandardError& error,
            ProgressBar& bar) {
     const bool several = line.dataFiles.size() > 1;
-    const std::string detail = folder + kPathSeparator + "kelvo.det";
-    const std::string known = folder + kPathSeparator + "kelvo.cor";
+    const std::string detail = folder + kPathSeparator + kDetailFile;
+    const std::string known = folder + kPathSeparator + kKnownPointsFile;
     PlatformDisk disk(Pipes::Wait);
     StandardErrorMessages messages(error, line.quiet);
     if (const auto complaint = complaintAboutSharedFiles(disk, line.dataFiles, detail, known)) {
@@ -192,7 +192,7 @@ int checkAll(const CommandLine& line, const std::string& folder) {
                                  [](const std::string& text) {
                                      print(stderr, shownLine("kelvo-batch: " + text) + "\n");
                                  }};
-    switch (checkFiles(line.dataFiles, folder + kPathSeparator + "kelvo.cor", disk, output)) {
+    switch (checkFiles(line.dataFiles, folder + kPathSeparator + kKnownPointsFile, disk, output)) {
         case CheckResult::Clean:
             return kNothingFound;
         case CheckResult::Found:

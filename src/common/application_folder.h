@@ -6,6 +6,11 @@
 
 namespace kelvo {
 
+// The files that the programs keep there.
+constexpr const char* kSettingsFile = "kelvo.cfg";
+constexpr const char* kKnownPointsFile = "kelvo.cor";
+constexpr const char* kDetailFile = "kelvo.det";  // of the correction
+
 // What the choice of the folder rests on.
 struct FolderChoice {
     std::string programFolder;            // where the program file stands

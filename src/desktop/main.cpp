@@ -96,7 +96,7 @@ int main(int argc, char** argv) {
         if (!shownFile.isEmpty()) dataFile = absoluteName(argumentShownAs(shownFile, argc, argv));
 
         const bool isFirstStart =
-            !QFile::exists(QDir(shownFolder).filePath(QStringLiteral("kelvo.cfg")));
+            !QFile::exists(QDir(shownFolder).filePath(QLatin1String(kSettingsFile)));
         MainWindow window(folder);
         if (!window.start()) return 1;
         const EndSignals endSignals;

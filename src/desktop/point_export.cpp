@@ -8,6 +8,7 @@
 
 #include "batch/run_batch.h"
 #include "batch/run_files.h"
+#include "common/application_folder.h"
 #include "common/run_time_fault.h"
 #include "desktop/native_paths.h"
 #include "desktop/widget_book.h"
@@ -53,7 +54,7 @@ QString chosenPath(QWidget* parent, const QString& dataFile) {
 
 std::array<std::string, 4> filesOfRun(const ProgramState& state) {
     const std::string& data = state.RecentFiles[1];
-    return {data, resultFileOf(data), state.inApplicationFolder("kelvo.det"), state.CorPath};
+    return {data, resultFileOf(data), state.inApplicationFolder(kDetailFile), state.CorPath};
 }
 
 }  // namespace

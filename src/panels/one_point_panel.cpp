@@ -7,6 +7,7 @@
 #include "batch/run_batch.h"
 #include "batch/run_header.h"
 #include "batch/wording.h"
+#include "common/application_folder.h"
 #include "common/checked_arithmetic.h"
 #include "common/fixed_width.h"
 #include "common/number_text.h"
@@ -71,7 +72,7 @@ struct OnePointPanel::Files {
           run{.out = out, .det = det, .CorPath = state.CorPath} {}
     Files(Disk& disk, const ProgramState& state)
         : Files(disk, state,
-                {resultFileOf(state.RecentFiles[1]), state.inApplicationFolder("kelvo.det")}) {}
+                {resultFileOf(state.RecentFiles[1]), state.inApplicationFolder(kDetailFile)}) {}
 
     void close() {
         det.close();

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "batch/run_batch.h"
+#include "common/application_folder.h"
 #include "panels/one_point_panel.h"
 #include "panels/parameter_panels.h"
 #include "panels/plot_settings_panel.h"
@@ -29,8 +30,8 @@ constexpr double kMenuHeight = 700;  // twips
 ProgramState stateFor(std::string applicationFolder) {
     ProgramState state;
     state.applicationFolder = std::move(applicationFolder);
-    state.CfgPath = state.inApplicationFolder("kelvo.cfg");
-    state.CorPath = state.inApplicationFolder("kelvo.cor");
+    state.CfgPath = state.inApplicationFolder(kSettingsFile);
+    state.CorPath = state.inApplicationFolder(kKnownPointsFile);
     return state;
 }
 
@@ -166,7 +167,7 @@ void frmKelvo::Members::Form_Close() {
 
 void frmKelvo::Members::mnuBatchGo_Click() {
     const RunPlaces places{.dataFile = state.RecentFiles[1],
-                           .detPath = state.inApplicationFolder("kelvo.det"),
+                           .detPath = state.inApplicationFolder(kDetailFile),
                            .CorPath = state.CorPath};
     RunBatch(state.conversion, places, *this, services.disk, services.messages);
     spoken.sayRun();

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "common/application_folder.h"
 #include "common/paths.h"
 #include "common/text_constants.h"
 
@@ -51,7 +52,7 @@ void SmallCommands::mnuCorrEdit_Click() {
 }
 
 void SmallCommands::mnuCorrShow_Click() {
-    viewer_.OpenRichText(state_.inApplicationFolder("kelvo.det"));
+    viewer_.OpenRichText(state_.inApplicationFolder(kDetailFile));
 }
 
 void SmallCommands::mnuOneOpen_Click() {

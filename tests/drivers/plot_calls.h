@@ -6,20 +6,19 @@
 #include "common/ports.h"
 #include "drivers/routine_script.h"
 #include "plot/clsplot1.h"
-#include "support/recording_surface.h"
+#include "plot/surface.h"
 
 namespace kelvo::testing {
 
-// One plot object, without a surface until `pinitialize`, and the two surfaces it may get.
-// `new` in a script is a new bench.
+// One plot object, without a surface until `pinitialize`, and the two surfaces it may get, which
+// outlive it.
 struct PlotBench {
-    PlotBench(MessageBoxes& messages, ProgramStarter& programs, const LineSink& sink)
-        : screen(RecordingSurface::Kind::Screen, sink),
-          printer(RecordingSurface::Kind::Printer, sink),
-          object(messages, programs, printer) {}
+    PlotBench(MessageBoxes& messages, ProgramStarter& programs, Surface& screenToUse,
+              Surface& printerToUse)
+        : screen(screenToUse), printer(printerToUse), object(messages, programs, printer) {}
 
-    RecordingSurface screen;
-    RecordingSurface printer;
+    Surface& screen;
+    Surface& printer;
     clsplot1 object;
 };
 

@@ -11,6 +11,7 @@
 #include "drivers/plot_calls.h"
 #include "drivers/routine_script.h"
 #include "geodesy/datum_shift.h"
+#include "support/recording_surface.h"
 
 namespace kelvo::testing {
 
@@ -36,7 +37,9 @@ struct RoutineBench {
     PlatformDisk disk;
     FieldStore fields;
     DatumState datum;
-    PlotBench plot{messages, programs, printSurfaceLine};
+    RecordingSurface screen{RecordingSurface::Kind::Screen, printSurfaceLine};
+    RecordingSurface printer{RecordingSurface::Kind::Printer, printSurfaceLine};
+    PlotBench plot{messages, programs, screen, printer};
 };
 
 // One routine by its name: takes its arguments and writes its results after the answer's name.

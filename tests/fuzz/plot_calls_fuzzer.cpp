@@ -4,6 +4,7 @@
 
 #include "common/run_time_fault.h"
 #include "drivers/plot_calls.h"
+#include "fuzz/checking_surface.h"
 #include "fuzz/fuzz_target.h"
 #include "support/recording_messages.h"
 
@@ -76,16 +77,7 @@ constexpr std::string_view kLines[] = {
 };
 
 constexpr int kMostCalls = 60;
-constexpr int kMostLines = 30'000;  // told to the surface; then the script is given up
-
-// What the surface is told holds numbers only. Texts are the caller's.
-void requireNumbers(const std::string& line) {
-    if (line.starts_with("print ") || line.starts_with("Font = ") || line.starts_with("TextOutA") ||
-        line.starts_with("CreateFontIndirectA"))
-        return;
-    require(line.find("nan") == std::string::npos && line.find("inf") == std::string::npos,
-            "the surface is told numbers: ", line);
-}
+constexpr int kMostDrawn = 30'000;  // calls of a surface; then the script is given up
 
 class Starts final : public ProgramStarter {
 public:
@@ -98,11 +90,11 @@ public:
 struct Session {
     testing::RecordingMessages messages;
     Starts programs;
-    int lines = 0;
-    testing::PlotBench bench{messages, programs, [this](const std::string& line) {
-                                 ++lines;
-                                 requireNumbers(line);
-                             }};
+    CheckingSurface screen;
+    CheckingSurface printer;
+    testing::PlotBench bench{messages, programs, screen, printer};
+
+    [[nodiscard]] int drawn() const { return screen.calls() + printer.calls(); }
 
     void call(std::string_view line) {
         try {
@@ -131,7 +123,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace kelvo::fuzz;
     std::string_view rest = textOf(data, size);
     auto session = std::make_unique<Session>();
-    for (int calls = 0; calls < kMostCalls && !rest.empty() && session->lines < kMostLines;
+    for (int calls = 0; calls < kMostCalls && !rest.empty() && session->drawn() < kMostDrawn;
          ++calls) {
         const std::size_t end = rest.find('\n');
         const std::string_view line = rest.substr(0, end);

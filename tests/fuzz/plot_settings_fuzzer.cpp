@@ -2,12 +2,12 @@
 // most inputs; the whole form takes many times as long.
 #include <cmath>
 
+#include "fuzz/checking_surface.h"
 #include "fuzz/whole_form.h"
 #include "panels/plot_settings_panel.h"
 #include "plot/clsplot1.h"
 #include "plot/point_plots.h"
 #include "support/recording_messages.h"
-#include "support/recording_surface.h"
 
 namespace kelvo::fuzz {
 namespace {
@@ -86,8 +86,8 @@ struct SettingsAlone {
     ProgramState state;
     testing::RecordingMessages messages;
     Starts programs;
-    testing::RecordingSurface screen{testing::RecordingSurface::Kind::Screen, requireFinite};
-    testing::RecordingSurface printer{testing::RecordingSurface::Kind::Printer, requireFinite};
+    CheckingSurface screen;
+    CheckingSurface printer;
     clsplot1 object{messages, programs, printer};
     PlotSettingsPanel panel;
 };

@@ -5,6 +5,7 @@
 
 #include "drivers/plot_calls.h"
 #include "plot_fixture.h"
+#include "support/recording_surface.h"
 
 namespace kelvo::testing {
 namespace {
@@ -28,7 +29,10 @@ TEST_P(PlotScripts, GivesItsTranscriptLineByLine) {
     Lines transcript;
     RecordingMessages messages;
     RecordingStarts starts;
-    PlotBench bench(messages, starts, [&](const std::string& line) { transcript.push_back(line); });
+    const LineSink keep = [&](const std::string& line) { transcript.push_back(line); };
+    RecordingSurface screen(RecordingSurface::Kind::Screen, keep);
+    RecordingSurface printer(RecordingSurface::Kind::Printer, keep);
+    PlotBench bench(messages, starts, screen, printer);
     for (const auto& line : linesOf(folder / (GetParam() + ".txt"))) {
         if (asksNothing(line)) continue;
         Call call = readCall(line);
@@ -79,7 +83,8 @@ TEST(RoutineScript, LineThatCannotBeReadIsAnError) {
 TEST(RoutineScript, ArgumentOfTheWrongKindOrMissingIsAnError) {
     RecordingMessages messages;
     RecordingStarts starts;
-    PlotBench bench(messages, starts, [](const std::string&) {});
+    RecordingSurface surface(RecordingSurface::Kind::Screen, [](const std::string&) {});
+    PlotBench bench(messages, starts, surface, surface);
     for (const char* line : {"cx", "cx \"1\"", "cx 1 2", "setBlackWhite 1", "ChangeFont 1"}) {
         Call call = readCall(line);
         EXPECT_THROW(static_cast<void>(callPlot(bench, call)), ScriptError) << line;
@@ -89,7 +94,8 @@ TEST(RoutineScript, ArgumentOfTheWrongKindOrMissingIsAnError) {
 TEST(RoutineScript, UnknownNameIsNoPlotCall) {
     RecordingMessages messages;
     RecordingStarts starts;
-    PlotBench bench(messages, starts, [](const std::string&) {});
+    RecordingSurface surface(RecordingSurface::Kind::Screen, [](const std::string&) {});
+    PlotBench bench(messages, starts, surface, surface);
     Call call = readCall("SplitDeg 127.5");
     EXPECT_FALSE(callPlot(bench, call).has_value());
 }

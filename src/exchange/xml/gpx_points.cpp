@@ -47,7 +47,7 @@ void GpxPoints::text(std::string_view piece) {
 void GpxPoints::end() {
     if (depth_ == 0) return;
     if (--depth_ == 0) {
-        put(std::move(point_));
+        found_.points.push_back(std::move(point_));
         return;
     }
     if (depth_ != 1) return;

@@ -4,7 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "exchange/xml/points_in_xml.h"
+#include "exchange/xml/found_in_xml.h"
+#include "exchange/xml/xml_stream.h"
 
 namespace kelvo {
 
@@ -24,9 +25,11 @@ private:
     bool route_ = false;
 };
 
-class GpxPoints final : public PointsInXml {
+// Puts the points into `found`, which outlives it.
+class GpxPoints final : public XmlEvents {
 public:
-    explicit GpxPoints(std::string element) : element_(std::move(element)) {}
+    GpxPoints(FoundInXml& found, std::string element)
+        : found_(found), element_(std::move(element)) {}
 
     void begin(std::string_view name, XmlAttributes attributes) override;
     void end() override;
@@ -35,6 +38,7 @@ public:
 private:
     void beginPoint(XmlAttributes attributes);
 
+    FoundInXml& found_;
     std::string element_;
     int depth_ = 0;  // inside of a point, itself counted
     bool wanted_ = false;

@@ -88,13 +88,13 @@ void KmlPoints::endPlacemark() {
     const std::string other = placemark_.otherShape();
     if (!other.empty()) {
         if (folder.points) failOtherShape(other, path_);
-        folder.otherShape = otherShape_ = other;
+        folder.otherShape = found_.otherShape = other;
         return;
     }
     if (placemark_.points == 0 && !placemark_.isCollection) return;
     if (!folder.otherShape.empty()) failOtherShape(folder.otherShape, path_);
     folder.points = true;
-    put({.name = placemark_.name.value_or(""), .place = placemark_.place});
+    found_.points.push_back({.name = placemark_.name.value_or(""), .place = placemark_.place});
 }
 
 }  // namespace kelvo

@@ -5,21 +5,21 @@
 #include <string>
 #include <vector>
 
-#include "exchange/xml/points_in_xml.h"
+#include "exchange/xml/found_in_xml.h"
+#include "exchange/xml/xml_stream.h"
 
 namespace kelvo {
 
 // A Placemark with a point, or with a collection of exactly one, is a point; without any shape it
 // is passed over. A folder of other shapes only is left out; beside points of the same folder they
-// are an ExchangeFault.
-class KmlPoints final : public PointsInXml {
+// are an ExchangeFault. What is found is put into `found`, which outlives it.
+class KmlPoints final : public XmlEvents {
 public:
-    explicit KmlPoints(std::string path) : path_(std::move(path)) {}
+    KmlPoints(FoundInXml& found, std::string path) : found_(found), path_(std::move(path)) {}
 
     void begin(std::string_view name, XmlAttributes attributes) override;
     void end() override;
     void text(std::string_view piece) override;
-    [[nodiscard]] std::string otherShape() const override { return otherShape_; }
 
 private:
     // What an element is where it stands.
@@ -44,12 +44,12 @@ private:
     void noteShape(std::string_view name);
     void endPlacemark();
 
+    FoundInXml& found_;
     std::string path_;
     std::vector<Part> parts_;  // from the root to the element that is open
     std::vector<Folder> folders_;
     Placemark placemark_;
     std::string text_;
-    std::string otherShape_;
 };
 
 }  // namespace kelvo

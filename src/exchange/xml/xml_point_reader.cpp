@@ -10,15 +10,16 @@ namespace kelvo {
 
 namespace {
 
+// Points is what takes them out of the file, made with `detail`.
+template <typename Points>
 class StreamedPoints final : public PointFileReader {
 public:
     StreamedPoints(VectorFormat format, const std::string& path, const std::string& root,
-                   std::unique_ptr<PointsInXml> points)
-        : points_(std::move(points)), stream_(format, path, root, *points_) {
+                   const std::string& detail)
+        : points_(found_, detail), stream_(format, path, root, points_) {
         held_ = next();
         if (held_) return;
-        if (const std::string shape = points_->otherShape(); !shape.empty())
-            failOtherShape(shape, path);
+        if (!found_.otherShape.empty()) failOtherShape(found_.otherShape, path);
         failWithoutPoints(path);
     }
 
@@ -33,13 +34,16 @@ public:
 
 private:
     bool next() {
-        while (!points_->take(first_)) {
+        while (found_.points.empty()) {
             if (!stream_.more()) return false;
         }
+        first_ = std::move(found_.points.front());
+        found_.points.pop_front();
         return true;
     }
 
-    std::unique_ptr<PointsInXml> points_;
+    FoundInXml found_;
+    Points points_;
     XmlStream stream_;
     PointOfFile first_;
     bool held_ = false;
@@ -51,16 +55,15 @@ private:
 }  // namespace
 
 std::unique_ptr<PointFileReader> makeKmlReader(const std::string& path) {
-    return std::make_unique<StreamedPoints>(VectorFormat::Kml, path, "kml",
-                                            std::make_unique<KmlPoints>(path));
+    return std::make_unique<StreamedPoints<KmlPoints>>(VectorFormat::Kml, path, "kml", path);
 }
 
 std::unique_ptr<PointFileReader> makeGpxReader(const std::string& path) {
     GpxKinds kinds;
     XmlStream look(VectorFormat::Gpx, path, "gpx", kinds);
     while (!kinds.wayPoints() && look.more()) continue;
-    return std::make_unique<StreamedPoints>(VectorFormat::Gpx, path, "gpx",
-                                            std::make_unique<GpxPoints>(kinds.element()));
+    return std::make_unique<StreamedPoints<GpxPoints>>(VectorFormat::Gpx, path, "gpx",
+                                                       kinds.element());
 }
 
 }  // namespace kelvo
