@@ -29,8 +29,7 @@ constexpr std::array<FormatLimits, 8> kFormats{{
 bool endsIn(std::string_view path, std::string_view ending) {
     if (path.size() <= ending.size() + 1) return false;
     const std::string_view tail = path.substr(path.size() - ending.size());
-    return path[path.size() - ending.size() - 1] == '.' &&
-           lowerCased(tail) == ending;
+    return path[path.size() - ending.size() - 1] == '.' && lowerCased(tail) == ending;
 }
 
 }  // namespace

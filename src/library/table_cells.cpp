@@ -70,9 +70,7 @@ std::optional<RuntimeFault> faultOfTables(const ConvertedPoint& p) {
 }
 
 std::optional<RuntimeFault> faultOfLastTable(const ConvertedPoint& p) {
-    return faultOf([&p](Cells& cells) {
-        cells.lengths({p.WgsUtmX, p.WgsUtmY, p.WgsUtmH});
-    });
+    return faultOf([&p](Cells& cells) { cells.lengths({p.WgsUtmX, p.WgsUtmY, p.WgsUtmH}); });
 }
 
 void appendAngleCell(std::string& text, double degrees, AngleForm form) {

@@ -130,8 +130,9 @@ TEST(BatchCommandLine, EveryComplaintSaysWhatIsWrong) {
         {{"--app-folder", "", "a.dat"}, "--app-folder needs a folder"},
         {{"a.dat", "--export"}, endings},
         {{"--export", "a.csv", "a.dat"}, endings},
-        {{"-"}, "standard input can't be converted: the result stands beside the data file and "
-                "takes its name from it"},
+        {{"-"},
+         "standard input can't be converted: the result stands beside the data file and "
+         "takes its name from it"},
         {{"-x", "a.dat"}, "unknown option -x"},
         {{"--check", "--export", "a.kml", "a.dat"}, "--check writes nothing, --export writes"},
         {{"--export", "a.kml", "a.dat", "b.dat"}, "--export takes the tables of one data file"}};
@@ -143,8 +144,8 @@ TEST(BatchCommandLine, EveryComplaintSaysWhatIsWrong) {
 }
 
 TEST(BatchCommandLine, EveryOptionIsTaken) {
-    const auto reading = read({"--export", "a.kml", "--app-folder", "f//", "--export", "b.shp",
-                               "a.dat"});
+    const auto reading =
+        read({"--export", "a.kml", "--app-folder", "f//", "--export", "b.shp", "a.dat"});
     ASSERT_TRUE(reading.line);
     EXPECT_EQ(reading.line->wish, CommandLine::Wish::Convert);
     EXPECT_EQ(reading.line->exports, (std::vector<std::string>{"a.kml", "b.shp"}));

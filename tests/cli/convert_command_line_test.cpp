@@ -32,9 +32,9 @@ TEST(ConvertCommandLine, OnlyFromMustBeGiven) {
     const ConvertCommandLine line = convertLine({"--from", "tm"});
     EXPECT_EQ(line.wish, Wish::Convert);
     EXPECT_EQ(line.from, System::Tm);
-    EXPECT_EQ(line.to, (std::vector<OutputSystem>{OutputSystem::Wgs, OutputSystem::User,
-                                                  OutputSystem::Tm, OutputSystem::Utm,
-                                                  OutputSystem::WgsUtm}));
+    EXPECT_EQ(line.to,
+              (std::vector<OutputSystem>{OutputSystem::Wgs, OutputSystem::User, OutputSystem::Tm,
+                                         OutputSystem::Utm, OutputSystem::WgsUtm}));
     EXPECT_EQ(line.anglesIn, AngleForm::Degrees);
     EXPECT_EQ(line.anglesOut, AngleForm::Degrees);
     EXPECT_FALSE(line.parameters);
@@ -50,9 +50,10 @@ TEST(ConvertCommandLine, OnlyFromMustBeGiven) {
 
 TEST(ConvertCommandLine, EveryOptionIsTaken) {
     const ConvertCommandLine line = convertLine(
-        {"--from", "utm", "--to", "wgsutm,tm", "--angles-in", "dms", "--angles-out", "blanks",
-         "--parameters", "p.txt", "--known-points", "k.cor", "--columns", "id,2,3", "--geometry",
-         "user", "--jobs", "3", "--quiet", "in.csv", "out.gpkg"});
+        {"--from",       "utm",    "--to",         "wgsutm,tm", "--angles-in",    "dms",
+         "--angles-out", "blanks", "--parameters", "p.txt",     "--known-points", "k.cor",
+         "--columns",    "id,2,3", "--geometry",   "user",      "--jobs",         "3",
+         "--quiet",      "in.csv", "out.gpkg"});
     EXPECT_EQ(line.from, System::Utm);
     EXPECT_EQ(line.to, (std::vector<OutputSystem>{OutputSystem::WgsUtm, OutputSystem::Tm}));
     EXPECT_EQ(line.anglesIn, AngleForm::Dms);
@@ -69,11 +70,12 @@ TEST(ConvertCommandLine, EveryOptionIsTaken) {
 }
 
 TEST(ConvertCommandLine, EverySystemHasItsWord) {
-    const std::vector<std::pair<std::string, OutputSystem>> systems{{"wgs", OutputSystem::Wgs},
-                                                                    {"user", OutputSystem::User},
-                                                                    {"tm", OutputSystem::Tm},
-                                                                    {"utm", OutputSystem::Utm},
-                                                                    {"wgsutm", OutputSystem::WgsUtm}};
+    const std::vector<std::pair<std::string, OutputSystem>> systems{
+        {"wgs", OutputSystem::Wgs},
+        {"user", OutputSystem::User},
+        {"tm", OutputSystem::Tm},
+        {"utm", OutputSystem::Utm},
+        {"wgsutm", OutputSystem::WgsUtm}};
     for (const auto& [word, system] : systems) {
         EXPECT_EQ(convertLine({"--from", "wgs", "--to", word}).to,
                   std::vector<OutputSystem>{system});
@@ -110,14 +112,12 @@ TEST(ConvertCommandLine, AWordThatIsUnknownIsNamedWithThoseThatAreKnown) {
 
 TEST(ConvertCommandLine, JobsAreAWholeNumberAndNoMoreThanSixtyFourAreMade) {
     const std::vector<std::pair<std::string, unsigned>> numbers{
-        {"1", 1},   {"2", 2},   {"063", 63},
-        {"64", 64}, {"65", 64}, {"99999999999999999999999", 64}};
+        {"1", 1}, {"2", 2}, {"063", 63}, {"64", 64}, {"65", 64}, {"99999999999999999999999", 64}};
     for (const auto& [word, jobs] : numbers)
         EXPECT_EQ(convertLine({"--from", "wgs", "--jobs", word}).jobs, jobs) << word;
-    for (const std::string word : {"0", "00", "-1", "+1", "two", "2x", "x2", "1.5", " 2", "2 ",
-                                   "99999999999999999999999x"})
-        EXPECT_EQ(said({"--jobs", word}),
-                  "--jobs is a whole number of at least 1, not " + word);
+    for (const std::string word :
+         {"0", "00", "-1", "+1", "two", "2x", "x2", "1.5", " 2", "2 ", "99999999999999999999999x"})
+        EXPECT_EQ(said({"--jobs", word}), "--jobs is a whole number of at least 1, not " + word);
 }
 
 const Words kOptions{"--from",         "--to",      "--angles-in", "--angles-out", "--parameters",

@@ -87,8 +87,8 @@ TEST_F(ConvertFiles, ATextOfADefinitionHasNoMoreThan64MebibytesAndIsReadToItsEnd
     line.knownPoints.reset();
     line.parameters = folder.file("p.txt");
     folder.put("p.txt", std::string(40000, '\n') + "XYZ");
-    EXPECT_TRUE(refusal([&] { return converterOf(line); })
-                    .starts_with(*line.parameters + " line 40001: "));
+    EXPECT_TRUE(
+        refusal([&] { return converterOf(line); }).starts_with(*line.parameters + " line 40001: "));
 }
 
 TEST_F(ConvertFiles, WhatIsReadIsNeverWritten) {

@@ -32,7 +32,8 @@ protected:
     }
 
     testing::TemporaryFolder folder;
-    const std::string kPoints = "INPUT deg\r\nWGS a 37.3 127 1\r\n    b 37.4 127.1 2\r\nend\r\n\r\n";
+    const std::string kPoints =
+        "INPUT deg\r\nWGS a 37.3 127 1\r\n    b 37.4 127.1 2\r\nend\r\n\r\n";
 };
 
 TEST_F(Export, WritesThePointsToEveryFileThatIsAskedFor) {
@@ -83,7 +84,8 @@ TEST_F(Export, ThatWouldTakeAFileOfTheRunIsRefused) {
         }
         const auto ended = batch({"--export", name, "a.kml"});
         EXPECT_EQ(ended.exitCode, 2);
-        EXPECT_EQ(ended.err, "kelvo-batch: --export " + name + " would write over " + target + "\n");
+        EXPECT_EQ(ended.err,
+                  "kelvo-batch: --export " + name + " would write over " + target + "\n");
         EXPECT_FALSE(std::filesystem::exists(folder.file("a.out")));
     }
     const auto twice = batch({"--export", "b.kml", "--export", "./b.kml", "a.kml"});
@@ -101,14 +103,14 @@ TEST_F(Export, WhatSeveralRunsWouldShareIsNamed) {
         EXPECT_NE(ended.err.find("\nusage: kelvo-batch"), std::string::npos);
         return ended.err.substr(0, ended.err.find('\n'));
     };
-    EXPECT_EQ(complaint({"x.dat", "x.txt"}),
-              "kelvo-batch: x.dat and x.txt would both write x.out");
+    EXPECT_EQ(complaint({"x.dat", "x.txt"}), "kelvo-batch: x.dat and x.txt would both write x.out");
     EXPECT_EQ(complaint({"y.dat", "x.dat", "x.det"}),
               "kelvo-batch: the run of x.dat would write over x.det");
     EXPECT_EQ(complaint({"kelvo.dat", "y.dat"}),
               "kelvo-batch: kelvo.dat and y.dat would both write " + det);
     std::filesystem::create_symlink("x.dat", det);
-    EXPECT_EQ(complaint({"x.dat", "y.dat"}), "kelvo-batch: the run of y.dat would write over x.dat");
+    EXPECT_EQ(complaint({"x.dat", "y.dat"}),
+              "kelvo-batch: the run of y.dat would write over x.dat");
     std::filesystem::remove(det);
     std::filesystem::create_symlink("kelvo.cor", det);
     EXPECT_EQ(complaint({"x.dat", "y.dat"}),

@@ -75,7 +75,8 @@ TEST(CoordinateText, ASignIsReadAndAnEmptyExponentIsNot) {
     EXPECT_EQ(readCoordinate("-0.5").value, -0.5);
     EXPECT_EQ(readCoordinate("12e01").value, 120);
     EXPECT_EQ(readCoordinate("12e-01").value, 1.2);
-    for (const char* text : {"1e-", "1E", "1e+-1", "1e1.5", "1e1x", "+.", "-.e1", ".e1", "5.e", "1.5x"})
+    for (const char* text :
+         {"1e-", "1E", "1e+-1", "1e1.5", "1e1x", "+.", "-.e1", ".e1", "5.e", "1.5x"})
         EXPECT_EQ(readCoordinate(text).outcome, Outcome::NoNumber) << text;
     for (const char* text : {"1e999", "-1e999"}) EXPECT_TRUE(readCoordinate(text).isSpelled());
     EXPECT_FALSE(readCoordinate("").isSpelled());

@@ -59,8 +59,8 @@ TEST(OutputSystems, EachHasItsColumnsWithTheirNumbersAndDecimals) {
 
 TEST(OutputSystems, SeveralHaveTheirColumnsInTheOrderAskedFor) {
     const std::vector<OutputSystem> systems{OutputSystem::Tm, OutputSystem::Wgs};
-    const std::string both = namesAndCells(columnsOf(OutputSystem::Tm)) +
-                             namesAndCells(columnsOf(OutputSystem::Wgs));
+    const std::string both =
+        namesAndCells(columnsOf(OutputSystem::Tm)) + namesAndCells(columnsOf(OutputSystem::Wgs));
     EXPECT_EQ(namesAndCells(columnsOf(systems)), both);
 }
 
@@ -76,8 +76,11 @@ TEST(OutputSystems, AnglesAreWrittenInTheFormAskedFor) {
 TEST(OutputSystems, AnOriginIsWrittenWithAsManyDigitsAsItHas) {
     const OutputColumn& origin = columnsOf(OutputSystem::Tm)[3];
     const std::vector<std::pair<double, std::string>> origins{
-        {127, "127"}, {127.5, "127.5"}, {1, "1"},       {0, "0"},       {0.5, "0.5"},
-        {-3, "-3"},   {999, "999"},     {1000, "1000"}, {1001, "1001"}, {127.0028902777778, "127.002890277778"}};
+        {127, "127"},   {127.5, "127.5"},
+        {1, "1"},       {0, "0"},
+        {0.5, "0.5"},   {-3, "-3"},
+        {999, "999"},   {1000, "1000"},
+        {1001, "1001"}, {127.0028902777778, "127.002890277778"}};
     for (const auto& [longitude, wanted] : origins) {
         std::string text;
         ConvertedPoint point;

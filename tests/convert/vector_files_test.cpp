@@ -46,7 +46,8 @@ protected:
     static PointConverter adjusted() {
         return converterOf({.parameters = "1st 1 0 0\n", .knownPoints = std::nullopt});
     }
-    [[nodiscard]] VectorOutput output(VectorFormat format, std::vector<OutputSystem> systems) const {
+    [[nodiscard]] VectorOutput output(VectorFormat format,
+                                      std::vector<OutputSystem> systems) const {
         return {.format = format,
                 .path = path(format),
                 .systems = std::move(systems),
@@ -80,7 +81,8 @@ protected:
         return all;
     }
     [[nodiscard]] std::vector<Texts> rows() const {
-        const auto reader = loadPointFiles()->openSheet(VectorFormat::Xlsx, path(VectorFormat::Xlsx));
+        const auto reader =
+            loadPointFiles()->openSheet(VectorFormat::Xlsx, path(VectorFormat::Xlsx));
         std::vector<Texts> all;
         for (Texts cells; reader->read(cells);) all.push_back(cells);
         return all;
@@ -127,8 +129,7 @@ TEST_F(VectorFiles, APlaceIsThatOfTheFirstSystemOrOfTheOneAskedFor) {
             EXPECT_NEAR(found[0].place->height, place.height, 1e-4);
             const SystemOfFile of =
                 loadPointFiles()->open(VectorFormat::GeoPackage, one.path)->system();
-            EXPECT_EQ(of.geographic,
-                      system == OutputSystem::Wgs || system == OutputSystem::User);
+            EXPECT_EQ(of.geographic, system == OutputSystem::Wgs || system == OutputSystem::User);
         }
     }
 }
@@ -325,8 +326,9 @@ TEST_F(VectorFiles, AFileOfAnotherSystemIsRefused) {
     EXPECT_EQ(complaint(kFormat, System::Utm, mixed), other);
     EXPECT_EQ(complaint(kFormat, System::Tm, bessel), other);
     for (const System angles : {System::Wgs, System::User})
-        EXPECT_EQ(complaint(kFormat, angles, grs),
-                  "파일의 좌표계(WGS 84 / UTM zone 52N)는 직교좌표인데 --from은 경위도입니다" + end);
+        EXPECT_EQ(
+            complaint(kFormat, angles, grs),
+            "파일의 좌표계(WGS 84 / UTM zone 52N)는 직교좌표인데 --from은 경위도입니다" + end);
 }
 
 TEST_F(VectorFiles, AnAxisMayDifferByAMetre) {
@@ -419,8 +421,8 @@ TEST_F(VectorFiles, NumbersAreNumbersAndOnlyAnglesInPartsAreText) {
 
 TEST_F(VectorFiles, EveryPointHasItsOwnCells) {
     const std::vector<GivenPoint> given{{37.5, 127, 50}, {36.5, 127.25, 60}, {38, 126.75, 70}};
-    std::ignore = written(output(VectorFormat::Xlsx, {OutputSystem::Wgs, OutputSystem::Tm}),
-                          plain(), given);
+    std::ignore =
+        written(output(VectorFormat::Xlsx, {OutputSystem::Wgs, OutputSystem::Tm}), plain(), given);
     const RowBlock block = converted(plain(), given);
     const auto found = rows();
     ASSERT_EQ(found.size(), 4U);

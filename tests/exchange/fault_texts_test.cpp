@@ -88,7 +88,9 @@ TEST_F(FaultTexts, OfLettersThatAFormatCannotHold) {
     EXPECT_EQ(whyNot(face, VectorFormat::Kml), "");
     EXPECT_EQ(whyNot("\xEF\xBF\xBD", VectorFormat::Dxf), "");
     const std::string noncharacter = "U+FFFE와 U+FFFF를 담을 수 없습니다";
-    for (const std::string name : {"a\xEF\xBF\xBE", "\xEF\xBF\xBF" "b"}) {
+    for (const std::string name : {"a\xEF\xBF\xBE",
+                                   "\xEF\xBF\xBF"
+                                   "b"}) {
         for (const VectorFormat format :
              {VectorFormat::Kml, VectorFormat::Gpx, VectorFormat::Xlsx, VectorFormat::Ods})
             EXPECT_NE(whyNot(name, format).find(noncharacter), std::string::npos);
@@ -100,9 +102,9 @@ TEST_F(FaultTexts, OfLettersThatAFormatCannotHold) {
 
 TEST_F(FaultTexts, OfTextsThatAreTooLong) {
     EXPECT_EQ(whyNot(std::string(254, 'x'), VectorFormat::Shapefile), "");
-    EXPECT_NE(whyNot(std::string(255, 'x'), VectorFormat::Shapefile)
-                  .find("글이 254바이트보다 깁니다"),
-              std::string::npos);
+    EXPECT_NE(
+        whyNot(std::string(255, 'x'), VectorFormat::Shapefile).find("글이 254바이트보다 깁니다"),
+        std::string::npos);
     EXPECT_EQ(whyNot(std::string(32767, 'x'), VectorFormat::Ods), "");
     EXPECT_NE(
         whyNot(std::string(32768, 'x'), VectorFormat::Ods).find("글이 32767바이트보다 깁니다"),

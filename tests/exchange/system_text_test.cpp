@@ -63,13 +63,12 @@ std::string grid(const std::string& name, const std::string& base, const std::st
            "],CONVERSION[\"" + name + R"(",METHOD["Transverse Mercator",ID["EPSG",9807]],)" +
            R"(PARAMETER["Latitude of natural origin",)" + numbers.north + "," + kDegreeUnit +
            R"(,ID["EPSG",8801]],PARAMETER["Longitude of natural origin",)" + numbers.meridian +
-           "," + kDegreeUnit +
-           R"(,ID["EPSG",8802]],PARAMETER["Scale factor at natural origin",)" + numbers.scale +
-           R"(,SCALEUNIT["unity",1],ID["EPSG",8805]],PARAMETER["False easting",)" +
-           numbers.easting + "," + kMetreUnit +
-           R"(,ID["EPSG",8806]],PARAMETER["False northing",)" + numbers.northing + "," +
-           kMetreUnit + R"(,ID["EPSG",8807]]],CS[Cartesian,2],AXIS["easting",east,ORDER[1],)" +
-           kMetreUnit + R"(],AXIS["northing",north,ORDER[2],)" + kMetreUnit + "]]";
+           "," + kDegreeUnit + R"(,ID["EPSG",8802]],PARAMETER["Scale factor at natural origin",)" +
+           numbers.scale + R"(,SCALEUNIT["unity",1],ID["EPSG",8805]],PARAMETER["False easting",)" +
+           numbers.easting + "," + kMetreUnit + R"(,ID["EPSG",8806]],PARAMETER["False northing",)" +
+           numbers.northing + "," + kMetreUnit +
+           R"(,ID["EPSG",8807]]],CS[Cartesian,2],AXIS["easting",east,ORDER[1],)" + kMetreUnit +
+           R"(],AXIS["northing",north,ORDER[2],)" + kMetreUnit + "]]";
 }
 
 const std::string kOwnEllipsoid = R"("User ellipsoid",6378206.4,294.9786982)";
@@ -87,10 +86,10 @@ TEST(SystemText, OfATmGridIsBoundToWgs84) {
 }
 
 TEST(SystemText, OfUtmIsOnTheEllipsoidOfItsGrid) {
-    EXPECT_EQ(coordinateSystemOf(foreignDefinition(), PlaceSystem::Utm, 123),
-              bound(grid("Kelvo UTM", "Kelvo user datum",
-                         R"("Bessel 1841",6377397.155,299.1528128)",
-                         {"1", "123", "0.9995", "500001", "5"})));
+    EXPECT_EQ(
+        coordinateSystemOf(foreignDefinition(), PlaceSystem::Utm, 123),
+        bound(grid("Kelvo UTM", "Kelvo user datum", R"("Bessel 1841",6377397.155,299.1528128)",
+                   {"1", "123", "0.9995", "500001", "5"})));
 }
 
 TEST(SystemText, OfAnUnusualUtmOnWgs84IsNotBound) {
@@ -128,8 +127,10 @@ bool hasCode(const Definition& definition, PlaceSystem system, double meridian) 
 using Edits = std::vector<std::function<void(Definition&)>>;
 
 TEST(SystemCode, AnyNumberOfTheGridThatDiffersTakesItAway) {
-    const Edits edits{[](Definition& d) { d.tm.X0 += 1; },   [](Definition& d) { d.tm.Y0 += 1; },
-                      [](Definition& d) { d.tm.Phi0 += 1; }, [](Definition& d) { d.tm.S0 = 0.9996; },
+    const Edits edits{[](Definition& d) { d.tm.X0 += 1; },
+                      [](Definition& d) { d.tm.Y0 += 1; },
+                      [](Definition& d) { d.tm.Phi0 += 1; },
+                      [](Definition& d) { d.tm.S0 = 0.9996; },
                       [](Definition& d) { d.utm.projection.X0 += 1; },
                       [](Definition& d) { d.utm.projection.Y0 += 1; },
                       [](Definition& d) { d.utm.projection.Phi0 += 1; },

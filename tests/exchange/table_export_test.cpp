@@ -20,8 +20,8 @@ PointRec recOf(const std::string& name, double more) {
     for (double PointRec::*field :
          {&PointRec::WgsPhi, &PointRec::WgsLam, &PointRec::WgsH, &PointRec::UserPhi,
           &PointRec::UserLam, &PointRec::UserH, &PointRec::TmX, &PointRec::TmY, &PointRec::TmH,
-          &PointRec::UtmX, &PointRec::UtmY, &PointRec::UtmH, &PointRec::WgsUtmX,
-          &PointRec::WgsUtmY, &PointRec::WgsUtmH})
+          &PointRec::UtmX, &PointRec::UtmY, &PointRec::UtmH, &PointRec::WgsUtmX, &PointRec::WgsUtmY,
+          &PointRec::WgsUtmH})
         rec.*field = ++next;
     return rec;
 }
@@ -52,10 +52,10 @@ TEST_F(TableExport, ASheetHasTheColumnsOfAllFiveTables) {
     std::vector<std::vector<std::string>> rows;
     for (std::vector<std::string> cells; sheet->read(cells);) rows.push_back(cells);
     ASSERT_EQ(rows.size(), 3U);
-    EXPECT_EQ(rows[0], (std::vector<std::string>{
-                           "name", "wgs_lat", "wgs_lon", "wgs_h", "user_lat", "user_lon", "user_h",
-                           "tm_x", "tm_y", "tm_h", "utm_x", "utm_y", "utm_h", "wgsutm_x",
-                           "wgsutm_y", "wgsutm_h"}));
+    EXPECT_EQ(rows[0],
+              (std::vector<std::string>{"name", "wgs_lat", "wgs_lon", "wgs_h", "user_lat",
+                                        "user_lon", "user_h", "tm_x", "tm_y", "tm_h", "utm_x",
+                                        "utm_y", "utm_h", "wgsutm_x", "wgsutm_y", "wgsutm_h"}));
     EXPECT_EQ(rows[1][0], "점");
     EXPECT_EQ(rows[2][0], "B");
     for (std::size_t i = 1; i < rows[0].size(); ++i) {
@@ -84,7 +84,8 @@ TEST_F(TableExport, PlacesAreInWgs84ButInADrawingOnTheTmGrid) {
     EXPECT_NEAR(map[0].place->x, 2.25, 1e-9);
     EXPECT_NEAR(map[0].place->y, 1.25, 1e-9);
     EXPECT_NEAR(map[0].place->height, 3.25, 1e-9);
-    EXPECT_TRUE(loadPointFiles()->open(VectorFormat::GeoPackage, folder.file("a.gpkg"))
+    EXPECT_TRUE(loadPointFiles()
+                    ->open(VectorFormat::GeoPackage, folder.file("a.gpkg"))
                     ->system()
                     .geographic);
     const auto drawing = read("a.dxf");

@@ -53,7 +53,7 @@ TEST(CInterface, TheVersionHasThreeNumbers) {
 TEST(CInterface, EveryFieldOfEveryPointIsThatOfTheEngine) {
     constexpr std::size_t kMany = 600;  // more than two handfuls of what is converted at once
     const ConverterOfC converter = converterOfC("utm 123\nadd 0\n");
-    const PointConverter engine = 
+    const PointConverter engine =
         converterOf({.parameters = "utm 123\nadd 0\n", .knownPoints = std::nullopt});
     std::vector<kelvo_given> given;
     std::vector<GivenPoint> same;
@@ -82,13 +82,13 @@ TEST(CInterface, EveryFieldOfEveryPointIsThatOfTheEngine) {
         }
         EXPECT_EQ(p.status, 0) << i;
         const std::vector<double> found{
-            p.wgs_lat, p.wgs_lon, p.wgs_h,    p.user_lat, p.user_lon, p.user_h,
-            p.tm_x,    p.tm_y,    p.tm_h,     p.tm_lon0,  p.utm_x,    p.utm_y,
+            p.wgs_lat, p.wgs_lon,  p.wgs_h,    p.user_lat, p.user_lon, p.user_h,
+            p.tm_x,    p.tm_y,     p.tm_h,     p.tm_lon0,  p.utm_x,    p.utm_y,
             p.utm_h,   p.utm_lon0, p.wgsutm_x, p.wgsutm_y, p.wgsutm_h, p.wgsutm_lon0};
-        const std::vector<double> wanted{
-            e.WgsPhi, e.WgsLam, e.WgsH,    e.UserPhi, e.UserLam, e.UserH,
-            e.TmX,    e.TmY,    e.TmH,     e.Lam0,    e.UtmX,    e.UtmY,
-            e.UtmH,   e.ULam0,  e.WgsUtmX, e.WgsUtmY, e.WgsUtmH, e.WgsULam0};
+        const std::vector<double> wanted{e.WgsPhi,  e.WgsLam,  e.WgsH,    e.UserPhi, e.UserLam,
+                                         e.UserH,   e.TmX,     e.TmY,     e.TmH,     e.Lam0,
+                                         e.UtmX,    e.UtmY,    e.UtmH,    e.ULam0,   e.WgsUtmX,
+                                         e.WgsUtmY, e.WgsUtmH, e.WgsULam0};
         EXPECT_EQ(found, wanted) << i;
     }
 }
@@ -132,8 +132,13 @@ TEST(CInterface, ABadPointHasNoNumbers) {
 }
 
 TEST(CInterface, ADefinitionIsReadFromBothTextsWithOrWithoutAMark) {
-    const char* const known = "\xEF\xBB\xBF" "A 37.30 127.00 100 37.2950 127.0008 80 1\n*\n\n";
-    const ConverterOfC corrected = converterOfC("\xEF\xBB\xBF" "CORRECTION\n", known);
+    const char* const known =
+        "\xEF\xBB\xBF"
+        "A 37.30 127.00 100 37.2950 127.0008 80 1\n*\n\n";
+    const ConverterOfC corrected = converterOfC(
+        "\xEF\xBB\xBF"
+        "CORRECTION\n",
+        known);
     const ConverterOfC plain = converterOfC("", known);
     const kelvo_given given{37.5, 127, 50};
     kelvo_point one{};

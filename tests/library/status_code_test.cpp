@@ -111,7 +111,8 @@ TEST(StatusCode, AFaultStandsAfterTheRemarks) {
     status.fault = RuntimeFault(Fault::DivisionByZero, "x");
     EXPECT_EQ(converter.code(status), 20);
     EXPECT_EQ(converter.textOfCode(20), kNoGrid + "; 0으로 나누었습니다");
-    EXPECT_EQ(converter.textOfCode(16 + 6), kNoGrid + "; 보정점들의 가중치를 더한 값이 0입니다 (k.cor)");
+    EXPECT_EQ(converter.textOfCode(16 + 6),
+              kNoGrid + "; 보정점들의 가중치를 더한 값이 0입니다 (k.cor)");
 }
 
 TEST(StatusCode, WhatIsNoCodeHasNoText) {

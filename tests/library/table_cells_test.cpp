@@ -16,8 +16,9 @@ using FaultOf = std::optional<RuntimeFault> (*)(const ConvertedPoint&);
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 const Fields kAngles{&P::WgsPhi, &P::WgsLam, &P::UserPhi, &P::UserLam, &P::CorrPhi, &P::CorrLam};
-const Fields kLengths{&P::WgsH, &P::UserH, &P::TmX,     &P::TmY,     &P::TmH,     &P::UtmX, &P::UtmY,
-                      &P::UtmH, &P::CorrH, &P::WgsUtmX, &P::WgsUtmY, &P::WgsUtmH, &P::CorrL};
+const Fields kLengths{&P::WgsH,    &P::UserH,   &P::TmX,  &P::TmY,   &P::TmH,
+                      &P::UtmX,    &P::UtmY,    &P::UtmH, &P::CorrH, &P::WgsUtmX,
+                      &P::WgsUtmY, &P::WgsUtmH, &P::CorrL};
 
 P with(double P::*field, double value) {
     P point;
