@@ -420,7 +420,7 @@ TEST_F(VectorFiles, NumbersAreNumbersAndOnlyAnglesInPartsAreText) {
 }
 
 TEST_F(VectorFiles, EveryPointHasItsOwnCells) {
-    const std::vector<GivenPoint> given{{37.5, 127, 50}, {36.5, 127.25, 60}, {38, 126.75, 70}};
+    const std::vector<GivenPoint> given{{37.5, 127, 50}, {36.5, 127.25, 1600}, {38, 126.75, 7}};
     std::ignore =
         written(output(VectorFormat::Xlsx, {OutputSystem::Wgs, OutputSystem::Tm}), plain(), given);
     const RowBlock block = converted(plain(), given);

@@ -22,6 +22,7 @@ namespace fs = std::filesystem;
 
 class WholeOutput : public ::testing::Test {
 protected:
+    void TearDown() override { EXPECT_NE(::fcntl(STDOUT_FILENO, F_GETFD), -1) << "not theirs"; }
     [[nodiscard]] std::size_t filesThere() const {
         return static_cast<std::size_t>(
             std::distance(fs::directory_iterator(folder.path()), fs::directory_iterator()));
