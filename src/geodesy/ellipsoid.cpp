@@ -35,8 +35,11 @@ double RadiusW(double e2, double phi) {
 }
 
 double RadiusN(double a, double e2, double phi) {
-    const double s = std::sin(phi);
-    return quotient(a, squareRoot(1 - s * s * e2));
+    return radiusNOfSine(a, e2, std::sin(phi));
+}
+
+double radiusNOfSine(double a, double e2, double sine) {
+    return quotient(a, squareRoot(1 - sine * sine * e2));
 }
 
 double RadiusM(double a, double e2, double phi) {

@@ -41,6 +41,8 @@ void NormFlat(double& f);
 // Radius of curvature in the prime vertical, a / W, metres (P. D. Thomas, Conformal Projections
 // in Geodesy and Cartography, US Coast and Geodetic Survey Special Publication 251, 1952).
 [[nodiscard]] double RadiusN(double a, double e2, double phi);
+// The same where the sine of the latitude is at hand.
+[[nodiscard]] double radiusNOfSine(double a, double e2, double sine);
 
 // Radius of curvature in the meridian, a (1 - e2) / W^3, metres (the same).
 [[nodiscard]] double RadiusM(double a, double e2, double phi);

@@ -45,7 +45,7 @@ Geocentric GeoToXYZ(double Phi, double Lam, double h, const EllipsoidShape& shap
     const double lam = finite(Lam * degreeToRadian());
     const double s = std::sin(phi);
     const double c = std::cos(phi);
-    const double N = quotient(shape.a, squareRoot(1 - s * s * shape.e2));
+    const double N = radiusNOfSine(shape.a, shape.e2, s);
     return {.X = finite(((N + h) * c) * std::cos(lam)),
             .Y = finite(((N + h) * c) * std::sin(lam)),
             .Z = finite((shape.b2OverA2 * N + h) * s)};

@@ -68,7 +68,7 @@ void TmLatitude::derive(const TmGrid& grid, double Phi) {
     const Powers<7> c(std::cos(phi));
     const Powers<6> t(quotient(s, c(1)));
     const Powers<4> h(c(2) * grid.ep2());  // the square of the usual eta
-    const double N = KelvoSub::RadiusN(grid.a(), grid.e2(), phi);
+    const double N = KelvoSub::radiusNOfSine(grid.a(), grid.e2(), s);
     const double sN = s * N;
 
     arc_ = grid.meridianArc(phi);
