@@ -26,8 +26,7 @@ std::size_t longLetters(std::string_view bytes) {
 }  // namespace
 
 WrongEncoding wrongEncoding(std::string_view decoded) {
-    if (asciiLength(decoded) == decoded.size() && decoded.find('\0') == std::string_view::npos)
-        return {};
+    if (asciiLength(decoded) == decoded.size()) return {};
     const std::string bytes = encodeCodePage(decoded);
     if (bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF"))
         return {

@@ -19,7 +19,6 @@ constexpr double kNorthOfJeju = 34.5;
 }  // namespace
 
 void CheckedOrigins::afterZone(const TextLine& line, const TransPara& para) {
-    tmParameters_.reset();
     zone_.reset();
     if (para.Zone >= TmZone::West && para.Zone <= TmZone::EastSea)
         zone_ = {.line = line, .Lam0 = para.Lam0};

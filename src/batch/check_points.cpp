@@ -139,9 +139,10 @@ ReadPoint readPoint(const PointLine& point, Findings& findings) {
     read.name = fields[point.nameField].text;
     std::array<double, 3> values{};
     bool plain = true;
-    for (int n = 1; n <= 3; ++n) {
-        const NumberField number = numberOf(fields[point.nameField + n]);
-        values[static_cast<std::size_t>(n - 1)] = number.value;
+    int field = point.nameField;
+    for (double& value : values) {
+        const NumberField number = numberOf(fields[++field]);
+        value = number.value;
         plain = plain && number.reads();
     }
     read.given = {.first = values[0], .second = values[1], .height = values[2]};

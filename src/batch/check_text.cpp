@@ -31,6 +31,13 @@ bool isWideLetter(char32_t c) {
            (c >= 0xFF41 && c <= 0xFF5A);
 }
 
+// Editors indent by full-width blanks too, which to a run are letters.
+std::string_view withoutWideBlanks(std::string_view word) {
+    constexpr std::string_view kWideBlank = "\u3000";
+    while (word.starts_with(kWideBlank)) word.remove_prefix(kWideBlank.size());
+    return word;
+}
+
 }  // namespace
 
 std::vector<TextLine> linesOf(std::string_view text) {
@@ -73,10 +80,12 @@ NumberField numberOf(const TextField& field) {
 }
 
 bool isRemark(const LineFields& fields) {
-    const std::string_view word = fields[1].text;
+    std::string_view word;
+    for (int n = 1; n <= fields.count() && word.empty(); ++n)
+        word = withoutWideBlanks(fields[n].text);
     if (word.empty()) return true;
     const char32_t first = firstCharacter(word).code;
-    if (isAsciiLetter(first) || isWideLetter(first) || isDigit(word.front())) return false;
+    if (isAsciiLetter(first) || isWideLetter(first)) return false;
     return numberLength(word) == 0;
 }
 

@@ -55,7 +55,7 @@ struct NumberField {
 [[nodiscard]] NumberField numberOf(const TextField& field);
 
 // Whether the line is empty or set apart as a remark: by custom a star stands in front; any other
-// mark that is no letter and no digit will do.
+// mark that is no letter and no digit will do. Full-width blanks in front are blanks.
 [[nodiscard]] bool isRemark(const LineFields& fields);
 
 }  // namespace kelvo

@@ -27,11 +27,10 @@ std::string wordOf(Command command) {
     return std::string(entry.word) + (entry.command == command ? "" : " para");
 }
 
-// The letters at the front of a word, after a digit that it begins with.
+// The first character of a word, which may be a digit, and the letters after it.
 std::string_view lettersOf(std::string_view word) {
-    std::size_t length = word.starts_with('7') || word.starts_with('1') ? 1 : 0;
-    while (length < word.size() && word[length] >= 'A' && word[length] <= 'Z') ++length;
-    return word.substr(0, length);
+    const auto isCapital = [](char c) { return c >= 'A' && c <= 'Z'; };
+    return {word.begin(), std::find_if_not(word.begin() + 1, word.end(), isCapital)};
 }
 
 bool isWordOf(Command command, const std::string& upper) {
@@ -106,7 +105,9 @@ void checkSwitchOn(const TextLine& line, const LineFields& fields, Findings& fin
 void checkSwitchOff(const TextLine& line, const LineFields& fields, bool corrects,
                     Findings& findings) {
     const std::string word = upperWord(fields, 2);
-    if (!corrects || word.empty() || isWordOf(Command::Correction, word)) return;
+    if (!corrects || word.empty() || word.starts_with("보정") ||
+        isWordOf(Command::Correction, word))
+        return;
     findings.add(Kind::OnlyResembles, line, fields[1],
                  quoted(fields[1].text) + "은(는) NO CORR 명령으로 읽혀 보정이 꺼집니다");
 }

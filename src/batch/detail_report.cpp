@@ -23,7 +23,6 @@ void DetailReport::startRow(std::string_view label, double Phi, double Lam, doub
 
 void DetailReport::endRow() {
     det_.line(line_);
-    line_.clear();
 }
 
 void DetailReport::row(std::string_view label, double Phi, double Lam, double h) {

@@ -42,4 +42,17 @@ inline std::string shown(const std::vector<Finding>& findings) {
     return text;
 }
 
+// Each finding on a line: its place, with column and length where it is on a field, and its text.
+inline std::string placed(const std::vector<Finding>& findings) {
+    std::string text;
+    for (const Finding& finding : findings) {
+        if (finding.in == Finding::In::KnownPoints) text += "kelvo.cor ";
+        text += std::to_string(finding.line);
+        if (finding.column != 0)
+            text += ":" + std::to_string(finding.column) + "+" + std::to_string(finding.length);
+        text += " " + finding.text + "\n";
+    }
+    return text;
+}
+
 }  // namespace kelvo::testing

@@ -8,9 +8,9 @@ namespace {
 
 using testing::BatchBench;
 
-constexpr std::size_t kNotes = 16;
+constexpr std::size_t kNotesOfFaults = 16;
 constexpr std::size_t kHeader = 23;
-const std::string kKnown =
+const std::string kKnownOfFaults =
     "k1 37.30 127.00 10 37.2950 127.0007 20 1\nk2 37.40 127.10 12 37.3950 127.1007 22 1\n*\n*\n";
 const std::string kWholeRun =
     "CORR\nWGS a 37.3 127 1\n   b 37.31 127.01 1\n*\nzone 3\nUGS c 37.3 127 1\nDIST a b\nend\n\n";
@@ -36,7 +36,7 @@ TEST(Faults, AMissingFileOfKnownPointsEndsTheRunBehindItsHeader) {
     BatchBench bench;
     bench.run("CORR\nWGS a 37.3 127 1\nend\n\n");
     EXPECT_EQ(bench.fault, 53);
-    EXPECT_EQ(bench.out().size(), kNotes + kHeader);
+    EXPECT_EQ(bench.out().size(), kNotesOfFaults + kHeader);
     EXPECT_TRUE(bench.det().empty());
     EXPECT_EQ(bench.points(), 0);
 }
@@ -51,7 +51,7 @@ TEST(Faults, TheTwoHundredAndFirstKnownPointIsASubscriptFault) {
     bench.known(known + "l 37.30 127.00 10 37.2950 127.0007 20 1\n*\n*\n");
     bench.run("CORR\nWGS a 37.301 127.001 1\nend\n\n");
     EXPECT_EQ(bench.fault, 9);
-    EXPECT_EQ(bench.out().size(), kNotes + kHeader);
+    EXPECT_EQ(bench.out().size(), kNotesOfFaults + kHeader);
 }
 
 TEST(Faults, WithoutAUsableWeightThePointCannotBeCorrected) {
@@ -121,7 +121,7 @@ TEST(Faults, TheTextOfACutFileOfKnownPointsNamesThatFile) {
 
 TEST(Faults, EveryOperationMadeToFailInTurnEndsTheRunWithItsFault) {
     BatchBench whole;
-    whole.known(kKnown);
+    whole.known(kKnownOfFaults);
     int operations = 0;
     whole.disk.before = [&](const std::string&, const std::string&) { ++operations; };
     whole.run(kWholeRun);
@@ -132,7 +132,7 @@ TEST(Faults, EveryOperationMadeToFailInTurnEndsTheRunWithItsFault) {
 
     for (int failing = 1; failing <= operations; ++failing) {
         BatchBench bench;
-        bench.known(kKnown);
+        bench.known(kKnownOfFaults);
         int count = 0;
         std::string failed;
         bench.disk.before = [&](const std::string& operation, const std::string& path) {
@@ -158,7 +158,7 @@ TEST(Faults, EveryOperationMadeToFailInTurnEndsTheRunWithItsFault) {
 TEST(Faults, EveryOperationFailingFromSomePointOnEndsTheRunToo) {
     for (int from = 1; from <= 30; ++from) {
         BatchBench bench;
-        bench.known(kKnown);
+        bench.known(kKnownOfFaults);
         int count = 0;
         bench.disk.before = [&](const std::string&, const std::string&) {
             if (++count >= from) raise(Fault::DiskNotReady);
@@ -237,7 +237,7 @@ TEST(Nonsense, NeverReachesAReportAsInfinityOrNan) {
             for (const char* system : {"WGS", "UGS", "TM", "UTM"}) {
                 for (const char* correction : {"NO", "CORR"}) {
                     BatchBench bench;
-                    bench.known(kKnown);
+                    bench.known(kKnownOfFaults);
                     bench.run(std::string("INPUT deg\nOUTPUT deg\n") + correction + "\n" +
                               parameter + "\n" + system + " a " + place + "\n   b " + place +
                               "\nWGS c 37.3 127 1\nDIST a c\nend\n\n");

@@ -12,7 +12,7 @@ using testing::ReportBench;
 using Lines = std::vector<std::string>;
 
 const std::string kOne = ReportBench::known("기지점", 10, 1.5, -0.25, "10", "60", "12.5");
-const std::string kEnd = "*\n*\n";
+const std::string kEndOfRun = "*\n*\n";
 
 TEST(RunHeader, WithTheCorrectionOffThereAreTwentyThreeLinesAndNoDetail) {
     ReportBench bench;
@@ -29,7 +29,7 @@ TEST(RunHeader, AFlagOtherThanZeroAndOneSaysNoAndCorrectsAllTheSame) {
     for (const int flag : {2, -1}) {
         ReportBench bench;
         bench.para.CorrFlag = Flag{static_cast<std::int16_t>(flag)};
-        EXPECT_EQ(bench.print(kOne + kEnd), 0);
+        EXPECT_EQ(bench.print(kOne + kEndOfRun), 0);
         EXPECT_EQ(bench.lines("/out")[8], "기존점에 의한 2차 보정 - 보정 안함");
         EXPECT_EQ(bench.state.known.CorrCount, 1);
         EXPECT_NE(bench.disk.bytes("/det"), "");
@@ -66,7 +66,7 @@ TEST(RunHeader, TheShiftIsLoadedWhetherOrNotTheCorrectionIsOn) {
 
 TEST(RunHeader, TheDetailBlockOfOnePointComesOutLineByLine) {
     ReportBench bench;
-    ASSERT_EQ(bench.print(kOne + kEnd, 3), 0);
+    ASSERT_EQ(bench.print(kOne + kEndOfRun, 3), 0);
     const Lines det = bench.lines("/det");
     ASSERT_EQ(det.size(), 22U);
     EXPECT_EQ(det[0], " ");
@@ -110,7 +110,7 @@ TEST(RunHeader, TheDetailBlockOfOnePointComesOutLineByLine) {
 TEST(RunHeader, ANameOfFiveSyllablesFillsItsFieldAndASixthIsCut) {
     ReportBench bench;
     ASSERT_EQ(bench.print(ReportBench::known("가나다라마", 10, 1, 1, "1", "1", "1") +
-                          ReportBench::known("가나다라마바", 20, 1, 1, "1", "1", "1") + kEnd),
+                          ReportBench::known("가나다라마바", 20, 1, 1, "1", "1", "1") + kEndOfRun),
               0);
     const Lines det = bench.lines("/det");
     EXPECT_EQ(det[5].substr(0, std::string("가나다라마 WGS ").size()), "가나다라마 WGS ");
@@ -120,7 +120,7 @@ TEST(RunHeader, ANameOfFiveSyllablesFillsItsFieldAndASixthIsCut) {
 TEST(RunHeader, TheLinesOfAllFormsAreOfOneWidth) {
     for (const int form : {1, 2, 3, 4}) {
         ReportBench bench;
-        ASSERT_EQ(bench.print(kOne + kEnd, form), 0);
+        ASSERT_EQ(bench.print(kOne + kEndOfRun, form), 0);
         const Lines det = bench.lines("/det");
         // 10 for the name, 13 for the label, 19 + 19 + 13, and the length after them
         EXPECT_EQ(genSub::DisplayLen(det[6]), 74) << form;

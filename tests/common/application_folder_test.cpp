@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <filesystem>
+#include <optional>
+#include <string>
 
 #include "common/run_time_fault.h"
 
@@ -42,6 +45,42 @@ TEST(ApplicationFolder, StandsBesideTheProgramWhereThereIsNoHome) {
                               .home = std::nullopt};
     EXPECT_EQ(chooseApplicationFolder(choice), "/usr/bin");
 }
+
+#ifndef _WIN32
+// A variable of the environment for as long as a test lasts.
+class Variable {
+public:
+    Variable(const char* name, const char* value) : name_(name) {
+        if (const char* const old = std::getenv(name)) old_ = old;
+        if (value == nullptr)
+            unsetenv(name);
+        else
+            setenv(name, value, 1);
+    }
+    ~Variable() {
+        if (old_)
+            setenv(name_, old_->c_str(), 1);
+        else
+            unsetenv(name_);
+    }
+    Variable(const Variable&) = delete;
+    Variable& operator=(const Variable&) = delete;
+
+private:
+    const char* name_;
+    std::optional<std::string> old_;
+};
+
+TEST(ApplicationFolder, AVariableThatIsEmptyIsOneThatIsMissing) {
+    const Variable home("HOME", "/home/kim");
+    for (const char* const none : {"", static_cast<const char*>(nullptr)}) {
+        const Variable data("XDG_DATA_HOME", none);
+        EXPECT_EQ(findApplicationFolder(), "/home/kim/.local/share/Kelvo");
+    }
+    const Variable data("XDG_DATA_HOME", "/data/kim");
+    EXPECT_EQ(findApplicationFolder(), "/data/kim/Kelvo");
+}
+#endif
 
 TEST(ApplicationFolder, IsMadeWithItsFolderDataAndCanBeMadeAgain) {
     const std::filesystem::path folder =

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace kelvo {
 namespace {
 
@@ -30,6 +32,34 @@ TEST(UpperCased, BytesThatAreNoCharacterStay) {
 TEST(LowerCased, UndoesUpperCasing) {
     for (const char* text : {"wgs", "ａｂ", "αω", "яё", "æøœ", "가a", "ⅰⅹ", "ⓐⓩ"}) {
         EXPECT_EQ(lowerCased(upperCased(std::string_view(text))), text);
+    }
+}
+
+// The letters of the code page that have two cases, one beside the other.
+constexpr std::pair<const char*, const char*> kBothCases[] = {{"azæðøþđħĳŀłŋœŧ", "AZÆÐØÞĐĦĲĿŁŊŒŦ"},
+                                                              {"αρσω", "ΑΡΣΩ"},
+                                                              {"аяё", "АЯЁ"},
+                                                              {"ⅰⅹ", "ⅠⅩ"},
+                                                              {"ⓐⓩ", "ⒶⓏ"},
+                                                              {"ａｚ", "ＡＺ"}};
+
+TEST(LetterCase, GoesBothWaysForTheFirstAndTheLastOfEachRow) {
+    for (const auto& [lower, upper] : kBothCases) {
+        EXPECT_EQ(upperCased(std::string_view(lower)), upper);
+        EXPECT_EQ(lowerCased(std::string_view(upper)), lower);
+        EXPECT_EQ(upperCased(std::string_view(upper)), upper);
+        EXPECT_EQ(lowerCased(std::string_view(lower)), lower);
+    }
+    // A letter without a dot has a capital that belongs to another one.
+    EXPECT_EQ(upperCased(std::string_view("ı")), "I");
+    EXPECT_EQ(lowerCased(std::string_view("I")), "i");
+}
+
+TEST(LetterCase, LeavesTheNeighboursOfEachRowAlone) {
+    for (const std::string_view text :
+         {"`{@[", "åçïñ÷ùýÿ", "ÅÇÏÑ×ÙÝß", "ΰϊς", "ѐђЀЂ", "ⅺⅪ", "⓪⒵", "｀｛＠［"}) {
+        EXPECT_EQ(upperCased(text), text);
+        EXPECT_EQ(lowerCased(text), text);
     }
 }
 

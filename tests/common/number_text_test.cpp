@@ -121,6 +121,24 @@ TEST(StrictNumber, TakesTheWholeText) {
     EXPECT_EQ(faultOf([] { return strictNumber("1e400"); }), 6);
 }
 
+std::string textOfFault(const std::string& text) {
+    try {
+        static_cast<void>(strictNumber(text));
+    } catch (const RuntimeFault& fault) {
+        return fault.text();
+    }
+    return {};
+}
+
+TEST(StrictNumber, AFaultQuotesTheFirstTwoHundredCharacters) {
+    const std::string word(200, 'x');
+    EXPECT_EQ(textOfFault(word), "숫자가 아닙니다 (" + word + ")");
+    EXPECT_EQ(textOfFault(word + "y"), "숫자가 아닙니다 (" + word + ")");
+    const std::string digits(400, '9');
+    EXPECT_EQ(textOfFault(digits), "숫자가 너무 큽니다 (" + digits.substr(0, 200) + ")");
+    EXPECT_EQ(textOfFault(" 1e400 "), "숫자가 너무 큽니다 (1e400)");
+}
+
 TEST(StrictNumber, ANumberBeyondItsTypeIsAnOverflow) {
     EXPECT_EQ(faultOf([] { return strictSingle("1e39"); }), 6);
     EXPECT_EQ(faultOf([] { return strictInteger16("32768"); }), 6);

@@ -88,6 +88,62 @@ TEST(NewFile, IsForItsUserAloneUnlessItMayBeOpen) {
     EXPECT_EQ(statusOf(folder.file("open")).st_mode & 07777U, 0644U);
 }
 
+TEST(SystemFileCalls, ReadingAllTakesThePlaceOfWhatTheTextHeld) {
+    const TemporaryFolder folder;
+    folder.put("a", "content");
+    SystemFileCalls calls;
+    const FileHandle file = calls.openForReading(folder.file("a"));
+    ASSERT_GE(file, 0);
+    std::string bytes = "something longer than the content";
+    EXPECT_EQ(calls.readAll(file, bytes), 0);
+    EXPECT_EQ(bytes, "content");
+    calls.close(file);
+}
+
+TEST(SystemFileCalls, CarryingAttributesBringsAllOfThemAndLeavesNoOther) {
+    const TemporaryFolder folder;
+    const std::string a = folder.file("a");
+    const std::string b = folder.file("b");
+    folder.put("a", "a");
+    folder.put("b", "b");
+    ASSERT_EQ(chmod(a.c_str(), 0640), 0);
+    const bool kept = setxattr(a.c_str(), "user.kelvo", "note", 4, 0) == 0;
+    if (kept) {
+        ASSERT_EQ(setxattr(a.c_str(), "user.second", "more", 4, 0), 0);
+        ASSERT_EQ(setxattr(b.c_str(), "user.other", "own", 3, 0), 0);
+    }
+    SystemFileCalls calls;
+    const FileHandle from = calls.openThere(folder.file("a"));
+    const FileHandle to = calls.openThere(folder.file("b"));
+    EXPECT_EQ(calls.carryAttributes(from, to), 0);
+    EXPECT_EQ(calls.carryAttributes(-1, to), -EBADF);
+    calls.close(from);
+    calls.close(to);
+    EXPECT_EQ(statusOf(b).st_mode & 07777U, 0640U);
+    if (!kept) return;
+    std::array<char, 16> value{};
+    for (const auto& [name, held] :
+         {std::pair{"user.kelvo", "note"}, std::pair{"user.second", "more"}}) {
+        EXPECT_EQ(getxattr(b.c_str(), name, value.data(), value.size()), 4) << name;
+        EXPECT_STREQ(value.data(), held);
+    }
+    EXPECT_EQ(getxattr(b.c_str(), "user.other", value.data(), value.size()), -1);
+}
+
+TEST(SystemFileCalls, ALeftoverIsAFileOfThisUserThatNobodyHolds) {
+    const TemporaryFolder folder;
+    folder.put("file", "");
+    fs::create_directory(folder.file("folder"));
+    fs::create_symlink(folder.file("file"), folder.file("link"));
+    SystemFileCalls calls;
+    EXPECT_TRUE(calls.isLeftover(folder.file("file")));
+    for (const char* const other : {"folder", "link", "missing"})
+        EXPECT_FALSE(calls.isLeftover(folder.file(other))) << other;
+    if (geteuid() != 0) return;
+    ASSERT_EQ(chown(folder.file("file").c_str(), 1234, 5678), 0);
+    EXPECT_FALSE(calls.isLeftover(folder.file("file")));
+}
+
 TEST_P(Saving, KeepsHardLinks) {
     folder.put("a", "old and longer");
     fs::create_hard_link(folder.file("a"), folder.file("b"));
@@ -101,11 +157,15 @@ TEST_P(Saving, KeepsExtendedAttributes) {
     folder.put("a", "old");
     if (setxattr(folder.file("a").c_str(), "user.kelvo", "note", 4, 0) != 0)
         GTEST_SKIP() << "no extended attributes here";
+    ASSERT_EQ(setxattr(folder.file("a").c_str(), "user.second", "more", 4, 0), 0);
     save(folder.file("a"), "new");
     EXPECT_EQ(folder.bytes("a"), "new");
-    std::array<char, 16> value{};
-    EXPECT_EQ(getxattr(folder.file("a").c_str(), "user.kelvo", value.data(), value.size()), 4);
-    EXPECT_STREQ(value.data(), "note");
+    for (const auto& [name, held] :
+         {std::pair{"user.kelvo", "note"}, std::pair{"user.second", "more"}}) {
+        std::array<char, 16> value{};
+        EXPECT_EQ(getxattr(folder.file("a").c_str(), name, value.data(), value.size()), 4);
+        EXPECT_STREQ(value.data(), held);
+    }
 }
 
 // u::rw- u:1234:rw- g::r-- m::rw- o::--- as the system stores it.

@@ -270,5 +270,14 @@ TEST(MeridianArc, BeyondADoubleIsAnOverflow) {
     EXPECT_THROW(static_cast<void>(KelvoSub::MeridianArc(1, 1, 1, 1, 1, 1e308)), RuntimeFault);
 }
 
+// The eighth power of 1e40 is beyond a double, the seventh isn't, so that X alone has no value.
+TEST(TmParallel, ALongitudeWhoseXAloneIsBeyondADoubleFails) {
+    const TmGrid grid(kUserBessel, kCentre);
+    const auto point = TmParallel(grid, TmLatitude(grid, 37)).at(6e41, 127);
+    EXPECT_TRUE(point.failed);
+    EXPECT_EQ(point.value.X, 500000);
+    EXPECT_EQ(point.value.Y, 200000);
+}
+
 }  // namespace
 }  // namespace kelvo
