@@ -42,7 +42,6 @@ int convertOrExplain(const ConvertCommandLine& line) {
     try {
         return convert(line, report);
     } catch (const ClosedPipe&) {
-        report.wipe();
         return kAllConverted;
     } catch (const BadDefinition& bad) {
         reason = bad.what();

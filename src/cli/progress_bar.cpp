@@ -1,5 +1,7 @@
 #include "cli/progress_bar.h"
 
+#include <algorithm>
+
 namespace kelvo {
 
 namespace {
@@ -16,8 +18,8 @@ std::string progressLine(std::size_t done, std::size_t total, const std::string&
     const std::string line =
         barOf(filled) + " " + std::to_string(done) + "/" + std::to_string(total) + " ";
     // Bytes for columns: a Hangul letter takes three bytes and two columns, so that's safe.
-    const std::size_t room = columns > line.size() ? columns - line.size() : 0;
-    std::size_t from = name.size() > room ? name.size() - room : 0;
+    const std::size_t room = columns - std::min(columns, line.size());
+    std::size_t from = name.size() - std::min(name.size(), room);
     while (from < name.size() && continuesCharacter(name[from])) ++from;
     return line + name.substr(from);
 }

@@ -8,9 +8,9 @@
 namespace kelvo {
 
 struct FileIdentity {
-    std::uint64_t device = 0;
-    std::uint64_t number = 0;
-    std::uint64_t size = 0;  // bytes
+    std::uint64_t device{};
+    std::uint64_t number{};
+    std::uint64_t size{};  // bytes
 
     [[nodiscard]] bool isSameFile(const FileIdentity& other) const {
         return device == other.device && number == other.number;

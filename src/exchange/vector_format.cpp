@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "common/letter_case.h"
+
 namespace kelvo {
 
 namespace {
@@ -24,15 +26,10 @@ constexpr std::array<FormatLimits, 8> kFormats{{
      false, false},
 }};
 
-char lowered(char letter) {
-    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-}
-
 bool endsIn(std::string_view path, std::string_view ending) {
     if (path.size() <= ending.size() + 1) return false;
     const std::string_view tail = path.substr(path.size() - ending.size());
-    return path[path.size() - ending.size() - 1] == '.' &&
-           std::ranges::equal(tail, ending, {}, lowered);
+    return path[path.size() - ending.size() - 1] == '.' && lowerCased(tail) == ending;
 }
 
 }  // namespace

@@ -47,6 +47,10 @@ std::optional<System> systemOf(kelvo_system system) {
     return std::nullopt;
 }
 
+GivenPoint givenPointOf(const kelvo_given& given) {
+    return {.first = given.first, .second = given.second, .height = given.height};
+}
+
 kelvo_point pointOf(const ConvertedPoint& p) {
     return {.wgs_lat = p.WgsPhi,
             .wgs_lon = p.WgsLam,
@@ -79,12 +83,11 @@ class SomePoints {
 public:
     void convert(const PointConverter& converter, System system, std::span<const kelvo_given> given,
                  kelvo_point* points) {
-        for (std::size_t i = 0; i < given.size(); ++i)
-            given_[i] = {
-                .first = given[i].first, .second = given[i].second, .height = given[i].height};
+        const auto converted = std::span(converted_).first(given.size());
+        std::ranges::transform(given, given_.begin(), givenPointOf);
         converter.convert(system, AngleForm::Degrees, std::span(given_).first(given.size()),
-                          std::span(converted_).first(given.size()), statuses_);
-        for (std::size_t i = 0; i < given.size(); ++i) points[i] = pointOf(converted_[i]);
+                          converted, statuses_);
+        std::ranges::transform(converted, points, pointOf);
         for (const auto& [place, status] : statuses_)
             points[place] = badPoint(converter.code(status));
     }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <initializer_list>
 
 #include "common/fixed_width.h"
 
@@ -21,13 +22,10 @@ public:
         KelvoSub::appendAngleText(line_, Lam, AngleForm::Degrees);
         return *this;
     }
-    Cells& grid(double X, double Y) {
-        genSub::appendFormatNum(line_, X, 12, 6);
-        genSub::appendFormatNum(line_, Y, 12, 6);
-        return *this;
+    // Whatever the width of a column is, it takes every number but an infinity.
+    void lengths(std::initializer_list<double> metres) {
+        for (const double length : metres) genSub::appendFormatNum(line_, length, 8, 4);
     }
-    void height(double h) { genSub::appendFormatNum(line_, h, 8, 4); }
-    void length(double L) { genSub::appendFormatNum(line_, L, 3, 5); }
 
 private:
     std::string line_;
@@ -59,22 +57,20 @@ bool isWritable(const ConvertedPoint& p) {
 
 std::optional<RuntimeFault> faultOfDetailRow(const ConvertedPoint& p) {
     return faultOf([&p](Cells& cells) {
-        cells.angles(p.CorrPhi, p.CorrLam).height(p.CorrH);
-        cells.length(p.CorrL);
+        cells.angles(p.CorrPhi, p.CorrLam).lengths({p.CorrH, p.CorrL});
     });
 }
 
 std::optional<RuntimeFault> faultOfTables(const ConvertedPoint& p) {
     return faultOf([&p](Cells& cells) {
-        cells.angles(p.WgsPhi, p.WgsLam).height(p.WgsH);
-        cells.angles(p.UserPhi, p.UserLam).height(p.UserH);
-        cells.grid(p.TmX, p.TmY).height(p.TmH);
-        cells.grid(p.UtmX, p.UtmY).height(p.UtmH);
+        cells.angles(p.WgsPhi, p.WgsLam).lengths({p.WgsH});
+        cells.angles(p.UserPhi, p.UserLam).lengths({p.UserH});
+        cells.lengths({p.TmX, p.TmY, p.TmH, p.UtmX, p.UtmY, p.UtmH});
     });
 }
 
 std::optional<RuntimeFault> faultOfLastTable(const ConvertedPoint& p) {
-    return faultOf([&p](Cells& cells) { cells.grid(p.WgsUtmX, p.WgsUtmY).height(p.WgsUtmH); });
+    return faultOf([&p](Cells& cells) { cells.lengths({p.WgsUtmX, p.WgsUtmY, p.WgsUtmH}); });
 }
 
 void appendAngleCell(std::string& text, double degrees, AngleForm form) {

@@ -126,5 +126,29 @@ TEST(ConversionOfRows, AFieldWithACommaQuoteOrLineEndIsQuoted) {
     EXPECT_NE(text.find("\n\"e\nf\",37.0000000000,"), std::string::npos) << text;
 }
 
+std::string fieldOf(const std::string& name) {
+    const std::string text = convert(name + ",37,127\n", 1).text;
+    const std::size_t start = text.find('\n') + 1;
+    return text.substr(start, text.find(",37.0000000000,") - start);
+}
+
+TEST(ConversionOfRows, OnlyAFieldThatNeedsQuotesHasThem) {
+    EXPECT_EQ(fieldOf("a;b"), "a;b");
+    EXPECT_EQ(fieldOf("\"a\""), "a");
+    EXPECT_EQ(fieldOf("\"a,b\""), "\"a,b\"");
+    EXPECT_EQ(fieldOf("\"a\rb\""), "\"a\rb\"");
+    EXPECT_EQ(fieldOf("\"\"\"\""), "\"\"\"\"");
+    EXPECT_EQ(fieldOf(""), "");
+}
+
+TEST(ConversionOfRows, ABadPointHasEmptyCellsAndItsStatus) {
+    EXPECT_EQ(convert("a,x,127\n", 1).text.substr(convert("", 1).text.size()),
+              "a" + std::string(19, ',') + "숫자가 아닙니다: x (line 1)\n");
+    const Result result = convert("a,37,127\nb,x,127\nc,40000,127\n", 1);
+    EXPECT_EQ(result.converted.points, 3U);
+    EXPECT_EQ(result.converted.notConverted, 2U);
+    EXPECT_EQ(convert("", 1).converted.points, 0U);
+}
+
 }  // namespace
 }  // namespace kelvo

@@ -55,5 +55,35 @@ TEST(CoordinateText, APieceInASentenceIsShortOnOneLineAndWellFormed) {
     EXPECT_EQ(quotedPiece(std::string(100, 'x')), std::string(40, 'x') + "...");
 }
 
+TEST(CoordinateText, APieceHasFortyBytesAtMostAndNoHalfCharacter) {
+    const std::string forty(40, 'x');
+    EXPECT_EQ(quotedPiece(forty), forty);
+    EXPECT_EQ(quotedPiece(forty + "x"), forty + "...");
+    EXPECT_EQ(quotedPiece(std::string(37, 'x') + "가"), std::string(37, 'x') + "가");
+    EXPECT_EQ(quotedPiece(std::string(38, 'x') + "가"), std::string(38, 'x') + "...");
+    EXPECT_EQ(quotedPiece(""), "");
+}
+
+TEST(CoordinateText, AControlCharacterInAPieceIsAQuestionMark) {
+    EXPECT_EQ(quotedPiece(std::string("\0", 1)), "?");
+    EXPECT_EQ(quotedPiece("\x1F \x7E\x7F"), "? ~?");
+    EXPECT_EQ(quotedPiece("\xC2\x80|\xC2\x9F|\xC2\xA0"), "?|?|\xC2\xA0");
+}
+
+TEST(CoordinateText, ASignIsReadAndAnEmptyExponentIsNot) {
+    EXPECT_EQ(readCoordinate("+0.5").value, 0.5);
+    EXPECT_EQ(readCoordinate("-0.5").value, -0.5);
+    EXPECT_EQ(readCoordinate("12e01").value, 120);
+    EXPECT_EQ(readCoordinate("12e-01").value, 1.2);
+    for (const char* text :
+         {"1e-", "1E", "1e+-1", "1e1.5", "1e1x", "+.", "-.e1", ".e1", "5.e", "1.5x"})
+        EXPECT_EQ(readCoordinate(text).outcome, Outcome::NoNumber) << text;
+    for (const char* text : {"1e999", "-1e999"}) EXPECT_TRUE(readCoordinate(text).isSpelled());
+    EXPECT_FALSE(readCoordinate("").isSpelled());
+    EXPECT_FALSE(readCoordinate("x").isSpelled());
+    EXPECT_EQ(readCoordinate("-1e-400").value, 0);
+    EXPECT_EQ(readCoordinate("-1e-400").outcome, Outcome::Number);
+}
+
 }  // namespace
 }  // namespace kelvo

@@ -71,5 +71,42 @@ TEST(DelimitedFields, ALineEndIsLfOrCrLf) {
     EXPECT_EQ(withoutLineEnd("a"), "a");
 }
 
+TEST(DelimitedFields, TheFirstLineEndsAtALineEndOutsideQuotes) {
+    EXPECT_EQ(firstLineOf("a,b\nc"), "a,b");
+    EXPECT_EQ(firstLineOf("\na"), "");
+    EXPECT_EQ(firstLineOf("a\"b\nc\"d\ne"), "a\"b\nc\"d");
+    EXPECT_EQ(firstLineOf("\"a\nb"), "\"a\nb");
+    EXPECT_EQ(firstLineOf(""), "");
+}
+
+TEST(DelimitedFields, AQuoteCountsAtTheStartOfAnyFieldAndNowhereElse) {
+    EXPECT_EQ(endOfRow("a;\"b\nc\"\nd", ';'), 7U);
+    EXPECT_EQ(endOfRow("a;\"b\nc\"\nd", ','), 4U);
+    EXPECT_EQ(endOfRow("\"a\"\"b\n", ','), std::string_view::npos);
+    EXPECT_EQ(endOfRow("\"a\"x\"\n\"", ','), 5U);
+    EXPECT_EQ(endOfRow("\"\"\n", ','), 2U);
+    EXPECT_EQ(endOfRow("x\"\n", ','), 2U);
+    EXPECT_EQ(endOfRow("\n\"", ','), 0U);
+    EXPECT_EQ(endOfRow("", ','), std::string_view::npos);
+}
+
+TEST(DelimitedFields, AfterItsClosingQuoteAFieldGoesOnToTheDelimiter) {
+    EXPECT_EQ(fieldsOf("\"a,b\"c\"d,e"), (Texts{"a,bc\"d", "e"}));
+    EXPECT_EQ(fieldsOf("\"\",\"\"\"\",\"a\"\""), (Texts{"", "\"", "a\""}));
+    EXPECT_EQ(fieldsOf("a,"), (Texts{"a", ""}));
+    EXPECT_EQ(fieldsOf("\""), (Texts{""}));
+    EXPECT_EQ(fieldsOf("\"a"), (Texts{"a"}));
+}
+
+TEST(DelimitedFields, OnlyTheLastFieldCanBeUnclosed) {
+    std::vector<std::string_view> fields(4);
+    std::string closed = "\"a\",\"b\"";
+    EXPECT_FALSE(splitFields(closed, ',', fields).unclosedQuote);
+    EXPECT_EQ(fields[0], "a");
+    EXPECT_EQ(fields[1], "b");
+    std::string doubled = "a,\"b\"\"";
+    EXPECT_TRUE(splitFields(doubled, ',', fields).unclosedQuote);
+}
+
 }  // namespace
 }  // namespace kelvo

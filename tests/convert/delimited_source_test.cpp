@@ -126,5 +126,84 @@ TEST(DelimitedSource, ManyColumnsAreFine) {
     EXPECT_EQ(rowsOf(row + ",7,8\n", "1,100,101"), (Rows{"a|7.|8.|0.@1"}));
 }
 
+TEST(DelimitedSource, ABlockHoldsNoMoreRowsThanItMay) {
+    std::string text;
+    for (std::size_t i = 0; i < kRowsOfBlock + 1; ++i) text += "a,1,2\n";
+    DelimitedSource source(std::make_unique<BytesOfTest>(text), {}, 0);
+    RowBlock block;
+    ASSERT_TRUE(source.gather(block));
+    EXPECT_EQ(block.lines.size(), kRowsOfBlock);
+    EXPECT_LT(source.progress(), 0);
+    block.clear();
+    ASSERT_TRUE(source.gather(block));
+    EXPECT_EQ(block.lines, std::vector<long>{1025});
+    block.clear();
+    EXPECT_FALSE(source.gather(block));
+}
+
+// 128 KiB and the row that passes them.
+TEST(DelimitedSource, ABlockOfLongRowsEndsEarly) {
+    const std::string name(1019, 'n');
+    std::string text;
+    for (int i = 0; i < 200; ++i) text += name + ",1,22\n";  // 1024 bytes without the line end
+    DelimitedSource source(std::make_unique<BytesOfTest>(text), {}, text.size());
+    RowBlock block;
+    ASSERT_TRUE(source.gather(block));
+    EXPECT_EQ(block.text.size(), 128U * 1024);
+    EXPECT_EQ(block.lines.size(), 128U);
+    EXPECT_EQ(source.progress(), 128 * 1025 / (200 * 1025.0));
+}
+
+TEST(DelimitedSource, ProgressCountsTheMarkAndTheHeaderAndNeverPassesTheEnd) {
+    const std::string text = "\xEF\xBB\xBFname,lat,lon\na,1,2\n";
+    DelimitedSource source(std::make_unique<BytesOfTest>(text), {}, 22);
+    EXPECT_EQ(source.progress(), 16 / 22.0);
+    RowBlock block;
+    ASSERT_TRUE(source.gather(block));
+    EXPECT_EQ(source.progress(), 1);
+    DelimitedSource grown(std::make_unique<BytesOfTest>(text), {}, 5);
+    EXPECT_EQ(grown.progress(), 1);
+}
+
+TEST(DelimitedSource, TheLongestRowHasAMebibyteWithItsLineEnd) {
+    const auto ofLength = [](std::size_t length) {
+        return "a,1,2\n" + std::string(length - 5, 'x') + ",3,4\n" + "b,5,6\n";
+    };
+    EXPECT_EQ(rowsOf(ofLength(kLongestRow)).size(), 3U);
+    try {
+        std::ignore = rowsOf(ofLength(kLongestRow + 1));
+        FAIL();
+    } catch (const Refusal& refusal) {
+        EXPECT_STREQ(refusal.what(),
+                     "line 2: 한 행이 1048576바이트보다 깁니다. 닫지 않은 따옴표가 있는지 "
+                     "확인하십시오");
+    }
+}
+
+TEST(DelimitedSource, AHeaderMayLackAnyColumnButTheRowsMayNot) {
+    EXPECT_EQ(rowsOf("name,lat,lon,3\na,1,2\n"),
+              (Rows{"name!숫자가 아닙니다: lat (line 1)", "a|1.|2.|0.@2"}));
+    EXPECT_EQ(rowsOf("7,lat,lon\na,1,2\n"), (Rows{"a|1.|2.|0.@2"}));
+    EXPECT_EQ(rowsOf("name,lat,lon,h,5\na,1,2\n"), (Rows{"a|1.|2.|0.@2"}));
+    EXPECT_EQ(rowsOf("a\nb,1\nc,1,2\n"), (Rows{"b!칸이 모자랍니다 (line 2)", "c|1.|2.|0.@3"}));
+}
+
+// A number over a coordinate makes the line a point.
+TEST(DelimitedSource, AFirstLineWithACoordinateColumnNamedLikeANumberIsNoHeader) {
+    for (const char* columns : {"id,1.5,lon", "id,lat,1.5", "id,lat,lon,1.5"})
+        EXPECT_THROW(std::ignore = rowsOf("id,lat,lon,1.5\na,1,2,3\n", columns), Refusal);
+    EXPECT_EQ(rowsOf("1.5,lat,lon\na,1,2\n", "1.5,lat,lon"), (Rows{"a|1.|2.|0.@2"}));
+}
+
+TEST(DelimitedSource, ManyColumnsCountFromAnyOfTheFour) {
+    std::string row;
+    for (int i = 1; i <= 40; ++i) row += std::to_string(i) + (i < 40 ? "," : "\n");
+    EXPECT_EQ(rowsOf(row, "40,1,2,3"), (Rows{"40|1.|2.|3.@1"}));
+    EXPECT_EQ(rowsOf(row, "1,40,2,3"), (Rows{"1|40.|2.|3.@1"}));
+    EXPECT_EQ(rowsOf(row, "1,2,40,3"), (Rows{"1|2.|40.|3.@1"}));
+    EXPECT_EQ(rowsOf(row, "1,2,3,40"), (Rows{"1|2.|3.|40.@1"}));
+    EXPECT_EQ(rowsOf(row, "-,32,33,31"), (Rows{"|32.|33.|31.@1"}));
+}
+
 }  // namespace
 }  // namespace kelvo

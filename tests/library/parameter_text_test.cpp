@@ -87,5 +87,90 @@ TEST(ParameterText, AMessageNamesTextLineAndReason) {
     }
 }
 
+// What is said of the text, without its name.
+std::string whyRefused(const std::string& text) {
+    try {
+        std::ignore = parametersOf(text, "p");
+    } catch (const BadDefinition& bad) {
+        return std::string(bad.what()).substr(2);
+    }
+    return "";
+}
+
+TEST(ParameterText, AMessageSaysWhatIsMissing) {
+    EXPECT_EQ(whyRefused("1st 1 2"), "line 1: 값이 모자랍니다. 3개 있어야 합니다");
+    EXPECT_EQ(whyRefused("1st"), "line 1: 값이 모자랍니다. 3개 있어야 합니다");
+    EXPECT_EQ(whyRefused("zone"), "line 1: 값이 모자랍니다. 1개 있어야 합니다");
+    EXPECT_EQ(whyRefused("add"), "line 1: 값이 모자랍니다. 1개 있어야 합니다");
+    EXPECT_EQ(whyRefused("utm"), "line 1: 값이 모자랍니다. 1개 있어야 합니다");
+    EXPECT_EQ(whyRefused("7 para\n1 2"), "line 2: 값이 모자랍니다. 3개 있어야 합니다");
+    EXPECT_EQ(whyRefused("7 para\n1 2 3\n4 5"), "line 3: 값이 모자랍니다. 3개 있어야 합니다");
+    EXPECT_EQ(whyRefused("tm para\n6378137"), "line 2: 값이 모자랍니다. 2개 있어야 합니다");
+    EXPECT_EQ(whyRefused("\n7 para\n1 2 3\n4 5 6"),
+              "line 2: 파라미터가 끝까지 있지 않습니다. 이 줄 다음에 3줄이 있어야 합니다");
+    EXPECT_EQ(whyRefused("utm para"),
+              "line 1: 파라미터가 끝까지 있지 않습니다. 이 줄 다음에 4줄이 있어야 합니다");
+}
+
+TEST(ParameterText, AMessageHoldsNoMoreThanFortyBytesOfALine) {
+    const std::string forty(40, 'x');
+    EXPECT_EQ(whyRefused(forty), "line 1: 알 수 없는 줄입니다 (" + forty + ")");
+    EXPECT_EQ(whyRefused(forty + "y"), "line 1: 알 수 없는 줄입니다 (" + forty + ")");
+    const std::string point = "TM" + std::string(38, 'x');
+    const std::string only = "line 1: 여기에는 파라미터를 바꾸는 줄만 쓸 수 있습니다 (";
+    EXPECT_EQ(whyRefused(point + " 1 2 3"), only + point + ")");
+    EXPECT_EQ(whyRefused(point + "y 1 2 3"), only + point + ")");
+    for (const std::string word : {"IN", "OUT", "TM", "WGS", "UGS", "DIST", "end"})
+        EXPECT_EQ(whyRefused(word + " 1 2 3"), only + word + ")");
+}
+
+TEST(ParameterText, ALineOfUtmWithACoordinateIsAPoint) {
+    const std::string point = "line 1: 여기에는 파라미터를 바꾸는 줄만 쓸 수 있습니다 (utm)";
+    EXPECT_EQ(whyRefused("utm 123 5"), point);
+    EXPECT_EQ(whyRefused("utm 123 0 5"), point);
+    EXPECT_EQ(whyRefused("utm 123 5 0"), point);
+    EXPECT_EQ(para("utm 123 0 0").ULam0, 123);
+    EXPECT_EQ(para("utm 129").ULam0, 129);
+    EXPECT_EQ(whyRefused("utm 117"), "line 1: UTM 원점은 123 또는 129입니다 (117)");
+}
+
+TEST(ParameterText, AnEllipsoidAndAScaleAreAboveZero) {
+    const std::string ellipsoid = "타원체의 장반경과 편평도는 0보다 커야 합니다";
+    const std::string scale = "축척계수는 0보다 커야 합니다";
+    for (const std::string grid : {"tm", "utm"}) {
+        EXPECT_EQ(whyRefused(grid + " para\n0 298\n38 127\n0 0\n1"), "line 2: " + ellipsoid);
+        EXPECT_EQ(whyRefused(grid + " para\n6378137 0\n38 127\n0 0\n1"), "line 2: " + ellipsoid);
+        EXPECT_EQ(whyRefused("\n" + grid + " para\n6378137 298\n38 127\n0 0\n0"),
+                  "line 6: " + scale);
+        EXPECT_EQ(whyRefused(grid + " para\n0.5 0.5\n38 127\n0 0\n0.5"), "");
+    }
+    // A scale that was set before the block doesn't excuse the ellipsoid, nor the other way.
+    EXPECT_EQ(whyRefused("tm para\n0 0\n38 127\n0 0\n0"), "line 2: " + ellipsoid);
+}
+
+TEST(ParameterText, LinesEndWithCrLfWithLfOrWithCr) {
+    EXPECT_EQ(badLine("add 1\r\nXYZ"), 2);
+    EXPECT_EQ(badLine("add 1\nXYZ"), 2);
+    EXPECT_EQ(badLine("add 1\rXYZ"), 2);
+    EXPECT_EQ(badLine("add 1\n\rXYZ"), 3);
+    EXPECT_EQ(badLine("add 1\n\nXYZ"), 3);
+    EXPECT_EQ(para("add 0\rutm 123\n").ULam0, 123);
+}
+
+TEST(ParameterText, WhatFollowsTheKeyOfABlockDoesNotMatter) {
+    EXPECT_EQ(para("7 para of 1985\n1 2 3\n4 5 6\n7").dX, 1);
+}
+
+TEST(ParameterText, TheLineThatSwitchedTheCorrectionOnIsKnown) {
+    EXPECT_EQ(parametersOf("add 1", "p").correctionLine, 0);
+    EXPECT_EQ(parametersOf("\nCORRECTION\nadd 0\n", "p").correctionLine, 2);
+    EXPECT_EQ(parametersOf("CORRECTION\n\nCORRECTION", "p").correctionLine, 3);
+}
+
+TEST(ParameterText, AZoneBeyondSixteenBitsIsRefused) {
+    EXPECT_EQ(badLine("zone 32767"), -1);
+    EXPECT_EQ(badLine("zone 32768"), 1);
+}
+
 }  // namespace
 }  // namespace kelvo
