@@ -150,7 +150,7 @@ def wait_for(test, what, patience=20.0):
         except Exception:  # the widget is being made anew
             pass
         time.sleep(0.1)
-    raise SystemExit("in vain: " + what)
+    raise SystemExit("in vain: " + (what() if callable(what) else what))
 
 
 def showing(name):
@@ -298,7 +298,7 @@ def look_at_titles(folder):
     wait_for(lambda: any(title.startswith(wanted) for title in titles_on_display()), "the title")
     title, = [title for title in titles_on_display() if title]
     wait_for(lambda: outer_place() == (0, 0, round(1366 * 0.88), round(900 * 0.88)),
-             "the frame in its place, not at %s" % (outer_place(),))
+             lambda: "the frame in its place, not at %s" % (outer_place(),))
     print("frame: %s" % (outer_place(),))
     assert title.endswith(" - " + str(data.with_name("test.dat"))), title
     print("window: " + title)
