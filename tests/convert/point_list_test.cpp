@@ -10,6 +10,7 @@
 #include "common/code_page.h"
 #include "convert/refusal.h"
 #include "exchange/load_point_files.h"
+#include "support/refusals.h"
 #include "support/temporary_folder.h"
 
 namespace kelvo {
@@ -19,12 +20,7 @@ using Cells = std::vector<std::string>;
 using List = std::vector<Cells>;
 
 std::string refusalOf(const std::string& bytes) {
-    try {
-        std::ignore = pointListOfText(bytes);
-    } catch (const Refusal& refused) {
-        return refused.what();
-    }
-    return "";
+    return testing::refusalOf([&] { return pointListOfText(bytes); });
 }
 
 TEST(PointList, IsSplitAtTheDelimiterOfItsFirstRow) {
@@ -102,12 +98,7 @@ protected:
         writer->finish();
     }
     [[nodiscard]] std::string refusal(const std::string& path) {
-        try {
-            std::ignore = pointListOfFile(disk, path);
-        } catch (const Refusal& refused) {
-            return refused.what();
-        }
-        return "";
+        return testing::refusalOf([&] { return pointListOfFile(disk, path); });
     }
 
     testing::TemporaryFolder folder;

@@ -13,6 +13,7 @@
 #include "convert/vector_source.h"
 #include "exchange/load_point_files.h"
 #include "library/definition_text.h"
+#include "support/refusals.h"
 #include "support/temporary_folder.h"
 #include "support/usual_definition.h"
 
@@ -67,12 +68,7 @@ protected:
     }
     static std::string refusal(const VectorOutput& output, const PointConverter& converter,
                                const std::vector<GivenPoint>& given = {}) {
-        try {
-            std::ignore = written(output, converter, given);
-        } catch (const Refusal& refused) {
-            return refused.what();
-        }
-        return "";
+        return testing::refusalOf([&] { return written(output, converter, given); });
     }
     [[nodiscard]] std::vector<PointOfFile> points(VectorFormat format) const {
         const auto reader = loadPointFiles()->open(format, path(format));
@@ -90,12 +86,8 @@ protected:
     // What opening the file as this system says.
     [[nodiscard]] std::string complaint(VectorFormat format, System system,
                                         const Definition& definition) const {
-        try {
-            std::ignore = openVectorSource(format, path(format), system, definition);
-        } catch (const Refusal& refused) {
-            return refused.what();
-        }
-        return "";
+        return testing::refusalOf(
+            [&] { return openVectorSource(format, path(format), system, definition); });
     }
 
     testing::TemporaryFolder folder;

@@ -13,6 +13,7 @@
 
 #include "common/run_time_fault.h"
 #include "convert/file_identity.h"
+#include "support/faults.h"
 #include "support/temporary_folder.h"
 
 namespace kelvo {
@@ -29,12 +30,7 @@ protected:
     }
     // The fault of opening, 0 for none.
     static int faultOfOpening(const std::string& path) {
-        try {
-            static_cast<void>(wholeFile(path));
-        } catch (const RuntimeFault& fault) {
-            return fault.number();
-        }
-        return 0;
+        return testing::faultOf([&] { return wholeFile(path); });
     }
     static fs::perms permissions(const std::string& path) { return fs::status(path).permissions(); }
 

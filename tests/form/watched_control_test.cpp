@@ -4,20 +4,11 @@
 #include <string>
 #include <vector>
 
-#include "common/run_time_fault.h"
 #include "form/form.h"
+#include "support/faults.h"
 
 namespace kelvo {
 namespace {
-
-int faultNumberOf(const std::function<void()>& act) {
-    try {
-        act();
-    } catch (const RuntimeFault& fault) {
-        return fault.number();
-    }
-    return 0;
-}
 
 std::string nameOf(Property property) {
     switch (property) {
@@ -239,9 +230,9 @@ TEST_F(WatchedControl, OfAListForgetsItsChoiceWithNewItems) {
     EXPECT_EQ(list.index(), -1);
     EXPECT_EQ(list.selectedItem(), "");
     EXPECT_EQ(heard, (Heard{"list index 1", "click", "list items 3"}));
-    EXPECT_EQ(faultNumberOf([&] { list.choose(3); }), 5);
-    EXPECT_EQ(faultNumberOf([&] { list.choose(-1); }), 5);
-    EXPECT_EQ(faultNumberOf([&] { list.choose(2); }), 0);
+    EXPECT_EQ(testing::faultOf([&] { list.choose(3); }), 5);
+    EXPECT_EQ(testing::faultOf([&] { list.choose(-1); }), 5);
+    EXPECT_EQ(testing::faultOf([&] { list.choose(2); }), 0);
     EXPECT_EQ(list.selectedItem(), "11");
 }
 
@@ -265,7 +256,7 @@ TEST_F(WatchedControl, OfAMenuTellsOfItsEntries) {
     EXPECT_EQ(heard, (Heard{"menu items +"}));
     menu.unloadEntriesDownTo(0);
     EXPECT_EQ(menu.highestIndex(), -1);
-    EXPECT_EQ(faultNumberOf([&] { menu.unloadEntriesDownTo(-1); }), 9);
+    EXPECT_EQ(testing::faultOf([&] { menu.unloadEntriesDownTo(-1); }), 9);
 }
 
 TEST_F(WatchedControl, OfAMenuRefusesEntriesThatItLacks) {
@@ -274,8 +265,8 @@ TEST_F(WatchedControl, OfAMenuRefusesEntriesThatItLacks) {
     menu.clickEntry(0);  // without a handler nothing runs
     menu.onEntryClick = [&](int index) { clicked.push_back(index); };
     for (const int index : {-1, 2}) {
-        EXPECT_EQ(faultNumberOf([&] { menu.clickEntry(index); }), 9);
-        EXPECT_EQ(faultNumberOf([&] { menu.setEntryEnabled(index, false); }), 9);
+        EXPECT_EQ(testing::faultOf([&] { menu.clickEntry(index); }), 9);
+        EXPECT_EQ(testing::faultOf([&] { menu.setEntryEnabled(index, false); }), 9);
     }
     menu.clickEntry(0);
     menu.clickEntry(1);
@@ -357,7 +348,7 @@ TEST_F(WatchedControl, IsMadeWithTheKindParentAndWordsThatItsMakerGives) {
     const Form& read = form;
     EXPECT_EQ(read.find("t"), form.find("t"));
     EXPECT_EQ(read.find("nobody"), nullptr);
-    EXPECT_EQ(faultNumberOf([&] { form.menu("t", ""); }), 5);
+    EXPECT_EQ(testing::faultOf([&] { form.menu("t", ""); }), 5);
 }
 
 }  // namespace
