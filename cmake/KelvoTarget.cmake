@@ -42,14 +42,29 @@ function(kelvo_include_root target folder)
     target_include_directories(${target} PRIVATE ${root})
 endfunction()
 
+# Reading the headers of others takes longer than most sources, so eight share one reading. What stands
+# in their unnamed namespaces needs a name of its own in the folder. That each source includes what it
+# uses is seen by clang-tidy, which reads them one by one (scripts/checks/tidy).
+function(kelvo_side_by_side target)
+    set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 8)
+endfunction()
+
+# kelvo_test_code(target): how tests, and what only they use, are compiled.
+function(kelvo_test_code target)
+    kelvo_compile_options(${target})
+    kelvo_side_by_side(${target})
+    if(KELVO_SANITIZE MATCHES "fuzzer-no-link")  # no fuzzer runs what stands here
+        target_compile_options(${target} PRIVATE -fno-sanitize=fuzzer-no-link)
+    endif()
+endfunction()
+
 # kelvo_folder(name SOURCES ...): one folder of src/, one library.
 function(kelvo_folder name)
     cmake_parse_arguments(ARG "" "" "SOURCES" ${ARGN})
     add_library(kelvo_${name} STATIC ${ARG_SOURCES})
     kelvo_compile_options(kelvo_${name})
-    # Reading Qt's headers takes longer than any source of the window.
-    if(KELVO_UNITY OR name STREQUAL "desktop")
-        set_target_properties(kelvo_${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 8)
+    if(KELVO_UNITY)
+        kelvo_side_by_side(kelvo_${name})
     endif()
     if(name STREQUAL "desktop")
         kelvo_precompile(kelvo_desktop qt <QtWidgets>)

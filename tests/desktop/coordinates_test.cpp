@@ -5,6 +5,7 @@
 #include <QTest>
 
 #include "desktop/window_case.h"
+#include "desktop/window_tests.h"
 
 using namespace kelvo;
 using namespace kelvo::testing;
@@ -68,8 +69,8 @@ private:
     }
 };
 
-int main(int argc, char** argv) {
-    return runWindowCase<CoordinatesTest>(argc, argv);
+std::unique_ptr<QObject> kelvo::testing::coordinatesTest() {
+    return std::make_unique<CoordinatesTest>();
 }
 
 #include "coordinates_test.moc"

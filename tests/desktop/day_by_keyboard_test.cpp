@@ -11,6 +11,7 @@
 #include "common/code_page.h"
 #include "desktop/look_of_window.h"
 #include "desktop/window_case.h"
+#include "desktop/window_tests.h"
 
 using namespace kelvo;
 using namespace kelvo::testing;
@@ -171,8 +172,8 @@ private:
     }
 };
 
-int main(int argc, char** argv) {
-    return runWindowCase<DayByKeyboardTest>(argc, argv);
+std::unique_ptr<QObject> kelvo::testing::dayByKeyboardTest() {
+    return std::make_unique<DayByKeyboardTest>();
 }
 
 #include "day_by_keyboard_test.moc"

@@ -6,6 +6,7 @@
 #include <fstream>
 
 #include "desktop/window_case.h"
+#include "desktop/window_tests.h"
 #include "support/temporary_folder.h"
 
 using namespace kelvo;
@@ -68,6 +69,8 @@ private:
     };
 };
 
-QTEST_GUILESS_MAIN(HelpFileTest)
+std::unique_ptr<QObject> kelvo::testing::helpFileTest() {
+    return std::make_unique<HelpFileTest>();
+}
 
 #include "help_file_test.moc"

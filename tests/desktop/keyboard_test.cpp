@@ -10,6 +10,7 @@
 #include <QWheelEvent>
 
 #include "desktop/window_case.h"
+#include "desktop/window_tests.h"
 
 using namespace kelvo;
 using namespace kelvo::testing;
@@ -208,8 +209,8 @@ private slots:
     }
 };
 
-int main(int argc, char** argv) {
-    return runWindowCase<KeyboardTest>(argc, argv);
+std::unique_ptr<QObject> kelvo::testing::keyboardTest() {
+    return std::make_unique<KeyboardTest>();
 }
 
 #include "keyboard_test.moc"

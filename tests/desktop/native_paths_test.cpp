@@ -14,6 +14,7 @@
 #include "desktop/text_viewer.h"
 #include "desktop/window_case.h"
 #include "desktop/window_hands.h"
+#include "desktop/window_tests.h"
 #include "support/temporary_folder.h"
 
 using namespace kelvo;
@@ -94,11 +95,8 @@ private:
     std::unique_ptr<TemporaryFolder> folder_;
 };
 
-int main(int argc, char** argv) {
-    QApplication application(argc, argv);
-    desktop::setUpFonts(application);
-    NativePathsTest test;
-    return QTest::qExec(&test, argc, argv);
+std::unique_ptr<QObject> kelvo::testing::nativePathsTest() {
+    return std::make_unique<NativePathsTest>();
 }
 
 #include "native_paths_test.moc"

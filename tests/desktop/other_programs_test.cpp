@@ -15,6 +15,7 @@
 
 #include "desktop/import_dialog.h"
 #include "desktop/window_case.h"
+#include "desktop/window_tests.h"
 
 using namespace kelvo;
 using namespace kelvo::testing;
@@ -212,7 +213,8 @@ private slots:
             QVERIFY(QFile::copy(QApplication::applicationFilePath(), alone));
             QProcess program;
             program.setProcessChannelMode(QProcess::MergedChannels);
-            program.start(alone, {QStringLiteral("aMissingModuleIsSaidInOneSentence")});
+            program.start(alone, {QStringLiteral("other_programs_test"),
+                                  QStringLiteral("aMissingModuleIsSaidInOneSentence")});
             QVERIFY(program.waitForFinished());
             QVERIFY2(program.exitCode() == 0, program.readAll().constData());
             return;
@@ -301,8 +303,8 @@ private:
     bool dialogSeen_ = false;
 };
 
-int main(int argc, char** argv) {
-    return runWindowCase<OtherProgramsTest>(argc, argv);
+std::unique_ptr<QObject> kelvo::testing::otherProgramsTest() {
+    return std::make_unique<OtherProgramsTest>();
 }
 
 #include "other_programs_test.moc"

@@ -7,6 +7,7 @@
 
 #include "desktop/look_of_window.h"
 #include "desktop/window_case.h"
+#include "desktop/window_tests.h"
 
 using namespace kelvo;
 using namespace kelvo::testing;
@@ -89,8 +90,8 @@ private:
     }
 };
 
-int main(int argc, char** argv) {
-    return runWindowCase<PanelRoomTest>(argc, argv);
+std::unique_ptr<QObject> kelvo::testing::panelRoomTest() {
+    return std::make_unique<PanelRoomTest>();
 }
 
 #include "panel_room_test.moc"

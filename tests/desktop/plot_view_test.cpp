@@ -10,6 +10,7 @@
 #include "desktop/picture_painter.h"
 #include "desktop/plot_view.h"
 #include "desktop/window_case.h"
+#include "desktop/window_tests.h"
 
 using namespace kelvo;
 using namespace kelvo::testing;
@@ -113,8 +114,8 @@ private:
     }
 };
 
-int main(int argc, char** argv) {
-    return runWindowCase<PlotViewTest>(argc, argv);
+std::unique_ptr<QObject> kelvo::testing::plotViewTest() {
+    return std::make_unique<PlotViewTest>();
 }
 
 #include "plot_view_test.moc"

@@ -5,7 +5,9 @@
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTest>
+#include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <map>
 #include <optional>
 #include <vector>
@@ -13,6 +15,7 @@
 #include "desktop/korean_faces.h"
 #include "desktop/paper_surface.h"
 #include "desktop/window_case.h"
+#include "desktop/window_tests.h"
 #include "gallery_pages.h"
 #include "support/recording_messages.h"
 #include "support/temporary_folder.h"
@@ -36,9 +39,15 @@ public:
 class Page {
 public:
     explicit Page(const QString& path)
-        : image_(QImage(path).convertToFormat(QImage::Format_RGB32)) {}
+        : image_(QImage(path).convertToFormat(QImage::Format_Grayscale8)) {
+        for (int y = 0; y < image_.height(); ++y) {
+            uchar* row = image_.scanLine(y);
+            const int width = image_.width();
+            for (int x = 0; x < width; ++x) row[x] = row[x] < 160 ? kInk : 0;
+        }
+    }
 
-    [[nodiscard]] bool inked(int x, int y) const { return qGray(image_.pixel(x, y)) < 160; }
+    [[nodiscard]] bool inked(int x, int y) const { return image_.constScanLine(y)[x] == kInk; }
 
     // The first and the last dot of the longest unbroken run in any row (or column) at least
     // `atLeast` long, and the rows (or columns) in which such runs stand.
@@ -90,11 +99,14 @@ public:
         return top && bottom ? (*top - *bottom) / kDotsPerMm : 0;
     }
     [[nodiscard]] int inkBetween(double from, double to) const {
-        int count = 0;
+        const int first = dots(from);
+        const int end = dots(to);
+        std::ptrdiff_t count = 0;
         for (int y = 0; y < image_.height(); ++y) {
-            for (int x = dots(from); x < dots(to); ++x) count += inked(x, y) ? 1 : 0;
+            const uchar* row = image_.constScanLine(y);
+            count += std::count(row + first, row + end, kInk);
         }
-        return count;
+        return static_cast<int>(count);
     }
     [[nodiscard]] int ink() const { return inkBetween(0, (image_.width() - 1) / kDotsPerMm); }
 
@@ -104,10 +116,10 @@ private:
     }
 
     [[nodiscard]] std::optional<int> leftmost(int y) const {
-        for (int x = 0; x < image_.width(); ++x) {
-            if (inked(x, y)) return x;
-        }
-        return std::nullopt;
+        const uchar* row = image_.constScanLine(y);
+        const void* found = std::memchr(row, kInk, static_cast<std::size_t>(image_.width()));
+        if (found == nullptr) return std::nullopt;
+        return static_cast<int>(static_cast<const uchar*>(found) - row);
     }
 
     template <class Inked>
@@ -131,6 +143,7 @@ private:
         return found;
     }
 
+    static constexpr uchar kInk = 1;
     QImage image_;
 };
 
@@ -244,11 +257,14 @@ private slots:
             const std::vector<Page> pages = printed(paper);
             QCOMPARE(pages.size(), std::size_t{4});
             std::vector<double> leans;
-            for (const Page& page : pages) leans.push_back(page.lean(page.bands().at(0)));
-            const auto ink = [&](std::size_t page) { return pages[page].ink(); };
+            std::vector<int> inks;
+            for (const Page& page : pages) {
+                leans.push_back(page.lean(page.bands().at(0)));
+                inks.push_back(page.ink());
+            }
             QVERIFY2(near(leans[0], 0, 0.1) && near(leans[2], 0, 0.1), font);
             QVERIFY2(leans[1] > 0.2 && leans[3] > 0.2, font);
-            QVERIFY2(ink(2) > 1.1 * ink(0) && ink(3) > 1.1 * ink(1), font);
+            QVERIFY2(inks[2] > 1.1 * inks[0] && inks[3] > 1.1 * inks[1], font);
         }
     }
 
@@ -338,11 +354,8 @@ private:
     }
 };
 
-int main(int argc, char** argv) {
-    QApplication application(argc, argv);
-    installFaceSubstitutes();
-    PrintedSheetTest test;
-    return QTest::qExec(&test, argc, argv);
+std::unique_ptr<QObject> kelvo::testing::printedSheetTest() {
+    return std::make_unique<PrintedSheetTest>();
 }
 
 #include "printed_sheet_test.moc"

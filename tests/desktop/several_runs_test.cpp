@@ -8,6 +8,7 @@
 
 #include "desktop/several_runs.h"
 #include "desktop/window_case.h"
+#include "desktop/window_tests.h"
 
 using namespace kelvo;
 using namespace kelvo::testing;
@@ -126,8 +127,8 @@ private:
     }
 };
 
-int main(int argc, char** argv) {
-    return runWindowCase<SeveralRunsTest>(argc, argv);
+std::unique_ptr<QObject> kelvo::testing::severalRunsTest() {
+    return std::make_unique<SeveralRunsTest>();
 }
 
 #include "several_runs_test.moc"

@@ -14,6 +14,7 @@
 #include "desktop/picture_surface.h"
 #include "desktop/raster_modes.h"
 #include "desktop/window_case.h"
+#include "desktop/window_tests.h"
 #include "plot/clsplot1.h"
 #include "support/temporary_folder.h"
 
@@ -301,11 +302,8 @@ private slots:
     }
 };
 
-int main(int argc, char** argv) {
-    QApplication application(argc, argv);
-    installFaceSubstitutes();
-    SurfaceTest test;
-    return QTest::qExec(&test, argc, argv);
+std::unique_ptr<QObject> kelvo::testing::surfaceTest() {
+    return std::make_unique<SurfaceTest>();
 }
 
 #include "surface_test.moc"

@@ -14,6 +14,7 @@
 #include "desktop/look_menu.h"
 #include "desktop/status_bar.h"
 #include "desktop/window_case.h"
+#include "desktop/window_tests.h"
 
 using namespace kelvo;
 using namespace kelvo::testing;
@@ -232,8 +233,8 @@ private:
     }
 };
 
-int main(int argc, char** argv) {
-    return runWindowCase<TextOnViewTest>(argc, argv);
+std::unique_ptr<QObject> kelvo::testing::textOnViewTest() {
+    return std::make_unique<TextOnViewTest>();
 }
 
 #include "text_on_view_test.moc"

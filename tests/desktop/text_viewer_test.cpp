@@ -7,6 +7,7 @@
 
 #include "common/code_page.h"
 #include "desktop/window_case.h"
+#include "desktop/window_tests.h"
 
 using namespace kelvo;
 using namespace kelvo::testing;
@@ -63,8 +64,8 @@ private slots:
     }
 };
 
-int main(int argc, char** argv) {
-    return runWindowCase<TextViewerTest>(argc, argv);
+std::unique_ptr<QObject> kelvo::testing::textViewerTest() {
+    return std::make_unique<TextViewerTest>();
 }
 
 #include "text_viewer_test.moc"

@@ -14,6 +14,7 @@
 #include "desktop/main_window.h"
 #include "desktop/window_case.h"
 #include "desktop/window_hands.h"
+#include "desktop/window_tests.h"
 #include "support/temporary_folder.h"
 
 using namespace kelvo;
@@ -181,11 +182,8 @@ private:
     std::string otherReport_;
 };
 
-int main(int argc, char** argv) {
-    QApplication application(argc, argv);
-    desktop::setUpFonts(application);
-    TwoProgramsTest test;
-    return QTest::qExec(&test, argc, argv);
+std::unique_ptr<QObject> kelvo::testing::twoProgramsTest() {
+    return std::make_unique<TwoProgramsTest>();
 }
 
 #include "two_programs_test.moc"

@@ -24,6 +24,7 @@
 #include "desktop/text_viewer.h"
 #include "desktop/window_case.h"
 #include "desktop/window_hands.h"
+#include "desktop/window_tests.h"
 #include "support/temporary_folder.h"
 
 using namespace kelvo;
@@ -257,12 +258,8 @@ private:
     QString report_;
 };
 
-int main(int argc, char** argv) {
-    QApplication application(argc, argv);
-    desktop::setUpFonts(application);
-    desktop::setTheme(application, desktop::Theme::Light);
-    UnsavedTextTest test;
-    return QTest::qExec(&test, argc, argv);
+std::unique_ptr<QObject> kelvo::testing::unsavedTextTest() {
+    return std::make_unique<UnsavedTextTest>();
 }
 
 #include "unsaved_text_test.moc"

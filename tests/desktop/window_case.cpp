@@ -18,11 +18,6 @@ std::string readBytes(const std::string& path) {
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-void setUpWindows(QApplication& application) {
-    desktop::setUpFonts(application);
-    desktop::setTheme(application, desktop::Theme::Light);
-}
-
 void failOnWarnings() {
     // The platform without a screen says of some calls that it has none.
     QTest::failOnWarning(QRegularExpression(QStringLiteral("^(?!This plugin does not support )")));

@@ -1,7 +1,6 @@
 // A window on a folder of its own, made anew for each test, and hands to work it with.
 #pragma once
 
-#include <QApplication>
 #include <QString>
 #include <QTest>
 #include <memory>
@@ -45,16 +44,5 @@ protected:
     QString said_;    // without a box
     std::vector<desktop::Sheet> sheets_;
 };
-
-// What every program of tests sets up before its first window.
-void setUpWindows(QApplication& application);
-
-template <class Case>
-int runWindowCase(int argc, char** argv) {
-    QApplication application(argc, argv);
-    setUpWindows(application);
-    Case tests;
-    return QTest::qExec(&tests, argc, argv);
-}
 
 }  // namespace kelvo::testing

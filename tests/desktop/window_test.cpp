@@ -20,6 +20,7 @@
 
 #include "common/code_page.h"
 #include "desktop/window_case.h"
+#include "desktop/window_tests.h"
 
 using namespace kelvo;
 using namespace kelvo::testing;
@@ -399,8 +400,8 @@ private:
     }
 };
 
-int main(int argc, char** argv) {
-    return runWindowCase<WindowTest>(argc, argv);
+std::unique_ptr<QObject> kelvo::testing::windowTest() {
+    return std::make_unique<WindowTest>();
 }
 
 #include "window_test.moc"
