@@ -82,6 +82,17 @@ INSTANTIATE_TEST_SUITE_P(Stored, StoredRun,
                                                                   ".dat")),
                          fileName);
 
+TEST_F(KelvoBatch, TakesAwayWhatKilledProgramsLeftBesideItsDataFiles) {
+    const std::string left = "kelvo.0123456789abcdef.new";
+    fs::create_directory(folder.file("survey"));
+    folder.put("survey/a.dat", sixPoints());
+    folder.put("survey/" + left, "half");
+    folder.put(left, "half");
+    EXPECT_EQ(run(folder.file("survey/a.dat")).exitCode, 0);
+    EXPECT_FALSE(fs::exists(folder.file("survey/" + left)));
+    EXPECT_FALSE(fs::exists(folder.file(left)));
+}
+
 TEST_F(KelvoBatch, AMissingDataFileIsFault53AndLeavesNoFiles) {
     expectFault(run(folder.file("none.dat")), 53);
     EXPECT_TRUE(fs::is_empty(folder.path()));

@@ -174,6 +174,22 @@ TEST(TextWriter, AFullDiskShowsAtTheLatestWhenItIsClosed) {
               61);
 }
 
+TEST(TextWriter, WhatArrivedBeforeTheDiskWasFullIsPutInPlace) {
+    MemoryDisk disk;
+    int writes = 0;
+    bool closed = false;
+    disk.before = [&](const std::string& operation, const std::string&) {
+        if (operation == "write" && ++writes == 2) raise(Fault::DiskFull);
+        if (operation == "close") closed = true;
+    };
+    TextWriter writer(disk, "/a");
+    writer.line(std::string(40'000, 'a'));  // more than is held back
+    writer.line("b");
+    EXPECT_EQ(faultOf([&] { writer.close(); }), 61);
+    EXPECT_TRUE(closed);
+    EXPECT_EQ(disk.bytes("/a"), std::string(40'000, 'a') + "\r\n");
+}
+
 TEST(WholeText, GivesEveryLineEndAsCrLf) {
     MemoryDisk disk;
     disk.putBytes("/a", "a\nb\rc\r\n\xB0\xA1");

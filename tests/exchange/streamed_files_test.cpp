@@ -251,7 +251,11 @@ TEST_F(StreamedFiles, OfKmlTakeACollectionOfOnePointAndRefuseOtherShapesByTheirN
     refusedShape(several(kLine + kLine), "MULTILINESTRING");
     refusedShape(several(kArea), "MULTIPOLYGON");
     refusedShape(several(point() + kLine), "GEOMETRYCOLLECTION");
+    refusedShape(several(kLine + kArea), "GEOMETRYCOLLECTION");
     refusedShape(several(several(point())), "GEOMETRYCOLLECTION");
+    refusedShape(several(kLine + several(kLine)), "GEOMETRYCOLLECTION");
+    refusedShape(several(kArea + several(kArea)), "GEOMETRYCOLLECTION");
+    refusedShape(kLine + kArea, "GEOMETRYCOLLECTION");
     refusedShape(point() + kLine, "GEOMETRYCOLLECTION");
 }
 

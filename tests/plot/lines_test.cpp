@@ -106,6 +106,16 @@ TEST_F(PlotLines, DashedLineOfTenMillimetresHasTwoDashesAndAnEmptyRest) {
     EXPECT_NEAR(object.LastX(), 1.8, 1e-6);  // the start of the period that isn't drawn
 }
 
+TEST_F(PlotLines, DashedLineOfWholePeriodsHasADashForEach) {
+    useScreen();
+    useUpwardWindow();  // 10 mm a unit
+    object.plinedot(1, 5, 2, 5, 1, 4, 1);
+    EXPECT_EQ(drawn(),
+              (Lines{"DrawWidth = 1.0000", "Line 567.0000 2835.0000 567.0000 2835.0000 0 6",
+                     "Line 567.0000 2835.0000 793.8000 2835.0000 0 6",
+                     "Line 850.5000 2835.0000 1077.3000 2835.0000 0 6"}));
+}
+
 TEST_F(PlotLines, DashesHeadForTheEndOnlyWhereYGrowsUpward) {
     useScreen();
     useUpwardWindow();

@@ -38,6 +38,24 @@ TEST(CheckedText, FindingsComeInTheOrderOfTheLines) {
     for (std::size_t i = 1; i < found.size(); ++i) EXPECT_LE(found[i - 1].line, found[i].line);
 }
 
+TEST(CheckedText, FindingsOfOneLineStayInTheOrderOfTheKnownPoints) {
+    testing::MemoryDisk disk;
+    disk.addFolder("/app");
+    // The longitude of both points is 26 degrees.
+    disk.putText(kKnown,
+                 "K 37.3728 26.3234 67 37.3518 126.3241 45 1\r\n"
+                 "L 37.3728 26.3234 67 37.3518 126.3241 45 1\r\n\r\n\r\n");
+    std::string places;
+    for (const RunMessage& finding :
+         findingsIn("CORRECTION\r\nWGS A 37.3533 126.3229 0\r\nend\r\n \r\n", kKnown, disk)) {
+        if (finding.line == 1) places += finding.text.substr(0, 11);
+    }
+    const std::size_t second = places.find("kelvo.cor 2");
+    EXPECT_NE(places.find("kelvo.cor 1"), std::string::npos) << places;
+    EXPECT_NE(second, std::string::npos) << places;
+    EXPECT_EQ(places.find("kelvo.cor 1", second), std::string::npos) << places;
+}
+
 TEST(CheckedText, KnownPointsThatNoLineReadsAreNotSpokenOf) {
     testing::MemoryDisk disk;
     disk.addFolder("/app");

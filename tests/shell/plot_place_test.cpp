@@ -37,6 +37,16 @@ TEST_F(PlaceOnPlot, NamesItsCoordinatesAndThePointUnderThePointer) {
     EXPECT_EQ(kelvo.window.plotPlaceAt(x + 50, y, 60).point, "가  X 454100.000  Y 160100.000");
 }
 
+TEST_F(PlaceOnPlot, OfTwoPointsAtOnePlaceNamesTheLaterOne) {
+    disk.putText("/app/data/a.dat",
+                 "TM 가 454100 160100 30\r\n   나 454100 160100 30\r\nend\r\n \r\n");
+    Program& kelvo = start();
+    kelvo.click("mnuBatchGo");
+    kelvo.click("cmdShow");
+    EXPECT_EQ(kelvo.window.plotPlaceAt(twips(100 + 50), twips(1050 - 100), 60).point,
+              "나  X 454100.000  Y 160100.000");
+}
+
 TEST_F(PlaceOnPlot, SaysNothingBeforeAPlot) {
     Program& kelvo = start();
     EXPECT_EQ(kelvo.window.plotPlaceAt(100, 100, 60).coordinates, "");

@@ -90,15 +90,15 @@ public:
           waiting_((refuseTooMany(layer.points), layer.path)),
           checked_(waiting_.folder()) {
         const GdalErrors errors;
-        open();
-        if (layer_ == nullptr || errors.failed()) fail(errors);
+        try {
+            open();
+            if (layer_ == nullptr || errors.failed()) fail(errors);
+        } catch (const ExchangeFault&) {
+            abandon();
+            throw;
+        }
     }
-
-    ~GdalPointWriter() override {
-        const GdalErrors unheard;
-        feature_.reset();
-        dataset_.reset();
-    }
+    ~GdalPointWriter() override { abandon(); }
     GdalPointWriter(const GdalPointWriter&) = delete;
     GdalPointWriter& operator=(const GdalPointWriter&) = delete;
 
@@ -125,6 +125,13 @@ public:
     }
 
 private:
+    // What fails while an unfinished file is closed adds nothing to the fault that is on its way.
+    void abandon() {
+        const GdalErrors unheard;
+        feature_.reset();
+        dataset_.reset();
+    }
+
     void open() {
         GDALDriver* const driver = GetGDALDriverManager()->GetDriverByName(driverOf(asked_.format));
         if (driver == nullptr)
