@@ -137,6 +137,17 @@ TEST_F(PlotFills, StrokesGetWiderTowardTheApex) {
     EXPECT_EQ(countOf(lines, "Line"), 3 + 5);
 }
 
+TEST_F(PlotFills, TheOutlineIsOnePixelWideFromItsFirstSideOn) {
+    useScreen();
+    object.pline(0, 0, 0, 0, 1);  // so that its width counts as written
+    drawn();
+    object.pFillTri(10, 10, 30, 10.001, 20, 12);
+    const auto calls = drawn();
+    ASSERT_GE(calls.size(), 2U);
+    EXPECT_EQ(calls[0], "DrawWidth = 1.0000");
+    EXPECT_TRUE(calls[1].starts_with("Line ")) << calls[1];
+}
+
 TEST_F(PlotFills, StrokesOnPaperStepByThePrintersPixel) {
     usePrinter();
     object.pFillTri(10, 10, 30, 10.001, 20, 12);

@@ -96,11 +96,14 @@ int seek(void* opened, vsi_l_offset offset, int whence) {
     return -1;
 }
 
+// The DXF driver looks for a line end in what it read of its own drawing, and would look on over its
+// stack where a full disk left less than that: what is missing are line ends.
 std::size_t readBytes(void* opened, void* buffer, std::size_t size, std::size_t count) {
     OpenFile& of = fileOf(opened);
     of.turnTo(Last::Read);
     const std::size_t done = std::fread(buffer, size, count, of.file);
     of.ended = done < count;
+    std::memset(static_cast<char*>(buffer) + done * size, '\n', (count - done) * size);
     return done;
 }
 
