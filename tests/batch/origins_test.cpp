@@ -1,6 +1,7 @@
 // What the origins of a run rest on, and who changes them when.
 #include <gtest/gtest.h>
 
+#include "batch/parameter_commands.h"
 #include "support/batch_bench.h"
 
 namespace kelvo {
@@ -92,6 +93,21 @@ TEST(UtmOrigin, IsSelectedByExactlyTheTwoNumbers) {
     for (const char* same : {"123", "123.0", "1.23E2", "+123", "123도", "&H7B"})
         EXPECT_NEAR(originAfter(std::string("UTM ") + same), 123, 1e-9) << same;
     EXPECT_NEAR(originAfter("UTM 123\nUTM 129 <- 동경 129도"), 129, 1e-9);
+}
+
+TEST(UtmOrigin, TakesTheZoneOfItsNumberAfterOneOfTheUsersOwn) {
+    TransPara para;
+    para.UZone = UtmZone::User;
+    para.ULam0 = 125;
+    EXPECT_FALSE(selectUtmOrigin(para, 126));
+    EXPECT_EQ(para.UZone, UtmZone::User);
+    EXPECT_EQ(para.ULam0, 125);
+    EXPECT_TRUE(selectUtmOrigin(para, 123));
+    EXPECT_EQ(para.UZone, UtmZone::West);
+    EXPECT_EQ(para.ULam0, 123);
+    EXPECT_TRUE(selectUtmOrigin(para, 129));
+    EXPECT_EQ(para.UZone, UtmZone::East);
+    EXPECT_EQ(para.ULam0, 129);
 }
 
 // The last table chooses the UTM origin by the WGS longitude, and lines after DIST find it so.

@@ -106,6 +106,28 @@ TEST_F(PlotFills, SquarePolygonFills) {
     EXPECT_EQ(countOf(lines, "DrawWidth = 8.0000"), 4);
 }
 
+TEST_F(PlotFills, PolygonIsAFanOfTrianglesFromEachSideToTheMiddle) {
+    const std::array<double, 4> xs{10, 31, 25, 12};
+    const std::array<double, 4> ys{11, 14, 37, 23};
+    useScreen();
+    object.pFillPoly(xs, ys, 4, 255);
+    const auto linesOf = [](const Lines& calls) {
+        Lines lines;
+        for (const auto& call : calls)
+            if (call.starts_with("Line "))
+                lines.push_back(call.substr(0, call.rfind(' ', call.size() - 3)));
+        return lines;
+    };
+    const Lines polygon = linesOf(drawn());
+    const double mx = (10 + 31 + 25 + 12) / 4.0;
+    const double my = (11 + 14 + 37 + 23) / 4.0;
+    object.pFillTri(10, 11, 31, 14, mx, my);
+    object.pFillTri(31, 14, 25, 37, mx, my);
+    object.pFillTri(25, 37, 12, 23, mx, my);
+    object.pFillTri(12, 23, 10, 11, mx, my);
+    EXPECT_EQ(polygon, linesOf(drawn()));
+}
+
 TEST_F(PlotFills, PolygonBeyondItsListsIsASubscriptFault) {
     const std::array<double, 3> three{1, 2, 3};
     useScreen();

@@ -57,6 +57,16 @@ TEST_F(PlotGrid, LinearAxisFromZeroToTenHasMinorsOneToNineThenMajors) {
     expectNear(valuesOf(lines, false, true), {0, 5, 10});
 }
 
+TEST_F(PlotGrid, LinearAxisThatBeginsElsewhereHasTheLinesOfItsLength) {
+    useScreen();
+    object.pgrid(0, 20, 100, 30, 5, 2, 0, -30, 100, -20, 5, 2, 0, 255, 128);
+    const auto lines = readLines();
+    expectNear(valuesOf(lines, true, false), {22, 24, 26, 28});
+    expectNear(valuesOf(lines, true, true), {20, 25, 30});
+    expectNear(valuesOf(lines, false, false), {-28, -26, -24, -22});
+    expectNear(valuesOf(lines, false, true), {-30, -25, -20});
+}
+
 TEST_F(PlotGrid, LinesRunBetweenTheEndsOfTheOtherAxis) {
     useScreen();
     object.pgrid(0, 0, 100, 10, 10, 10, 0, 0, 100, 10, 10, 10, 0, 0, 0);

@@ -209,6 +209,21 @@ TEST(ImportedLines, WarnOfNamesThatTheDataFileOrTheTablesDoNotHold) {
     EXPECT_NE(made.text.find("\n       3 "), std::string::npos);
 }
 
+TEST(ImportedLines, NameTheFirstFiveThatTheyWarnOf) {
+    const auto warningOf = [](int count) {
+        PointList list;
+        for (int i = 0; i < count; ++i)
+            list.rows.push_back({"A " + std::to_string(i), "37.1", "126.1", "1"});
+        for (const std::string& warning : intoEmptyText(list, dms()).warnings)
+            if (warning.find("바꿉니다: ") != std::string::npos)
+                return warning.substr(warning.find(": ") + 2);
+        return std::string();
+    };
+    EXPECT_EQ(warningOf(1), "A 0");
+    EXPECT_EQ(warningOf(5), "A 0, A 1, A 2, A 3, A 4");
+    EXPECT_EQ(warningOf(6), "A 0, A 1, A 2, A 3, A 4, ...");
+}
+
 // A first name that begins so would make the line the head of a block of parameters.
 TEST(ImportedLines, NeverReadAsParameters) {
     ImportChoice choice;
