@@ -25,6 +25,18 @@ TEST(ShownLine, EscapesWhatTurnsTheDirectionOfWriting) {
     EXPECT_EQ(shownLine("a\u2066b\u2028c"), "a\\xe2\\x81\\xa6b\\xe2\\x80\\xa8c");
 }
 
+TEST(ShownLine, EscapesFromTheFirstToTheLastOfEachKind) {
+    // A blank, ~, no-break space, and the neighbours of what steers.
+    for (const char* safe : {"\x20", "\x7E", "\xC2\xA0", "\xD8\x9B", "\xD8\x9D", "\xE2\x80\x8D",
+                             "\xE2\x80\x90", "\xE2\x80\xA7", "\xE2\x80\xAF", "\xE2\x81\xA5",
+                             "\xE2\x81\xAA", "\xEF\xBB\xBE", "\xEF\xBC\x80"})
+        EXPECT_EQ(shownLine(safe), safe);
+    for (const char* steering :
+         {"\x1F", "\x7F", "\xC2\x80", "\xC2\x9F", "\xD8\x9C", "\xE2\x80\x8E", "\xE2\x80\x8F",
+          "\xE2\x80\xA8", "\xE2\x80\xAE", "\xE2\x81\xA6", "\xE2\x81\xA9", "\xEF\xBB\xBF"})
+        EXPECT_TRUE(shownLine(steering).starts_with("\\x")) << shownLine(steering);
+}
+
 TEST(ShownLine, EscapesBytesThatBelongToNoCharacter) {
     EXPECT_EQ(shownLine("\xff\xfe.dat"), "\\xff\\xfe.dat");
     EXPECT_EQ(shownLine("\xEA\xB0"), "\\xea\\xb0");
