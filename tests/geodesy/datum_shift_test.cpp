@@ -114,6 +114,16 @@ TEST(XYZToGeo, AZAtOrAboveItsLimitFailsInTheFirstPassWithHeightZero) {
     }
 }
 
+TEST(XYZToGeo, AZOfExactlyItsLimitFailsToo) {
+    const EllipsoidShape shape(kWgs84);
+    const double limit = shape.b2OverA2 * shape.a;  // the root of the near side is 0 there
+    const auto back = KelvoSub::XYZToGeo({-3e6, 4e6, limit}, kWgs84);
+    EXPECT_TRUE(back.failed);
+    EXPECT_EQ(back.value.Phi, 0);
+    EXPECT_EQ(back.value.h, 0);
+    EXPECT_TRUE(KelvoSub::XYZToGeo({-3e6, 4e6, -limit}, kWgs84).failed);
+}
+
 TEST(XYZToGeo, ALongitudeComesBackBetweenZeroAndThreeHundredAndSixty) {
     EXPECT_NEAR(thereAndBack(-12, -70, 0).Lam, 290, 1e-12);
     EXPECT_NEAR(thereAndBack(20, 127, 0).Lam, 127, 1e-12);
