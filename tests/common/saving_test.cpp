@@ -100,6 +100,21 @@ TEST(SystemFileCalls, ReadingAllTakesThePlaceOfWhatTheTextHeld) {
     calls.close(file);
 }
 
+TEST(SystemFileCalls, RemovingAndReservingSayWhetherTheyCould) {
+    const TemporaryFolder folder;
+    folder.put("a", "content");
+    SystemFileCalls calls;
+    const FileHandle file = calls.openThere(folder.file("a"));
+    ASSERT_GE(file, 0);
+    EXPECT_EQ(calls.reserve(file, 0), 0);
+    EXPECT_EQ(calls.reserve(file, 5000), 0);
+    EXPECT_LT(calls.reserve(file, std::uint64_t{1} << 62), 0) << "no disk has so much";
+    EXPECT_EQ(folder.bytes("a"), "content");
+    calls.close(file);
+    EXPECT_EQ(calls.remove(folder.file("a")), 0);
+    EXPECT_EQ(calls.remove(folder.file("a")), -ENOENT);
+}
+
 TEST(SystemFileCalls, CarryingAttributesBringsAllOfThemAndLeavesNoOther) {
     const TemporaryFolder folder;
     const std::string a = folder.file("a");

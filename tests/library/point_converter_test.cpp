@@ -35,6 +35,33 @@ TEST(PointConverter, WhatARunCouldNotWriteIsAFault) {
     EXPECT_NE(converter.text(status), "");
 }
 
+// The scale makes degrees of WGS84 too long for a number, and the small ellipsoid's own not.
+TEST(PointConverter, WhatFailsInTheLastTableOnlyIsReported) {
+    const auto converter =
+        converterOf({.parameters = "utm para\n1e-140 298\n0 129\n0 0\n1e302\n", .knownPoints = {}});
+    const Done done = convert(converter, System::Wgs, {{37.5, 127, 50}});
+    ASSERT_EQ(done.statuses.size(), 1U);
+    const PointStatus& status = done.statuses.at(0);
+    ASSERT_EQ(status.remarks.size(), 1U) << converter.text(status);
+    EXPECT_EQ(status.remarks[0].kind, Remark::Kind::NotProjected);
+    EXPECT_FALSE(status.fault) << converter.text(status);
+}
+
+TEST(PointConverter, APointWithoutItsCorrectionIsReported) {
+    Definition weightless =
+        converterOf({.parameters = "CORRECTION\n",
+                     .knownPoints = "K 37.3728 126.3234 67 37.3518 126.3241 45 1\n*\n\n"})
+            .definition();
+    std::vector<CorrPoint> known = *weightless.known;
+    known.front().Weight = 0;
+    weightless.known = std::make_shared<const std::vector<CorrPoint>>(known);
+    const PointConverter converter(weightless, "kelvo.cor");
+    const Done done = convert(converter, System::Wgs, {{37.5, 127, 50}});
+    ASSERT_EQ(done.statuses.size(), 1U);
+    ASSERT_TRUE(done.statuses.at(0).uncorrected);
+    EXPECT_EQ(done.statuses.at(0).uncorrected->failure, NoCorrection::NoWeight);
+}
+
 TEST(PointConverter, MessagesOfARunAreJoinedInTheirOrder) {
     const auto converter = converterOf({});
     const Done done = convert(converter, System::Wgs, {{37.30599999915, 127, 0}}, AngleForm::Dms);

@@ -48,6 +48,19 @@ TEST(DataFileWords, UtmIsAnOriginOrPoints) {
     EXPECT_EQ(kindsOfFile({"UTM A 4162723.3 283142.8 3", "   B 1 2 3"}), "CNXYH|NXYH|");
 }
 
+TEST(DataFileWords, StandWhereTheyStandInTheirLine) {
+    const auto placesOf = [](std::string_view line) {
+        LinesToCome state;
+        std::string places;
+        for (const DataFileWord& word : wordsOfDataLine(line, state))
+            places += std::to_string(word.at) + "+" + std::to_string(word.length) + " ";
+        return places;
+    };
+    EXPECT_EQ(placesOf("* 비고 1"), "0+10 ");  // in bytes
+    EXPECT_EQ(placesOf("*"), "0+1 ");
+    EXPECT_EQ(placesOf("WGS  A 37.3 126,5"), "0+3 5+1 7+4 12+3 16+1 ");
+}
+
 TEST(DataFileWords, CommentsAndUnknownWordsAreShownAsSuch) {
     EXPECT_EQ(kindsOfFile({"*  시점부터 종점까지", "SEVEN 1 2", "", "   홀로 37 126 3"}),
               "*|---||----|");
