@@ -57,6 +57,7 @@ TEST(PlatformDisk, AFullDiskIsFault61) {
                   writer->close();
               }),
               61);
+    EXPECT_EQ(faultOf([&] { disk.openForAppending("/dev/full")->write("x"); }), 61);
 }
 
 TEST(PlatformDisk, ReplacingFollowsALinkAndLeavesNothingBeside) {
