@@ -159,6 +159,20 @@ TEST_F(PlotDevice, ColoursAreToldOnChangeOnly) {
     EXPECT_EQ(drawn(), (Lines{"ForeColor = 255", "BackColor = 65280", "ForeColor = 0"}));
 }
 
+TEST_F(PlotDevice, AColourThatTheSurfaceRefusedIsAskedForAgain) {
+    useScreen();
+    object.setBlackWhite(true);
+    for (const double which : {1.0, 2.0}) {
+        const std::string property = which == 1 ? "BackColor" : "ForeColor";
+        failAt = property;
+        EXPECT_NE(faultOf([&] { object.ChangeColor(255, which); }), 0);
+        failAt.clear();
+        drawn();
+        object.ChangeColor(255, which);
+        EXPECT_EQ(drawn(), (Lines{property + " = 255"}));
+    }
+}
+
 TEST_F(PlotDevice, BlackingThePenIsRememberedAsBlack) {
     useScreen();
     object.setBlackWhite(true);
