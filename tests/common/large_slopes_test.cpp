@@ -26,6 +26,13 @@ TEST(DistanceToLine, TakesTheSlopeOfAnUprightLineFor1e15) {
     EXPECT_DOUBLE_EQ(result.distance, 2);
 }
 
+TEST(DistanceToLine, TakesTheSlopeOfAPerpendicularToALevelLineFor1e15) {
+    constexpr double kAsWritten = 57.29578;
+    // One metre to the side at such a height; half of it would be two units in the last place.
+    EXPECT_NEAR(genSub::DistanceToLine(0, 0, 10, 0, 0, 1e15).direction,
+                std::atan(1e15) * kAsWritten, 1.5e-14);
+}
+
 TEST(LineIntersection, TakesTheSlopeOfAnUprightLineFor1e25) {
     // y = 1e25 x - 5e25 meets y = 1e24 x
     const auto meeting = genSub::LineIntersection(5, 0, 5, 10, 0, 0, 1, 1e24);

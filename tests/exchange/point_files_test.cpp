@@ -371,6 +371,29 @@ TEST_F(PointFiles, LinesAreRefusedByTheirName) {
     EXPECT_NE(fault.find("Line String"), std::string::npos) << fault;
 }
 
+TEST_F(PointFiles, ACollectionOfOnePointIsAPointAndOneOfTwoIsRefused) {
+    const TemporaryFolder folder;
+    const auto put = [&](const std::string& coordinates) {
+        folder.put("a.geojson",
+                   R"({"type":"FeatureCollection","features":[{"type":"Feature","properties":{},)"
+                   R"("geometry":{"type":"MultiPoint","coordinates":)" +
+                       coordinates + "}}]}");
+    };
+    const auto read = [&] {
+        PointOfFile point;
+        static_cast<void>(
+            loadPointFiles()->open(VectorFormat::GeoJson, folder.file("a.geojson"))->read(point));
+        return point;
+    };
+    put("[[127.5,37.25]]");
+    const PointOfFile point = read();
+    ASSERT_TRUE(point.place);
+    EXPECT_EQ(point.place->x, 127.5);
+    EXPECT_EQ(point.place->y, 37.25);
+    put("[[127.5,37.25],[128,38]]");
+    EXPECT_NE(faultOf([&] { static_cast<void>(read()); }), "");
+}
+
 TEST_F(PointFiles, ASheetOfWhichGdalReadsAPartOnlyIsRefused) {
     const TemporaryFolder folder;
     const std::string path = folder.file("a.ods");

@@ -157,7 +157,9 @@ TEST_F(PlotGrid, LogarithmicAxisFromZeroTellsAndEndsInADivisionFault) {
 TEST_F(PlotGrid, StepsThatWouldNeverEndStopAtTheLimit) {
     useScreen();
     object.pgrid(0, 0, 100, 10, 5, 1e-15, 0, 0, 100, 10, 5, 1, 0, 0, 0);
-    EXPECT_EQ(countOf(drawn(), "Line"), clsplot1::kMostStrokes);
+    const Lines minors = drawn();
+    EXPECT_EQ(countOf(minors, "Line"), clsplot1::kMostStrokes);
+    EXPECT_EQ(countOf(minors, "DrawWidth"), 1) << "all of them thin, the last one too";
     object.pgrid(0, 1, 100, 1e300, 1e-9, 1e-9, 0, 1, 100, 10, 5, 1, 3, 0, 0);
     const Lines calls = drawn();
     EXPECT_EQ(countOf(calls, "Line"), clsplot1::kMostStrokes);
