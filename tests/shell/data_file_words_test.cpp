@@ -48,6 +48,13 @@ TEST(DataFileWords, UtmIsAnOriginOrPoints) {
     EXPECT_EQ(kindsOfFile({"UTM A 4162723.3 283142.8 3", "   B 1 2 3"}), "CNXYH|NXYH|");
 }
 
+TEST(DataFileWords, OfUtmArePointsWhereEitherCoordinateIsANumber) {
+    EXPECT_EQ(kindsOfFile({"utm 123"}), "CF|");
+    EXPECT_EQ(kindsOfFile({"utm 123 5"}), "CNX|");
+    EXPECT_EQ(kindsOfFile({"utm 123 x 5"}), "CNXY|");
+    EXPECT_EQ(kindsOfFile({"utm 123 4 5 6", "    124 4 5 6"}), "CNXYH|NXYH|");
+}
+
 TEST(DataFileWords, StandWhereTheyStandInTheirLine) {
     const auto placesOf = [](std::string_view line) {
         LinesToCome state;

@@ -96,8 +96,8 @@ int seek(void* opened, vsi_l_offset offset, int whence) {
     return -1;
 }
 
-// The DXF driver looks for a line end in what it read of its own drawing, and would look on over its
-// stack where a full disk left less than that: what is missing are line ends.
+// The DXF driver looks for a line end in what it read of its own drawing, and would look on over
+// its stack where a full disk left less than that: what is missing are line ends.
 std::size_t readBytes(void* opened, void* buffer, std::size_t size, std::size_t count) {
     OpenFile& of = fileOf(opened);
     of.turnTo(Last::Read);
