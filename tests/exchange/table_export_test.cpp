@@ -46,6 +46,24 @@ protected:
     testing::TemporaryFolder folder;
 };
 
+TEST_F(TableExport, AnglesHaveTenDecimalsCoordinatesSixAndHeightsFour) {
+    points.PointCount = 1;
+    points.row(1) = recOf("A", 0.123456789876);
+    exportTables(points, folder.file("a.xlsx"));
+    const auto sheet = loadPointFiles()->openSheet(VectorFormat::Xlsx, folder.file("a.xlsx"));
+    std::vector<std::string> cells;
+    ASSERT_TRUE(sheet->read(cells));
+    ASSERT_TRUE(sheet->read(cells));
+    const std::string angle = ".1234567899";
+    const std::string coordinate = ".123457";
+    const std::string height = ".1235";
+    EXPECT_EQ(cells, (std::vector<std::string>{
+                         "A", "1" + angle, "2" + angle, "3" + height, "4" + angle, "5" + angle,
+                         "6" + height, "7" + coordinate, "8" + coordinate, "9" + height,
+                         "10" + coordinate, "11" + coordinate, "12" + height, "13" + coordinate,
+                         "14" + coordinate, "15" + height}));
+}
+
 TEST_F(TableExport, ASheetHasTheColumnsOfAllFiveTables) {
     exportTables(points, folder.file("a.xlsx"));
     const auto sheet = loadPointFiles()->openSheet(VectorFormat::Xlsx, folder.file("a.xlsx"));
