@@ -88,6 +88,13 @@ TEST(CodePage, TheUserAreaStandsInThePrivateUseArea) {
     EXPECT_EQ(encodeCodePage(utf8(0xE0BC)), "?");
 }
 
+TEST(CodePage, AByteThatWasHeldGoesBackAndItsNeighboursHaveNone) {
+    EXPECT_EQ(encodeCodePage(utf8(0xF780)), "?");
+    EXPECT_EQ(encodeCodePage(utf8(0xF781)), "\x81");
+    EXPECT_EQ(encodeCodePage(utf8(0xF7FE)), "\xFE");
+    EXPECT_EQ(encodeCodePage(utf8(0xF7FF)), "?");
+}
+
 TEST(CodePage, TheSingleBytes80AndFFAreCharacters) {
     EXPECT_EQ(decodeCodePage("\x80"), utf8(0x80));
     EXPECT_EQ(decodeCodePage("\xFF"), utf8(0xF8F7));

@@ -41,6 +41,7 @@ TEST_F(Journal, KeepsWhatWasTypedAFewSecondsLater) {
     ring();
     EXPECT_EQ(kept(Shelf::OnView), "first\r\n");
     EXPECT_EQ(program->services.kept[Shelf::OnView].path, "/app/data/a.dat");
+    EXPECT_EQ(program->services.kept[Shelf::OnView].since, "2004-06-07 09:30:00");
 }
 
 TEST_F(Journal, IsNotPutOffByFurtherTyping) {
