@@ -55,6 +55,10 @@ TEST(VectorFormats, AShapefileHoldsAsManyRowsAsGoIntoTwoGibibytes) {
               (2147483647U - 33 - 32) / 255);
     EXPECT_EQ(mostPointsOf(Shapefile, std::vector<PointColumn>{{"name"}, {"x", 0}, {"y", 6}}),
               (2147483647U - 33 - 96) / 303);
+    // Five texts and fifty numbers fill the file to its last byte.
+    std::vector<PointColumn> columns(50, {"x", 0});
+    columns.insert(columns.end(), 5, {"name"});
+    EXPECT_EQ(33 + 32 * 55 + 2471 * mostPointsOf(Shapefile, columns), 2147483647U);
     EXPECT_TRUE((PointColumn{"a", -1}.holdsText()));
     EXPECT_FALSE((PointColumn{"a", 0}.holdsText()));
     EXPECT_EQ(mostPointsOf(Dxf, std::vector<PointColumn>{{"name"}}), 0U);
