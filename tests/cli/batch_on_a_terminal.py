@@ -4,7 +4,6 @@
     batch_on_a_terminal.py PROGRAM [unittest options]
 """
 
-import fcntl
 import os
 import pathlib
 import pty
@@ -12,6 +11,8 @@ import subprocess
 import sys
 import tempfile
 import unittest
+
+from terminal_text import text_on
 
 PROGRAM = str(pathlib.Path(sys.argv.pop(1)).resolve())
 DATA = b"INPUT deg\r\nWGS A 37.3 127 1\r\nend\r\n\r\n"
@@ -28,15 +29,7 @@ class Terminal(unittest.TestCase):
                                   stdout=subprocess.DEVNULL, stderr=its, check=False)  # fmt: skip
             os.close(its)
             self.assertEqual(done.returncode, 0)
-        fcntl.fcntl(ours, fcntl.F_SETFL, os.O_NONBLOCK)
-        text = b""
-        try:
-            while piece := os.read(ours, 65536):
-                text += piece
-        except OSError:
-            pass
-        os.close(ours)
-        return text.decode()
+        return text_on(ours)
 
     def test_many_files_show_how_many_are_done_and_which_comes(self):
         seen = self.seen(5)

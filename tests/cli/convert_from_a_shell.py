@@ -4,7 +4,6 @@
     convert_from_a_shell.py PROGRAM [unittest options]
 """
 
-import fcntl
 import itertools
 import os
 import pathlib
@@ -17,6 +16,8 @@ import sys
 import tempfile
 import time
 import unittest
+
+from terminal_text import text_on
 
 PROGRAM = str(pathlib.Path(sys.argv.pop(1)).resolve())
 POINTS = "name,lat,lon,h\nA,37.5,127,50\nB,36,128.5,0\n"
@@ -317,15 +318,7 @@ class Progress(Case):
             started.stdin.write(b"P,37,127\n" * 20000)
         started.stdin.close()
         started.wait()
-        fcntl.fcntl(ours, fcntl.F_SETFL, os.O_NONBLOCK)
-        seen = b""
-        try:
-            while piece := os.read(ours, 65536):
-                seen += piece
-        except OSError:
-            pass
-        os.close(ours)
-        return seen.decode()
+        return text_on(ours)
 
     def test_a_terminal_sees_a_bar_that_is_wiped_before_the_summary(self):
         seen = self.bar()
