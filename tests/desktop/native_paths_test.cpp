@@ -8,7 +8,6 @@
 #include <memory>
 
 #include "common/application_folder.h"
-#include "desktop/look_of_window.h"
 #include "desktop/main_window.h"
 #include "desktop/native_paths.h"
 #include "desktop/text_viewer.h"

@@ -5,7 +5,6 @@
 #include <QScrollBar>
 #include <QTest>
 
-#include "desktop/look_of_window.h"
 #include "desktop/window_case.h"
 #include "desktop/window_tests.h"
 

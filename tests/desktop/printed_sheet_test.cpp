@@ -1,5 +1,4 @@
 // What stands where on a printed sheet, measured in the rasterised page.
-#include <QApplication>
 #include <QDir>
 #include <QImage>
 #include <QProcess>

@@ -1,5 +1,4 @@
 // The drawing surfaces: pixels, paper, faces and files.
-#include <QApplication>
 #include <QFile>
 #include <QImage>
 #include <QPainter>

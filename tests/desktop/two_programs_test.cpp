@@ -10,7 +10,6 @@
 #include <memory>
 
 #include "common/application_folder.h"
-#include "desktop/look_of_window.h"
 #include "desktop/main_window.h"
 #include "desktop/window_case.h"
 #include "desktop/window_hands.h"

@@ -19,7 +19,6 @@
 #include "common/application_folder.h"
 #include "common/code_page.h"
 #include "desktop/end_signals.h"
-#include "desktop/look_of_window.h"
 #include "desktop/main_window.h"
 #include "desktop/text_viewer.h"
 #include "desktop/window_case.h"

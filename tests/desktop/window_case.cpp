@@ -5,7 +5,6 @@
 #include <iterator>
 
 #include "common/application_folder.h"
-#include "desktop/look_of_window.h"
 
 namespace kelvo::testing {
 

@@ -7,7 +7,6 @@
 #include <cstdio>
 #include <string_view>
 
-#include "desktop/korean_faces.h"
 #include "desktop/look_of_window.h"
 
 using namespace kelvo;
