@@ -4,12 +4,10 @@
     convert_from_a_shell.py PROGRAM [unittest options]
 """
 
-import itertools
 import os
 import pathlib
 import pty
 import resource
-import shutil
 import signal
 import subprocess
 import sys
@@ -239,26 +237,6 @@ class Files(Case):
         self.assertEqual(self.leftovers(), ["in.csv", "out.csv"])
         self.assertIn("out.csv", self.said)
 
-    def test_a_full_disk_is_one_sentence_in_every_format(self):
-        if self.run_it("--from", "wgs", "in.csv", "out.geojson") != 0:
-            self.skipTest("built without GDAL (KELVO_EXCHANGE=OFF)")
-        (self.folder / "out.geojson").unlink()
-        rows = POINTS + POINTS.split("\n", 1)[1] * 150
-        # Of a drawing that was cut off there its driver reads beyond the end: one start in thirteen crashed.
-        of_drawings = [("out.dxf", 100)] * 30
-        of_all = itertools.product(
-            ("out.shp", "out.geojson", "out.gpkg", "out.kml", "out.gpx", "out.dxf", "out.xlsx", "out.ods"), (100, 3000))
-        for name, limit in itertools.chain(of_all, of_drawings):
-            with self.subTest(name=name, limit=limit):
-                def few_bytes(limit=limit):
-                    resource.setrlimit(resource.RLIMIT_FSIZE, (limit, limit))
-
-                self.assertEqual(self.run_it("--from", "wgs", "-", name, text=rows, preexec_fn=few_bytes), 2)
-                self.assertRegex(self.said, "^kelvo-convert: [^\n]*\n$", (name, limit))
-                if name != "out.gpkg":  # SQLite says so in its own words
-                    self.assertIn("디스크가 꽉 찼습니다", self.said, (name, limit))
-                self.assertEqual(self.leftovers(), ["in.csv"])
-
     def test_a_full_disk_behind_standard_output_is_an_error(self):
         with open("/dev/full", "wb") as full:
             done = subprocess.run([PROGRAM, "--from", "wgs", "in.csv"], cwd=self.folder, stdout=full, stderr=subprocess.PIPE)
@@ -283,22 +261,6 @@ class Files(Case):
         started.stdin.close()
         self.assertEqual(self.read("out.csv"), "old")
         self.assertEqual([name for name in self.leftovers() if not name.endswith(".new")], ["in.csv", "out.csv"])
-
-    @unittest.skipUnless(shutil.which("strace"), "no strace here")
-    def test_a_medium_that_fails_to_settle_the_output_leaves_the_old_one(self):
-        # The second where the module for other programs' files is built.
-        for name in ("out.csv", "out.geojson"):
-            if self.run_it("--from", "wgs", "in.csv", name) != 0:
-                continue
-            for error, settles in (("EIO", False), ("EINVAL", True), ("EROFS", True)):
-                self.write(name, "old")
-                done = subprocess.run(
-                    ["strace", "-f", "-qq", "-o", "/dev/null", "-e", f"inject=fsync:error={error}",
-                     PROGRAM, "--from", "wgs", "in.csv", name], cwd=self.folder, stderr=subprocess.PIPE,
-                    env={**os.environ, "ASAN_OPTIONS": "detect_leaks=0"}, check=False)  # fmt: skip
-                self.assertEqual(done.returncode == 0, settles, (name, error, done.stderr))
-                self.assertEqual(self.read(name) == "old", not settles, (name, error))
-                self.assertEqual([left for left in self.leftovers() if left.startswith("kelvo")], [])
 
     def test_a_row_without_end_is_refused(self):
         self.write("out.csv", "old")
