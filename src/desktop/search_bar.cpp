@@ -101,7 +101,7 @@ void SearchBar::leave() {
 bool SearchBar::findNext(bool backward) {
     const QString text = wanted_->text();
     if (text.isEmpty()) {
-        openFor(false);
+        openFor(replaceRow_->isVisible());
         return false;
     }
     const QTextDocument::FindFlags flags =

@@ -1,10 +1,14 @@
 // The plot on the screen: looking closer, moving about, pointing, saving.
 #include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QFile>
 #include <QImage>
+#include <QMenu>
 #include <QPainter>
 #include <QSignalSpy>
 #include <QTest>
-#include <QToolTip>
+#include <QTimer>
 #include <QWheelEvent>
 
 #include "desktop/picture_painter.h"
@@ -79,6 +83,105 @@ private slots:
             return image;
         };
         QTRY_COMPARE(plot.grab().toImage().convertToFormat(QImage::Format_RGB32), sharp());
+    }
+
+    void theKeysMagnifyMoveAndShowTheWhole() {
+        PlotView& plot = shownPlot();
+        QTest::keyClick(&plot, Qt::Key_Plus);
+        QTest::keyClick(&plot, Qt::Key_Equal);
+        QVERIFY(qFuzzyCompare(plot.magnification(), 1.25 * 1.25));
+        QTest::keyClick(&plot, Qt::Key_Minus);
+        QVERIFY(qFuzzyCompare(plot.magnification(), 1.25));
+        turnWheel(plot, QPointF(plot.width() / 2.0, plot.height() / 2.0), 6);
+        const QPointF held = plot.toSurface(QPointF(100, 100));
+        // An arrow looks that way, so the picture goes the other way.
+        const auto movedBy = [&](Qt::Key arrow) {
+            const QPointF before = plot.toWidget(held);
+            QTest::keyClick(&plot, arrow);
+            return plot.toWidget(held) - before;
+        };
+        const QPointF left = movedBy(Qt::Key_Left);
+        QVERIFY(left.x() > 1 && qAbs(left.y()) < 0.01);
+        const QPointF right = movedBy(Qt::Key_Right);
+        QVERIFY(qAbs(right.x() + left.x()) < 0.01 && qAbs(right.y()) < 0.01);
+        const QPointF up = movedBy(Qt::Key_Up);
+        QVERIFY(up.y() > 1 && qAbs(up.x()) < 0.01);
+        const QPointF down = movedBy(Qt::Key_Down);
+        QVERIFY(qAbs(down.y() + up.y()) < 0.01 && qAbs(down.x()) < 0.01);
+        QTest::keyClick(&plot, Qt::Key_Home);
+        QVERIFY(qFuzzyCompare(plot.magnification(), 1.0));
+    }
+
+    void aDoubleClickShowsTheWhole() {
+        PlotView& plot = shownPlot();
+        turnWheel(plot, QPointF(100, 100), 4);
+        QTest::mouseDClick(&plot, Qt::RightButton, {}, QPoint(100, 100));
+        QVERIFY(plot.magnification() > 2);
+        QTest::mouseDClick(&plot, Qt::LeftButton, {}, QPoint(100, 100));
+        QVERIFY(qFuzzyCompare(plot.magnification(), 1.0));
+    }
+
+    void theWholeIsCopiedHoweverCloseOneLooks() {
+        PlotView& plot = shownPlot();
+        const auto copied = [&plot] {
+            QGuiApplication::clipboard()->clear();
+            QTest::keyClick(&plot, Qt::Key_C, Qt::ControlModifier);
+            return QGuiApplication::clipboard()->image();
+        };
+        const QImage whole = copied();
+        QVERIFY(whole.width() > plot.width());
+        QImage empty = whole;
+        empty.fill(Qt::white);
+        QVERIFY(whole != empty);
+        turnWheel(plot, QPointF(100, 100), 6);
+        QCOMPARE(copied(), whole);
+    }
+
+    void thePictureIsSavedUnderTheNameGiven() {
+        PlotView& plot = shownPlot();
+        const std::string named = folder_->file("a.svg");
+        hands_->dialogResults = {named, folder_->file("bare")};
+        QTest::keyClick(&plot, Qt::Key_S, Qt::ControlModifier);
+        QVERIFY(readBytes(named).starts_with("<?xml"));
+        QCOMPARE(said_, QStringLiteral("그림을 저장했습니다: ") + qtText(named));
+        QTest::keyClick(&plot, Qt::Key_S, Qt::ControlModifier);
+        QVERIFY(readBytes(folder_->file("bare.png")).starts_with("\x89PNG"));
+    }
+
+    void aPictureThatCannotBeSavedIsTold() {
+        PlotView& plot = shownPlot();
+        const std::string unknown = folder_->file("a.bmp");
+        hands_->dialogResults = {unknown};
+        QTest::keyClick(&plot, Qt::Key_S, Qt::ControlModifier);
+        const std::string& box = hands_->lines.back();
+        QVERIFY2(box.find("a.bmp 파일을 저장할 수 없습니다.") != std::string::npos, box.c_str());
+        QVERIFY(!QFile::exists(qtText(unknown)));
+        // Giving up says nothing.
+        const std::size_t lines = hands_->lines.size();
+        QTest::keyClick(&plot, Qt::Key_S, Qt::ControlModifier);
+        QCOMPARE(hands_->lines.size(), lines + 1);
+        QVERIFY(hands_->lines.back().starts_with("dialog|save|"));
+    }
+
+    void theMenuOfThePictureOffersSavingCopyingAndTheWhole() {
+        PlotView& plot = shownPlot();
+        turnWheel(plot, QPointF(100, 100), 4);
+        QStringList offered;
+        QTimer::singleShot(0, &plot, [&offered] {
+            auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            QVERIFY(menu != nullptr);
+            for (const QAction* action : menu->actions()) offered << action->text();
+            menu->setActiveAction(menu->actions().last());
+            QTest::keyClick(menu, Qt::Key_Return);
+        });
+        QContextMenuEvent asked(QContextMenuEvent::Mouse, {50, 50},
+                                plot.mapToGlobal(QPoint(50, 50)));
+        QApplication::sendEvent(&plot, &asked);
+        const QStringList expected{QStringLiteral("그림을 파일로 저장(&S)..."),
+                                   QStringLiteral("그림 복사(&C)"), QString(),
+                                   QStringLiteral("모두 보기(&A)")};
+        QCOMPARE(offered, expected);
+        QVERIFY(qFuzzyCompare(plot.magnification(), 1.0));
     }
 
     void aNewPlotShowsTheWholeAgain() {

@@ -31,6 +31,19 @@ private slots:
         QVERIFY2(box.find("d2.dat: 1점, 알림 0개") != std::string::npos, box.c_str());
     }
 
+    void theFilesAreChosenInOneDialog() {
+        (void)putData(2);
+        hands_->dialogResults = {"\"" + folder_->file("data/d1.dat") + "\" \"" +
+                                 folder_->file("data/d2.dat") + "\""};
+        window_->findChild<QAction*>("workSeveral")->trigger();
+        const std::string& box = hands_->lines.back();
+        QVERIFY2(box.find("데이터 파일 2개 중 2개를 끝냈습니다.") != std::string::npos,
+                 box.c_str());
+        hands_->lines.clear();
+        window_->findChild<QAction*>("workSeveral")->trigger();
+        QCOMPARE(hands_->lines.size(), std::size_t{1});
+    }
+
     // The reports are those of runs made one by one.
     void theReportsAreThoseOfSingleRuns() {
         const std::vector<std::string> paths = putData(2);

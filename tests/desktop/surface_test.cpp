@@ -281,6 +281,37 @@ private slots:
         QVERIFY(ink);
     }
 
+    // y grows downward in the file, angles grow against the clock: a quarter from the right to the
+    // top.
+    void aDocumentOfLinesHoldsArcsBoxesAndTurnedLetters() {
+        const double quarter = std::acos(0.0);
+        PictureSurface surface({});
+        surface.Circle(1000, 1000, 400, 0x0000FF, 0, quarter, 0, CircleForm::Arc);
+        surface.Circle(1000, 1000, 400, 0, quarter, 4 * quarter - 0.1, 0, CircleForm::Arc);
+        surface.Line(0, 0, 600, 300, 0x00FF00, LineForm::FilledBox);
+        surface.Line(0, 0, 600, 300, 0, LineForm::Box);
+        surface.setFont("굴림체");
+        surface.setFontBold(true);
+        surface.setFontItalic(true);
+        surface.setFontUnderline(true);
+        surface.setFontStrikethru(true);
+        surface.print("A");
+        const QString svg = svgOf(framed(surface.picture()));
+        QVERIFY2(svg.contains(QStringLiteral("<path d=\"M 1400.0 1000.0 A 400.0 400.0 0 0 0 1000.0 "
+                                             "600.0\" fill=\"none\" stroke=\"#ff0000\"")),
+                 qPrintable(svg));
+        // More than half of the circle: the large arc.
+        QVERIFY2(svg.contains(QStringLiteral("<path d=\"M 1000.0 600.0 A 400.0 400.0 0 1 0 ")),
+                 qPrintable(svg));
+        QVERIFY(
+            svg.contains(QStringLiteral("width=\"600.0\" height=\"300.0\" fill=\"#00ff00\"/>")));
+        QVERIFY(svg.contains(
+            QStringLiteral("width=\"600.0\" height=\"300.0\" fill=\"none\" stroke=\"#000000\"")));
+        QVERIFY(
+            svg.contains(QStringLiteral("font-weight=\"bold\" font-style=\"italic\" "
+                                        "text-decoration=\"underline line-through\"")));
+    }
+
     void picturesAreSavedByTheEndingOfTheirName() {
         const kelvo::testing::TemporaryFolder folder;
         PictureSurface surface({});
