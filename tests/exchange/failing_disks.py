@@ -14,10 +14,13 @@ import shutil
 import subprocess
 import sys
 import tempfile
+import time
 import unittest
 
 CONVERT = str(pathlib.Path(sys.argv.pop(1)).resolve())
-ROWS = "name,lat,lon,h\n" + "A,37.5,127,50\nB,36,128.5,0\n" * 150
+HEADING = "name,lat,lon,h\n"
+ROWS = HEADING + "A,37.5,127,50\nB,36,128.5,0\n" * 150
+MORE_THAN_A_PIPE_HOLDS = HEADING + "A,37.5,127,50\n" * 20000
 FORMATS = ("shp", "geojson", "gpkg", "kml", "gpx", "dxf", "xlsx", "ods")
 NOT_DONE = 77
 
@@ -56,6 +59,42 @@ class FailingDisks(unittest.TestCase):
                 if ending != "gpkg":  # SQLite says so in its own words
                     self.assertIn("디스크가 꽉 찼습니다", done.stderr)
                 self.assertEqual(self.files(), [])
+
+    def begun(self, name):
+        """A conversion that waits for more points, its folder made."""
+        before = set(self.files())
+        started = subprocess.Popen([CONVERT, "--from", "wgs", "-", name], cwd=self.folder, stdin=subprocess.PIPE,
+                                   stderr=subprocess.DEVNULL)  # fmt: skip
+        self.addCleanup(started.wait)
+        self.addCleanup(started.kill)
+        self.addCleanup(started.stdin.close)
+        started.stdin.write(MORE_THAN_A_PIPE_HOLDS.encode())
+        started.stdin.flush()
+        until = time.monotonic() + 30
+        while time.monotonic() < until:
+            made = [left for left in self.files() if left not in before]
+            if made:
+                return started, made[0]
+            time.sleep(0.01)
+        raise self.failureException("no folder was made")
+
+    def test_what_a_kill_left_goes_with_the_next_file_and_nothing_else_does(self):
+        (self.folder / ".kelvo-unfinished-").mkdir()  # no name of ours
+        (self.folder / ".kelvo-unfinished-mine").mkdir()
+        others = self.files()
+        killed, left = self.begun("killed.kml")
+        killed.kill()
+        killed.wait()
+        self.assertEqual(self.files(), sorted([*others, left]))
+        running, kept = self.begun("running.kml")
+        self.assertEqual(self.files(), sorted([*others, kept]))
+        self.assertEqual(self.convert("whole.kml").returncode, 0)
+        self.assertEqual(self.files(), sorted([*others, kept, "whole.kml"]))
+        running.stdin.close()
+        self.assertEqual(running.wait(), 0)
+        self.assertEqual(self.files(), sorted([*others, "running.kml", "whole.kml"]))
+        points = [(self.folder / name).read_text().count("<Placemark") for name in ("running.kml", "whole.kml")]
+        self.assertEqual(points, [20000, 300])
 
     @unittest.skipUnless(may_trace(), "strace is missing or may not trace here")
     def test_what_does_not_settle_leaves_the_old_file_and_nothing_else(self):

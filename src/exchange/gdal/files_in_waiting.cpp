@@ -3,10 +3,12 @@
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
+#include <string_view>
 #include <system_error>
 #include <vector>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <unistd.h>
 
 #include "common/file_links.h"
@@ -17,6 +19,34 @@ namespace kelvo {
 namespace fs = std::filesystem;
 
 namespace {
+
+constexpr std::string_view kFrontOfName = ".kelvo-unfinished-";
+constexpr std::string_view kLettersToCome = "XXXXXX";
+
+int openFolder(const fs::path& folder) {
+    return ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+}
+
+bool isNameOfFolder(const std::string& name) {
+    return name.starts_with(kFrontOfName) &&
+           name.size() == kFrontOfName.size() + kLettersToCome.size();
+}
+
+// Where a file system has no locks, or doesn't let us, everything stays.
+void removeWhatWasLeft(const fs::path& parent) {
+    std::error_code error;
+    std::vector<fs::path> folders;
+    for (fs::directory_iterator entry(parent, error), end; !error && entry != end;
+         entry.increment(error)) {
+        if (isNameOfFolder(entry->path().filename().string())) folders.push_back(entry->path());
+    }
+    for (const fs::path& folder : folders) {
+        const int lock = openFolder(folder);
+        if (lock < 0) continue;
+        if (flock(lock, LOCK_EX | LOCK_NB) == 0) fs::remove_all(folder, error);
+        ::close(lock);
+    }
+}
 
 [[noreturn]] void fail(int error, const std::string& path) {
     throw ExchangeFault(sentenceOf(error, path));
@@ -59,14 +89,28 @@ FilesInWaiting::FilesInWaiting(const std::string& target)
         throw ExchangeFault("파일이 아니어서 쓸 수 없습니다 (" + given_ + ")");
     if (fs::exists(status) && access(target_.c_str(), W_OK) != 0) fail(errno, given_);
     const fs::path parent = target_.has_parent_path() ? target_.parent_path() : fs::path(".");
-    std::string pattern = (parent / ".kelvo-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr) fail(errno, given_);
-    folder_ = pattern;
+    removeWhatWasLeft(parent);
+    makeFolder(parent);
+}
+
+void FilesInWaiting::makeFolder(const fs::path& parent) {
+    std::error_code ignored;
+    do {
+        std::string pattern = (parent / kFrontOfName).string().append(kLettersToCome);
+        if (mkdtemp(pattern.data()) == nullptr) fail(errno, given_);
+        folder_ = pattern;
+        lock_ = openFolder(folder_);
+        if (lock_ >= 0) flock(lock_, LOCK_EX);
+        // Before it was locked somebody else may have taken it for one that was left.
+        if (fs::exists(folder_, ignored)) return;
+        if (lock_ >= 0) ::close(lock_);
+    } while (true);
 }
 
 FilesInWaiting::~FilesInWaiting() {
     std::error_code ignored;
     fs::remove_all(folder_, ignored);
+    if (lock_ >= 0) ::close(lock_);
 }
 
 void FilesInWaiting::takePlaces(bool all) const {

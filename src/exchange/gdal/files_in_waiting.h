@@ -6,7 +6,8 @@
 
 namespace kelvo {
 
-// A folder of its own beside the target, gone with the object.
+// A folder of its own beside the target, gone with the object. One whose program was ended on the
+// way goes when the next one is made beside it.
 class FilesInWaiting {
 public:
     // ExchangeFault where the folder can't be made, or the target is something else than a file.
@@ -26,9 +27,12 @@ public:
     void takePlaces(bool all) const;
 
 private:
+    void makeFolder(const std::filesystem::path& parent);
+
     std::string given_;
     std::filesystem::path target_;
     std::filesystem::path folder_;
+    int lock_ = -1;  // the folder, open and locked as long as it is in use
 };
 
 // The sentence for an errno, with the file's name.
