@@ -78,11 +78,22 @@ bool DelimitedSource::refill() {
     return count > 0;
 }
 
+// What the first line is split by; for that it must be there, quoted line ends and all.
+char DelimitedSource::delimiterOfFirstLine() {
+    const auto shown = [this] { return waiting().substr(0, kLongestRow); };
+    const auto isWhole = [](std::string_view text) {
+        return text.size() == kLongestRow || firstLineOf(text).size() < text.size();
+    };
+    while (!isWhole(shown()) && refill()) {
+    }
+    return delimiterOf(firstLineOf(shown()));
+}
+
 bool DelimitedSource::hasRow(std::size_t& length) {
+    const char delimiter = knowsDelimiter_ ? delimiter_ : delimiterOfFirstLine();
     for (;;) {
         const std::string_view text = waiting();
-        const std::size_t end =
-            endOfRow(text, knowsDelimiter_ ? delimiter_ : delimiterOf(firstLineOf(text)));
+        const std::size_t end = endOfRow(text, delimiter);
         if (end != std::string_view::npos && end < kLongestRow) {
             length = end + 1;
             return true;

@@ -32,6 +32,7 @@ private:
         return std::string_view(buffer_).substr(next_);
     }
     bool refill();
+    [[nodiscard]] char delimiterOfFirstLine();
     // Whether a whole row waits, of this length with its line end.
     bool hasRow(std::size_t& length);
     void readRow(RowBlock& block, const RawRow& raw, long line) const;

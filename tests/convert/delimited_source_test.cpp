@@ -111,6 +111,15 @@ TEST(DelimitedSource, RowsAreTheSameHoweverSmallThePiecesAre) {
     EXPECT_EQ(rowsOf(text, "", 7), whole);
 }
 
+// Where a quote of the first line closes lines later, what stands behind it has its say, too.
+TEST(DelimitedSource, TheDelimiterIsTheSameHoweverSmallThePiecesAre) {
+    const std::string text = "no\t\"d\tx\na\t1\t2\n\"b\",3\n\"c,4\t5\n";
+    const Rows whole = rowsOf(text);
+    EXPECT_EQ(whole, (Rows{"a|1.|2.|0.@2", "b,3!칸이 모자랍니다 (line 3)",
+                           "c,4\t5!따옴표가 닫히지 않았습니다 (line 4)"}));
+    for (const std::size_t piece : {1U, 2U, 3U, 7U, 15U}) EXPECT_EQ(rowsOf(text, "", piece), whole);
+}
+
 TEST(DelimitedSource, ARowWithoutEndIsRefusedWithItsLine) {
     try {
         std::ignore = rowsOf("a,1,2\n\"" + std::string(kLongestRow + 10, 'x') + "\"");
