@@ -19,7 +19,7 @@ Guarded<Geographic> iterated(const Geocentric& point, const EllipsoidShape& shap
     if (!std::isfinite(problem.slope) || !std::isfinite(problem.p)) return {.failed = true};
     double previous = 0;
     for (int pass = 1; pass <= kLatitudePasses; ++pass) {
-        const double d = nearSideSquared(problem, shape, state.N, state.h);
+        const double d = nearSideSquared(problem.Z2, shape, state.N, state.h);
         const double tangent = problem.Z / std::sqrt(d);
         const Guarded<Geographic> noResult{.value = {.h = state.h}, .failed = true};
         if (!std::isfinite(d) || !std::isfinite(tangent)) return noResult;
@@ -27,7 +27,7 @@ Guarded<Geographic> iterated(const Geocentric& point, const EllipsoidShape& shap
         // N and h stay those of the pass before.
         state.phi = phi;
         if (std::abs(phi - previous) < kSettled) break;
-        state = latitudeStateAt(problem, shape, phi);
+        state = latitudeStateAt(problem.p, shape, phi, std::sin(phi), std::cos(phi));
         if (!std::isfinite(state.N) || !std::isfinite(state.h)) return noResult;
         previous = phi;
     }

@@ -33,19 +33,17 @@ struct LatitudeState {
 
 // The square of the side next to the latitude, in the triangle whose far side is Z: r^2 - Z^2. Not
 // above 0 where r is too small for Z.
-[[nodiscard]] inline double nearSideSquared(const LatitudeProblem& problem,
-                                            const EllipsoidShape& shape, double N, double h) {
+[[nodiscard]] inline double nearSideSquared(double Z2, const EllipsoidShape& shape, double N,
+                                            double h) {
     const double r = shape.b2OverA2 * N + h;
-    return r * r - problem.Z2;
+    return r * r - Z2;
 }
 
-// N and h at a latitude.
-[[nodiscard]] inline LatitudeState latitudeStateAt(const LatitudeProblem& problem,
-                                                   const EllipsoidShape& shape, double phi) {
-    const double s = std::sin(phi);  // side by side, so that both come from one call
-    const double c = std::cos(phi);
+// N and h at a latitude, which is given by its sine and cosine, too.
+[[nodiscard]] inline LatitudeState latitudeStateAt(double p, const EllipsoidShape& shape,
+                                                   double phi, double s, double c) {
     const double N = shape.a / std::sqrt(1 - s * s * shape.e2);  // RadiusN at phi
-    return {.N = N, .h = problem.p / c - N, .phi = phi};
+    return {.N = N, .h = p / c - N, .phi = phi};
 }
 
 // The position of the last pass, longitude in 0..360.

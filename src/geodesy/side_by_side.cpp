@@ -28,6 +28,7 @@ public:
             const Geocentric& point = points[i < points.size() ? i : 0];
             problems_[i] = latitudeProblem(point);
             p_[i] = problems_[i].p;
+            Z_[i] = problems_[i].Z;
             Z2_[i] = problems_[i].Z2;
             N_[i] = shape.a;
             h_[i] = 0;
@@ -48,11 +49,20 @@ public:
         }
     }
 
+    // Step by step over all points: within one point each step waits for the one before.
     void pass(std::size_t count) {
         for (std::size_t i = 0; i < count; ++i) {
-            const double d = nearSideSquared(problems_[i], shape_, N_[i], h_[i]);
-            phi_[i] = std::atan(problems_[i].Z / std::sqrt(d));
-            const LatitudeState state = latitudeStateAt(problems_[i], shape_, phi_[i]);
+            const double d = nearSideSquared(Z2_[i], shape_, N_[i], h_[i]);
+            tangent_[i] = Z_[i] / std::sqrt(d);
+        }
+        for (std::size_t i = 0; i < count; ++i) phi_[i] = std::atan(tangent_[i]);
+        for (std::size_t i = 0; i < count; ++i) {
+            sine_[i] = std::sin(phi_[i]);
+            cosine_[i] = std::cos(phi_[i]);
+        }
+        for (std::size_t i = 0; i < count; ++i) {
+            const LatitudeState state =
+                latitudeStateAt(p_[i], shape_, phi_[i], sine_[i], cosine_[i]);
             N_[i] = state.N;
             h_[i] = state.h;
         }
@@ -73,10 +83,14 @@ private:
     const EllipsoidShape& shape_;
     std::array<LatitudeProblem, kLanes> problems_;
     Lane p_;
+    Lane Z_;
     Lane Z2_;
     Lane N_;
     Lane h_;
+    Lane tangent_;
     Lane phi_;
+    Lane sine_;
+    Lane cosine_;
 };
 
 void iterateTogether(std::span<const Geocentric> points, const Ellipsoid& ellipsoid,
