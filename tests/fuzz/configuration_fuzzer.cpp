@@ -3,6 +3,7 @@
 // do without it.
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "fuzz/whole_form.h"
 #include "shell/configuration.h"
@@ -97,13 +98,15 @@ void checkSessions(Session& session, testing::MemoryDisk disk) {
     const auto first = session(disk);
     requireItsOwnFiles(before, disk.files);
     if (!first) return;
+    auto lastButOne = first;
     auto last = session(disk);
     require(last.has_value(), "the program starts on what it wrote");
     // A path with quotes and a comma is written bare, and each start takes a quote off its front.
+    // Of five recent files a start exchanges the second and the third: required.
     auto mayChange = 2 + std::count(first->begin(), first->end(), '"');
-    for (auto next = session(disk); next != last; next = session(disk)) {
+    for (auto next = session(disk); next != last && next != lastButOne; next = session(disk)) {
         require(mayChange-- > 0, "what the program writes settles");
-        last = next;
+        lastButOne = std::exchange(last, next);
     }
 }
 
