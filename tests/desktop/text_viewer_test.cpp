@@ -58,10 +58,7 @@ private slots:
     }
 
     void replacingTakesOneAfterTheOtherAndLeavesTheRest() {
-        open("ab Ab ab\r\n");
-        QTest::keyClick(&editor(), Qt::Key_H, Qt::ControlModifier);
-        bar("viewerSearch")->setText("ab");
-        bar("viewerReplacement")->setText("x");
+        openReplacing("ab Ab ab\r\n", "ab", "x");
         // Nothing is selected yet, so the first click only finds.
         press("viewerReplaceNext");
         QCOMPARE(editor().toPlainText(), QStringLiteral("ab Ab ab\n"));
@@ -73,10 +70,7 @@ private slots:
     }
 
     void allAreReplacedInOneStepAlsoByWhatHoldsThem() {
-        open("ab Ab ab\r\n");
-        QTest::keyClick(&editor(), Qt::Key_H, Qt::ControlModifier);
-        bar("viewerSearch")->setText("ab");
-        bar("viewerReplacement")->setText("abab");
+        openReplacing("ab Ab ab\r\n", "ab", "abab");
         press("viewerReplaceAll");
         QCOMPARE(editor().toPlainText(), QStringLiteral("abab abab abab\n"));
         QCOMPARE(window_->findChild<QLabel*>("viewerSearchResult")->text(),
@@ -86,10 +80,7 @@ private slots:
     }
 
     void withNothingToLookForTheBarStaysAsItIs() {
-        open("ab\r\n");
-        QTest::keyClick(&editor(), Qt::Key_H, Qt::ControlModifier);
-        bar("viewerSearch")->clear();
-        bar("viewerReplacement")->setText("x");
+        openReplacing("ab\r\n", "", "x");
         press("viewerReplaceNext");
         press("viewerReplaceAll");
         QVERIFY(bar("viewerReplacement")->isVisible());
@@ -174,6 +165,12 @@ private:
         folder_->put("data/open.dat", text);
         window_->openDataFile(folder_->file("data/open.dat"));
         editor().setFocus();
+    }
+    void openReplacing(const std::string& text, const QString& wanted, const QString& by) {
+        open(text);
+        QTest::keyClick(&editor(), Qt::Key_H, Qt::ControlModifier);
+        bar("viewerSearch")->setText(wanted);
+        bar("viewerReplacement")->setText(by);
     }
     void select(int from, int to) {
         QTextCursor caret = editor().textCursor();

@@ -94,17 +94,17 @@ FilesInWaiting::FilesInWaiting(const std::string& target)
 }
 
 void FilesInWaiting::makeFolder(const fs::path& parent) {
-    std::error_code ignored;
-    do {
+    for (;;) {
+        std::error_code error;
         std::string pattern = (parent / kFrontOfName).string().append(kLettersToCome);
         if (mkdtemp(pattern.data()) == nullptr) fail(errno, given_);
         folder_ = pattern;
         lock_ = openFolder(folder_);
         if (lock_ >= 0) flock(lock_, LOCK_EX);
         // Before it was locked somebody else may have taken it for one that was left.
-        if (fs::exists(folder_, ignored)) return;
+        if (fs::exists(folder_, error) || error) return;
         if (lock_ >= 0) ::close(lock_);
-    } while (true);
+    }
 }
 
 FilesInWaiting::~FilesInWaiting() {
