@@ -22,6 +22,8 @@ function(kelvo_compile_options target)
     if(KELVO_SANITIZE)
         target_compile_options(${target} PRIVATE -fsanitize=${KELVO_SANITIZE}
             -fno-sanitize-recover=all -fno-omit-frame-pointer)
+        # A look past the end of a list that still lies in somebody's memory is seen by these only.
+        target_compile_definitions(${target} PRIVATE _GLIBCXX_ASSERTIONS)
         target_link_options(${target} PUBLIC -fsanitize=${KELVO_SANITIZE})
     endif()
 endfunction()

@@ -22,7 +22,7 @@ std::string bytesOf(const std::string& text) {
 
 std::optional<std::string> newFileIn(Disk& disk, const std::string& folder,
                                      const std::string& stamp) {
-    for (int number = 1; number < kMostOfOneSecond; ++number) {
+    for (int number = 1; number <= kMostOfOneSecond; ++number) {
         std::string path = folder;
         path += kPathSeparator;
         path.append("rescue-")

@@ -98,8 +98,10 @@ TEST_F(CorrFile, AFileOfCommentsHoldsNoPoint) {
     EXPECT_EQ(table.CorrCount, 0);
 }
 
-TEST_F(CorrFile, AMissingFileIsNotFound) {
+TEST_F(CorrFile, AMissingFileIsNotFoundAndLeavesNoPointInForce) {
+    EXPECT_EQ(read("k " + kLine + "*\n*\n"), 0);
     EXPECT_EQ(faultOf([&] { ReadCorrFile(table, "/none", fields, disk, messages); }), 53);
+    EXPECT_EQ(table.CorrCount, 0);
 }
 
 TEST_F(CorrFile, TwoHundredPointsFitAndOneMoreIsASubscriptFault) {

@@ -90,6 +90,12 @@ TEST(FormatNum, ATextTooLargeForANumberCountsAsZero) {
     EXPECT_EQ(FormatNum("-1e999", 4, 2), "   0.00");
 }
 
+TEST(FormatNum, AMaskOfMoreThan65536PlacesGivesNoText) {
+    EXPECT_EQ(FormatNum(7, 65536, 0).size(), 65536U);
+    EXPECT_EQ(FormatNum(7, 65537, 0), "");
+    EXPECT_EQ(FormatNum(7, 1, 65537), "");
+}
+
 TEST(FormatNum, TheAppendingFormGivesTheSameText) {
     std::string line = "X";
     genSub::appendFormatNum(line, -7.2, 8, 4);
@@ -103,6 +109,8 @@ TEST(FormatText, FillsOrCutsToTheWidth) {
     EXPECT_EQ(FormatText("abcdefghijk", 10, Align::Left), "abcdefghij");
     EXPECT_EQ(FormatText("", 4, Align::Right), "    ");
     EXPECT_EQ(FormatText("abc", 0, Align::Left), "");
+    EXPECT_EQ(FormatText("abc", -1, Align::Left), "");
+    EXPECT_EQ(FormatText("abc", -1, Align::Right), "");
 }
 
 TEST(FormatText, ASixLetterHangulNameKeepsFiveLettersInTenColumns) {

@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <limits>
 #include <random>
 
 #include "common/fixed_width.h"
@@ -68,6 +69,17 @@ TEST(FormatNumReference, EveryBitPatternOfAFiniteNumberGivesTheSameText) {
         ++tried;
         expectSameText(value, {8, 4});
         expectSameText(value, {3, 0});
+    }
+}
+
+TEST(Decimal15, OfZeroAndOfWhatIsNoNumberHasNoDigits) {
+    for (const double value :
+         {0.0, -0.0, std::numeric_limits<double>::infinity(),
+          -std::numeric_limits<double>::infinity(), std::numeric_limits<double>::quiet_NaN()}) {
+        const Decimal15 read = decimal15(value);
+        EXPECT_EQ(read.digits, 0U) << value;
+        EXPECT_EQ(read.exponent, 0) << value;
+        EXPECT_FALSE(read.negative) << value;
     }
 }
 

@@ -58,6 +58,10 @@ TEST(Utf8, ACharacterBeyondSixteenBitsTakesFourBytes) {
     EXPECT_EQ(text, "\xF0\x9F\x98\x80");
     EXPECT_EQ(firstCharacter(text).code, U'\U0001F600');
     EXPECT_EQ(firstCharacter(text).length, 4U);
+    text.clear();
+    appendUtf8(U'\U00050000', text);
+    appendUtf8(U'\U0010FFFF', text);
+    EXPECT_EQ(text, "\xF1\x90\x80\x80\xF4\x8F\xBF\xBF");
 }
 
 TEST(PlatformDisk, AFileUsedAsAFolderIsAPathNotFound) {

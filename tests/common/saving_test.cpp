@@ -7,6 +7,7 @@
 
 #include "common/disk.h"
 #include "common/file_calls.h"
+#include "common/file_replacement.h"
 #include "support/faults.h"
 #include "support/temporary_folder.h"
 #include "support/unprivileged.h"
@@ -86,6 +87,38 @@ TEST(NewFile, IsForItsUserAloneUnlessItMayBeOpen) {
     umask(usual);
     EXPECT_EQ(statusOf(folder.file("private")).st_mode & 07777U, 0600U);
     EXPECT_EQ(statusOf(folder.file("open")).st_mode & 07777U, 0644U);
+}
+
+// A folder without the file, in which every other name is taken.
+struct EveryNameTaken final : FileCalls {
+    using Path = std::filesystem::path;
+    FileHandle createNew(const Path& /*path*/, bool /*open*/) override {
+        ++tried;
+        return -EEXIST;
+    }
+    FileHandle openThere(const Path& /*path*/) override { return -ENOENT; }
+    int state(FileHandle /*file*/, FileState& /*state*/) override { return -EBADF; }
+    int carryAttributes(FileHandle /*from*/, FileHandle /*to*/) override { return -EBADF; }
+    int readAll(FileHandle /*file*/, std::string& /*bytes*/) override { return -EBADF; }
+    int write(FileHandle /*file*/, std::string_view /*bytes*/) override { return -EBADF; }
+    int writeAt(FileHandle /*file*/, std::uint64_t /*place*/, std::string_view /*bytes*/) override {
+        return -EBADF;
+    }
+    int cut(FileHandle /*file*/, std::uint64_t /*size*/) override { return -EBADF; }
+    int reserve(FileHandle /*file*/, std::uint64_t /*size*/) override { return -EBADF; }
+    int settle(FileHandle /*file*/) override { return -EBADF; }
+    int settleFolder(const Path& /*folder*/) override { return 0; }
+    int close(FileHandle /*file*/) override { return -EBADF; }
+    int rename(const Path& /*from*/, const Path& /*to*/) override { return -ENOENT; }
+    int remove(const Path& /*path*/) override { return -ENOENT; }
+
+    int tried = 0;
+};
+
+TEST(NewFile, IsGivenUpAfterEightNamesThatWereTaken) {
+    EveryNameTaken calls;
+    EXPECT_NE(testing::faultOf([&] { replaceFile(calls, "/a/b", "new"); }), 0);
+    EXPECT_EQ(calls.tried, 8);
 }
 
 TEST(SystemFileCalls, ReadingAllTakesThePlaceOfWhatTheTextHeld) {

@@ -149,6 +149,12 @@ TEST_F(FindCorr, ADistanceBeyondADoubleIsAWeightTooLargeAndNotANearlyZeroOne) {
 TEST_F(FindCorr, AMeanThatOverflowsIsTooLarge) {
     add(37.1, 127, 1e305, 0, 1);
     EXPECT_EQ(failureAt(37, 127), NoCorrection::TooLarge);
+    known.clear();
+    add(37.1, 127, 0, 1e305, 1);
+    EXPECT_EQ(failureAt(37, 127), NoCorrection::TooLarge);
+    known.clear();
+    add(37.1, 127, 0, 0, 1e305);
+    EXPECT_EQ(failureAt(37, 127), NoCorrection::TooLarge);
 }
 
 TEST_F(FindCorr, ManyPositionsAtOnceGiveTheVeryNumbersOfEachByItself) {

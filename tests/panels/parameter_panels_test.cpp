@@ -289,6 +289,15 @@ TEST_F(ParameterPanel, SavingThatFailsLeavesTheFieldsBeforeTheBadOneChanged) {
     EXPECT_EQ(state.Cfg.dZ, -674.11);
 }
 
+TEST_F(ParameterPanel, ShowsEachStoredZoneByItsOption) {
+    std::int16_t zone = 0;
+    for (const char* name : {"optWest", "optCenter", "optEast", "optEastSea", "optJeju"}) {
+        state.Cfg.Zone = TmZone{++zone};
+        load();
+        EXPECT_TRUE(on(name)) << name;
+    }
+}
+
 TEST_F(ParameterPanel, ShowsTheStoredOriginForAUserZoneOnly) {
     state.Cfg.Phi0 = 37.5;
     state.Cfg.Lam0 = 128.25;

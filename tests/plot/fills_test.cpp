@@ -1,5 +1,7 @@
 #include <array>
 #include <cmath>
+#include <cstdio>
+#include <vector>
 
 #include "plot_fixture.h"
 
@@ -157,6 +159,22 @@ TEST_F(PlotFills, StrokesGetWiderTowardTheApex) {
                              "DrawWidth = 2.0000", "DrawWidth = 3.0000", "DrawWidth = 4.0000",
                              "DrawWidth = 5.0000", "DrawWidth = 1.0000"}));
     EXPECT_EQ(countOf(lines, "Line"), 3 + 5);
+}
+
+TEST_F(PlotFills, EachStrokeLiesBehindTheOneBefore) {
+    useScreen();
+    object.pFillTri(10, 10, 30, 10.001, 20, 12);
+    std::vector<double> heights;
+    for (const auto& line : drawn()) {
+        double x1 = 0;
+        double y1 = 0;
+        if (std::sscanf(line.c_str(), "Line %lf %lf", &x1, &y1) == 2) heights.push_back(y1);
+    }
+    ASSERT_EQ(heights.size(), 3U + 5U);
+    // The middles of steps of 11, 11, 22, 33 and 44 twips above the first side.
+    const std::array middles{5.5, 16.5, 33.0, 60.5, 99.0};
+    for (std::size_t i = 0; i < middles.size(); ++i)
+        EXPECT_NEAR(heights[i + 3], 10 * 56.7 + middles[i], 0.1) << i;
 }
 
 TEST_F(PlotFills, TheOutlineIsOnePixelWideFromItsFirstSideOn) {

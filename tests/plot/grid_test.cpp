@@ -166,6 +166,17 @@ TEST_F(PlotGrid, StepsThatWouldNeverEndStopAtTheLimit) {
     EXPECT_EQ(countOf(calls, "DrawWidth"), 1) << "all of them thick, the last one too";
 }
 
+TEST_F(PlotGrid, TheLastStrokeOfTheLimitMayBeginADecade) {
+    useScreen();
+    // 1 + 359 majors and 9 minors a decade: 271 decades and one line more are the limit.
+    object.pgrid(0, 1e-300, 100, 1e-20, 1e-299 / 360, 1e-300, 0, 0, 100, 10, 5, 1, 2, 0, 0);
+    const auto lines = readLines();
+    ASSERT_EQ(lines.size(), static_cast<std::size_t>(clsplot1::kMostStrokes));
+    EXPECT_TRUE(lines.back().upright);
+    EXPECT_TRUE(lines.back().major);
+    EXPECT_FALSE(lines[lines.size() - 2].major);
+}
+
 TEST_F(PlotGrid, NegativeStepDrawsNoLinesOfItsKind) {
     useScreen();
     object.pgrid(0, 0, 100, 10, 10, -1, 0, 0, 100, 10, 10, -1, 0, 0, 0);

@@ -50,8 +50,14 @@ TEST_F(PlotDevice, LogarithmicAxisToANegativeValueIsRefused) {
     EXPECT_EQ(messages.texts(), Lines{kWindowMessage});
 }
 
+TEST_F(PlotDevice, ScaleIsMillimetresOfTheFrameAUserUnit) {
+    object.pwindow(20, 1, 120, 3, 30, 5, 130, 10, 0);
+    EXPECT_EQ(object.Curxs(), 50);
+    EXPECT_EQ(object.Curys(), 20);
+}
+
 TEST_F(PlotDevice, LogarithmicAxisCountsMillimetresPerPowerOfTen) {
-    object.pwindow(0, 1, 90, 1000, 0, 10, 60, 1000, 3);
+    object.pwindow(10, 1, 100, 1000, 20, 10, 80, 1000, 3);
     EXPECT_TRUE(messages.shown.empty());
     EXPECT_NEAR(object.Curxs(), 30, 1e-7);
     EXPECT_NEAR(object.Curys(), 30, 1e-7);

@@ -251,6 +251,8 @@ TEST(ImportedLines, WarnWhereTheFileStatesAnotherSystem) {
     EXPECT_TRUE(warnsOf(intoEmptyText(list, choice), "경위도인데 직교좌표를 골랐습니다"));
     choice.system = System::User;
     EXPECT_TRUE(warnsOf(intoEmptyText(list, choice), "타원체가 다릅니다"));
+    list.system->stated = false;
+    EXPECT_TRUE(intoEmptyText(list, choice).warnings.empty());
 }
 
 }  // namespace

@@ -65,6 +65,18 @@ TEST_F(OnDisk, NamesOfAnyBytesComeBack) {
     }
 }
 
+TEST_F(OnDisk, OfANameThatIsNoTextOnlyWhatSteersIsWrittenInDigits) {
+    UnsavedText text = kText;
+    text.path = "/a/!~ ,\"%\x7F\n\xFF";
+    JournalFolder running(folder.path());
+    ASSERT_TRUE(running.keep(Shelf::OnView, text));
+    std::string held;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder.path()))
+        if (entry.is_regular_file())
+            held += folder.bytes(entry.path().lexically_relative(folder.path()));
+    EXPECT_NE(held.find("file:///a/!~%20%2C%22%25%7F%0A%FF"), std::string::npos) << held;
+}
+
 TEST_F(OnDisk, ATextOfARunningProgramIsNotGivenAway) {
     JournalFolder running(folder.path());
     ASSERT_TRUE(running.keep(Shelf::OnView, kText));

@@ -119,6 +119,17 @@ TEST_F(PlotSettings, ScaleThatCannotBeShownDoesNotGoRoundForEver) {
     EXPECT_EQ(disk.bytes(kPlotCfg), kFirst);
 }
 
+TEST_F(PlotSettings, ScaleOfAnyKindThatCannotBeShownIsReplaced) {
+    const std::string good = " 36  127  1  1 \r\n";
+    const std::string bad = " 40000  127  1  1 \r\n";
+    for (const std::string& angles : {bad + good, good + bad}) {
+        disk.putText(kPlotCfg, " 3 \r\n 0 \r\n 7 \r\n" + angles + " 5  6  7  8 \r\n");
+        Program& kelvo = start();
+        EXPECT_EQ(kelvo.plotCfg().PlotFontSize, 8.0F);
+        EXPECT_EQ(disk.bytes(kPlotCfg), kFirst);
+    }
+}
+
 TEST_F(PlotSettings, FileThatCanNeverBeReadEndsInItsFault) {
     disk.before = [](const std::string& operation, const std::string& path) {
         if (operation == "openForReading" && path == kPlotCfg) raise(Fault::PermissionDenied);

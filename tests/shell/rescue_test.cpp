@@ -50,6 +50,13 @@ TEST_F(Rescue, NeverTakesTheNameOfAnother) {
     EXPECT_EQ(disk.text("/app/rescue-20040607-093000-1.txt"), "one");
 }
 
+TEST_F(Rescue, GoesElsewhereAfterAHundredOfOneSecond) {
+    for (int i = 1; i <= 99; ++i)
+        disk.putText("/app/rescue-20040607-093000-" + std::to_string(i) + ".txt", "another");
+    EXPECT_EQ(rescue("the hundredth"), "/app/rescue-20040607-093000-100.txt");
+    EXPECT_EQ(rescue("one more"), "/job/rescue-20040607-093000-1.txt");
+}
+
 TEST_F(Rescue, GoesElsewhereWhereADiskIsFullOrGone) {
     fillUp("/app");
     EXPECT_EQ(rescue("one"), "/job/rescue-20040607-093000-1.txt");

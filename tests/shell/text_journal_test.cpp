@@ -172,6 +172,15 @@ TEST_F(Journal, BringingBackPutsTheUnsavedTextOnViewInItsPlace) {
     EXPECT_EQ(program->text("Richtxt"), "two");
 }
 
+TEST_F(Journal, ATextThatIsBroughtBackOverTheResultHasNoPicture) {
+    program->type("Richtxt", "one");
+    program->click("cmdClose");
+    program->click("mnuBatchGo");
+    ASSERT_TRUE(program->at("cmdShow").enabled());
+    window().bringBackText();
+    EXPECT_FALSE(program->at("cmdShow").enabled());
+}
+
 TEST_F(Journal, AClosedTextIsNotKeptAsOneOnView) {
     program->type("Richtxt", "one");
     program->click("cmdClose");

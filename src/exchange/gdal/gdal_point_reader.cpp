@@ -115,7 +115,7 @@ private:
             const Feature feature(layer->GetNextFeature());
             if (errors.failed()) failDamaged(errors.first(), path_);
             if (feature) {
-                take(*feature, point);
+                point = pointFrom(*feature);
                 return true;
             }
             ++at_;
@@ -123,14 +123,14 @@ private:
         return false;
     }
 
-    void take(const OGRFeature& feature, PointOfFile& point) const {
-        point.name = nameOf(feature, nameFieldOf(*feature.GetDefnRef()));
-        point.place.reset();
+    [[nodiscard]] PointOfFile pointFrom(const OGRFeature& feature) const {
+        PointOfFile point{.name = nameOf(feature, nameFieldOf(*feature.GetDefnRef())), .place = {}};
         const OGRGeometry* const geometry = feature.GetGeometryRef();
-        if (geometry == nullptr || geometry->IsEmpty()) return;
+        if (geometry == nullptr || geometry->IsEmpty()) return point;
         const OGRPoint* const place = pointOf(*geometry);
         if (place == nullptr) failOtherShape(geometry->getGeometryName(), path_);
         point.place = {.x = place->getX(), .y = place->getY(), .height = place->getZ()};
+        return point;
     }
 
     std::string path_;
