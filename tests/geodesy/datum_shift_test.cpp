@@ -305,6 +305,10 @@ TEST(XYZToGeo, ADistanceBeyondADoubleFails) {
     EXPECT_EQ(found.value.h, 0);
 }
 
+TEST(XYZToGeo, AnEllipsoidBeyondADoubleFails) {
+    EXPECT_TRUE(KelvoSub::XYZToGeo({1e7, 1e7, 1e6}, Ellipsoid{1e155, 298}).failed);
+}
+
 TEST(DatumShift, AnOverflowFaultsWithoutAGuard) {
     const DatumShift shift = shiftOf(1.7e308, 0, 0, 0, 0, 0, 0, kMolodensky);
     EXPECT_EQ(faultOf([&] { return KelvoSub::MolodForward(shift, {1.7e308, 2, 3}); }), 6);

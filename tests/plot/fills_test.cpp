@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdio>
@@ -9,6 +10,8 @@ namespace kelvo::testing {
 namespace {
 
 using PlotFills = PlotTest;
+
+constexpr double kPi = 3.14159265358979;
 
 TEST_F(PlotFills, ModeSixChangesNothingAndItsNeighboursSetTheirNumbers) {
     useScreen();
@@ -266,6 +269,30 @@ TEST_F(PlotFills, EllipseIsAFanOf24Triangles) {
                          ? 1
                          : 0;
     EXPECT_EQ(triangles, 24);
+}
+
+TEST_F(PlotFills, EllipseIsTurnedByItsAngle) {
+    useScreen();
+    object.pFillEllipse(50, 60, 10, 15, 0.5, 255);
+    std::vector<std::array<double, 2>> begins;
+    bool outline = false;
+    for (const auto& line : drawn()) {
+        std::array<double, 2> at{};
+        const bool isLine = std::sscanf(line.c_str(), "Line %lf %lf", &at[0], &at[1]) == 2;
+        if (isLine && !outline) begins.push_back(at);  // of an outline, or of a stroke
+        outline = isLine;
+    }
+    const double turn = 15 * kPi / 180;
+    for (int i = 0; i < 24; ++i) {
+        const double along = 10 * std::cos(i * kPi / 12);
+        const double across = 5 * std::sin(i * kPi / 12);
+        const double x = 50 + along * std::cos(turn) + across * std::sin(turn);
+        const double y = 60 + across * std::cos(turn) - along * std::sin(turn);
+        const auto isThere = [&](const std::array<double, 2>& at) {
+            return std::hypot(at[0] - 56.7 * x, at[1] - 56.7 * y) < 0.1;
+        };
+        EXPECT_TRUE(std::any_of(begins.begin(), begins.end(), isThere)) << i;
+    }
 }
 
 TEST_F(PlotFills, EllipseOnAZeroValueBreaksItsFan) {

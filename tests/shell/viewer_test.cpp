@@ -37,6 +37,14 @@ TEST_F(Viewer, ShowsAFileWithItsPath) {
     EXPECT_EQ(program->text("Richtxt"), disk.text("/app/data/a.dat"));
 }
 
+TEST_F(Viewer, ShowsAnyFileThatTheWindowIsHanded) {
+    disk.addFolder("/elsewhere");
+    disk.putText("/elsewhere/b.out", "result\r\n");
+    program->window.OpenRichText("/elsewhere/b.out");
+    EXPECT_EQ(program->caption("frmeFile"), "/elsewhere/b.out");
+    EXPECT_EQ(program->text("Richtxt"), disk.text("/elsewhere/b.out"));
+}
+
 TEST_F(Viewer, FileThatCannotBeLoadedIsAFaultAfterThePanelsChanged) {
     disk.files.erase("/app/data/a.dat");
     EXPECT_EQ(faultOf([&] { program->click("mnuBatchEdit"); }), 53);
