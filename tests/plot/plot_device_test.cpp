@@ -146,6 +146,14 @@ TEST_F(PlotDevice, MillimetreMoveInAWindowThatRunsLeftGoesTowardGrowingX) {
     EXPECT_NEAR(object.LastX(), 3.5, 1e-6);
 }
 
+TEST_F(PlotDevice, MillimetreMoveInAWindowOfLessThanAMillimetreAUnitGoesTowardGrowingValues) {
+    useScreen();
+    object.pwindow(0, 0, 100, 200, 0, 0, 100, 200, 0);
+    object.pmovemmto(3, 5, 4, 5);
+    EXPECT_NEAR(object.LastX(), 13, 1e-6);
+    EXPECT_NEAR(object.LastY(), 14, 1e-6);
+}
+
 TEST_F(PlotDevice, ColourOnANewObjectIsBlackWhateverWasAsked) {
     useScreen();
     object.ChangeColor(255, 2);

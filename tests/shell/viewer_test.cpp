@@ -78,6 +78,14 @@ TEST_F(Viewer, RunShowsTheNumbersAtOnceAndThePlotAClickAway) {
     EXPECT_TRUE(program->at("cmdShow").enabled());
 }
 
+TEST_F(Viewer, AResultThatIsGoneLeavesTheButtonForTheNumbers) {
+    program->click("mnuBatchGo");
+    program->click("cmdShow");
+    disk.files.erase("/app/data/a.out");
+    EXPECT_EQ(faultOf([&] { program->click("cmdShow"); }), 53);
+    EXPECT_EQ(program->caption("cmdShow"), "수치보기");
+}
+
 TEST_F(Viewer, AnyOtherFileDisablesTheWayToThePlot) {
     program->click("mnuBatchGo");
     program->click("mnuBatchEdit");
