@@ -80,15 +80,23 @@ def token_changes(line):
 # A statement on one line that is no declaration: an assignment or a call.
 STATEMENT = re.compile(
     r"^\s+(?:(?P<target>[A-Za-z_][\w.\[\]()>-]*?) *[-+*/]?= |(?!return|throw)[A-Za-z_][\w.:>-]*\()[^{]*;\s*(?://.*)?$")
+# A call of a list, which touches nothing but it.
+OF_A_LIST = re.compile(r"^\s+(?P<target>[A-Za-z_][\w.>-]*?)(?:\.|->)(?:push_back|emplace_back|clear|assign|resize)\(")
 WORD = re.compile(r"[A-Za-z_]\w*")
+
+
+def written_by(statement):
+    """The name of what a statement changes; None where that can't be seen."""
+    target = statement["target"] or (OF_A_LIST.match(statement.string) or {"target": None})["target"]
+    return target and WORD.findall(target.split("[")[0])[-1]
 
 
 def order_matters(first, second):
     """Whether one of two statements reads or writes what the other one writes."""
-    names = [match["target"] and WORD.findall(match["target"])[-1] for match in (first, second)]
+    names = [written_by(statement) for statement in (first, second)]
     if None in names:
         return True
-    words = [set(WORD.findall(match.string)) for match in (first, second)]
+    words = [set(WORD.findall(statement.string)) for statement in (first, second)]
     return names[0] in words[1] or names[1] in words[0]
 
 

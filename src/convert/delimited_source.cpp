@@ -126,7 +126,7 @@ void DelimitedSource::skipEmptyLines() {
 
 void DelimitedSource::takeFirstRow(const ColumnWishes& wishes) {
     places_ = numberedPlaces(wishes);
-    while (buffer_.size() < 3 && refill()) {
+    while (buffer_.size() < kUtf8Mark.size() && refill()) {
     }
     next_ = buffer_.size() - withoutMark(buffer_).size();
     taken_ = next_;

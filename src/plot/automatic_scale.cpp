@@ -1,6 +1,5 @@
 #include "plot/automatic_scale.h"
 
-#include <array>
 #include <cmath>
 #include <span>
 
@@ -61,20 +60,14 @@ void Extents::add(double N, double E) {
 }
 
 float angleInterval(double seconds) {
-    static constexpr std::array<Row, 7> kRows{
-        {{5, 1}, {10, 2}, {20, 5}, {60, 10}, {180, 30}, {600, 120}, {1800, 300}}};
+    static constexpr Row kRows[] = {{5, 1},    {10, 2},    {20, 5},    {60, 10},
+                                    {180, 30}, {600, 120}, {1800, 300}};
     return intervalOf(seconds, kRows, 3600);
 }
 
 float gridInterval(double metres) {
-    static constexpr std::array<Row, 8> kRows{{{30, 5},
-                                               {60, 20},
-                                               {300, 50},
-                                               {600, 200},
-                                               {3000, 500},
-                                               {6000, 2000},
-                                               {30000, 5000},
-                                               {60000, 20000}}};
+    static constexpr Row kRows[] = {{30, 5},     {60, 20},     {300, 50},     {600, 200},
+                                    {3000, 500}, {6000, 2000}, {30000, 5000}, {60000, 20000}};
     return intervalOf(metres, kRows, 50000);
 }
 

@@ -276,6 +276,13 @@ TEST_F(StreamedFiles, OfKmlPassOverWhatIsNoPlacemark) {
               "a");
 }
 
+TEST_F(StreamedFiles, OfGpxTakeTheTextOfTheElementItself) {
+    const Found found = gpx(std::string("<wpt ") + kAt +
+                            "><name>a<i>x</i>b</name>no<ele>30<i>9</i>.5</ele>1</wpt>");
+    ASSERT_EQ(found.names(), "ab") << found.fault;
+    EXPECT_EQ(found.points[0].place->height, 30.5);
+}
+
 TEST_F(StreamedFiles, OfGpxGiveWayPointsOrElseARouteOrElseATrack) {
     const std::string way = wayPoint("w", kAt);
     const std::string route = "<rte><name>r</name>" + wayPoint("r1", kAt, "rtept") +

@@ -174,11 +174,13 @@ TEST_F(PlotText, StyleIsOnForAFlagThatBeginsWithT) {
 
 TEST_F(PlotText, StylesGoByNumberAndZeroSwitchesAllOff) {
     useScreen();
-    object.ChangeFontStyle(2, "T");
-    object.ChangeFontStyle(3, "T");
-    object.ChangeFontStyle(4, "T");
+    int number = 2;
+    for (const char* style : {"FontItalic = 1", "FontStrikethru = 1", "FontUnderline = 1"}) {
+        object.ChangeFontStyle(number++, "T");
+        EXPECT_EQ(drawn(), Lines{style});
+    }
     object.ChangeFontStyle(5, "T");
-    EXPECT_EQ(drawn(), (Lines{"FontItalic = 1", "FontStrikethru = 1", "FontUnderline = 1"}));
+    EXPECT_EQ(drawn(), Lines{});
     object.ChangeFontStyle(0, "T");
     EXPECT_EQ(drawn(),
               (Lines{"FontBold = 0", "FontItalic = 0", "FontStrikethru = 0", "FontUnderline = 0"}));

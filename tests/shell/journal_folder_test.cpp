@@ -33,6 +33,13 @@ class OnDisk : public ::testing::Test {
 protected:
     OnDisk() { fs::permissions(folder.path(), fs::perms::all); }
     [[nodiscard]] bool isEmpty() const { return fs::is_empty(folder.path()); }
+    // What stands in all files of the journal.
+    [[nodiscard]] std::string held() const {
+        std::string bytes;
+        for (const auto& entry : fs::recursive_directory_iterator(folder.path()))
+            if (entry.is_regular_file()) bytes += TemporaryFolder::readBytes(entry.path());
+        return bytes;
+    }
 
     const TemporaryFolder folder;
 };
@@ -65,16 +72,20 @@ TEST_F(OnDisk, NamesOfAnyBytesComeBack) {
     }
 }
 
+TEST_F(OnDisk, ANameThatIsATextStandsAsItIs) {
+    UnsavedText text = kText;
+    text.path = "/작업/한 점.dat";
+    JournalFolder running(folder.path());
+    ASSERT_TRUE(running.keep(Shelf::OnView, text));
+    EXPECT_NE(held().find(": /작업/한 점.dat\r\n"), std::string::npos) << held();
+}
+
 TEST_F(OnDisk, OfANameThatIsNoTextOnlyWhatSteersIsWrittenInDigits) {
     UnsavedText text = kText;
     text.path = "/a/!~ ,\"%\x7F\n\xFF";
     JournalFolder running(folder.path());
     ASSERT_TRUE(running.keep(Shelf::OnView, text));
-    std::string held;
-    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder.path()))
-        if (entry.is_regular_file())
-            held += folder.bytes(entry.path().lexically_relative(folder.path()));
-    EXPECT_NE(held.find("file:///a/!~%20%2C%22%25%7F%0A%FF"), std::string::npos) << held;
+    EXPECT_NE(held().find("file:///a/!~%20%2C%22%25%7F%0A%FF\r\n"), std::string::npos) << held();
 }
 
 TEST_F(OnDisk, ATextOfARunningProgramIsNotGivenAway) {
