@@ -291,6 +291,14 @@ def outer_place():
     return x - left, y - top, width + left + right, height + top + bottom
 
 
+def window_manager():
+    """There before any window: one that is shown while it takes over the display may be lost."""
+    manager = subprocess.Popen(["openbox"])
+    wait_for(lambda: "window id" in subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], capture_output=True,
+                                                   text=True, check=False).stdout, "the window manager")
+    return manager
+
+
 def look_at_titles(folder):
     data = folder / "data" / "test.DAT"
     control("frmKelvo")
@@ -396,15 +404,13 @@ def main():
             print("done")
             return
         environment = dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
+        manager = window_manager() if session == "titles" else None
         for _ in range(4):  # on a busy machine the display takes its time to come up
             program = subprocess.Popen([sys.argv[1], "--app-folder", str(folder)],
                                        env=environment)
             time.sleep(3)
             if program.poll() is None:
                 break
-        manager = None
-        if session == "titles":
-            manager = subprocess.Popen(["openbox"])
         try:
             if session == "fault":
                 end_with_a_fault(folder, program)
