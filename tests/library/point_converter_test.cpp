@@ -47,6 +47,18 @@ TEST(PointConverter, WhatFailsInTheLastTableOnlyIsReported) {
     EXPECT_FALSE(status.fault) << converter.text(status);
 }
 
+// Its misses are what the datum shift leaves, so that on it the correction leaves nothing.
+TEST(PointConverter, AKnownPointComesOutAsItIsKnown) {
+    const auto converter =
+        converterOf({.parameters = "7 para\n100 -400 -600\n1 -2 -1\n-5\nCORRECTION\n",
+                     .knownPoints = "K 37.3728 126.3234 67 37.3518 126.3241 45 1\n*\n\n"});
+    const Done done = convert(converter, System::Wgs, {{37.3728, 126.3234, 67}}, AngleForm::Dms);
+    ASSERT_TRUE(done.statuses.empty());
+    EXPECT_NEAR(done.points[0].UserPhi, 37 + 35.0 / 60 + 18.0 / 3600, 1e-9);
+    EXPECT_NEAR(done.points[0].UserLam, 126 + 32.0 / 60 + 41.0 / 3600, 1e-9);
+    EXPECT_NEAR(done.points[0].UserH, 45, 1e-4);
+}
+
 TEST(PointConverter, APointWithoutItsCorrectionIsReported) {
     Definition weightless =
         converterOf({.parameters = "CORRECTION\n",
