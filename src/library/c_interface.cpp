@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 #include "common/utf8.h"
 #include "kelvo/kelvo.h"
@@ -33,8 +34,11 @@ char* textForC(std::string_view text) {
     return copy;
 }
 
-std::optional<System> systemOf(kelvo_system system) {
-    switch (system) {
+// C hands over any number; as an enumeration of C++ one that is no system must not even be read.
+std::optional<System> systemOf(const kelvo_system& system) {
+    std::underlying_type_t<kelvo_system> number{};
+    std::memcpy(&number, &system, sizeof number);
+    switch (number) {
         case KELVO_WGS:
             return System::Wgs;
         case KELVO_USER:
