@@ -33,8 +33,12 @@ class OnDisk : public ::testing::Test {
 protected:
     OnDisk() { fs::permissions(folder.path(), fs::perms::all); }
     [[nodiscard]] bool isEmpty() const { return fs::is_empty(folder.path()); }
-    // What stands in all files of the journal.
-    [[nodiscard]] std::string held() const {
+    // What stands in all files of the journal while it keeps a text of this path.
+    [[nodiscard]] std::string heldWith(const std::string& path) const {
+        UnsavedText text = kText;
+        text.path = path;
+        JournalFolder running(folder.path());
+        EXPECT_TRUE(running.keep(Shelf::OnView, text));
         std::string bytes;
         for (const auto& entry : fs::recursive_directory_iterator(folder.path()))
             if (entry.is_regular_file()) bytes += TemporaryFolder::readBytes(entry.path());
@@ -73,19 +77,13 @@ TEST_F(OnDisk, NamesOfAnyBytesComeBack) {
 }
 
 TEST_F(OnDisk, ANameThatIsATextStandsAsItIs) {
-    UnsavedText text = kText;
-    text.path = "/작업/한 점.dat";
-    JournalFolder running(folder.path());
-    ASSERT_TRUE(running.keep(Shelf::OnView, text));
-    EXPECT_NE(held().find(": /작업/한 점.dat\r\n"), std::string::npos) << held();
+    const std::string held = heldWith("/작업/한 점.dat");
+    EXPECT_NE(held.find(": /작업/한 점.dat\r\n"), std::string::npos) << held;
 }
 
 TEST_F(OnDisk, OfANameThatIsNoTextOnlyWhatSteersIsWrittenInDigits) {
-    UnsavedText text = kText;
-    text.path = "/a/!~ ,\"%\x7F\n\xFF";
-    JournalFolder running(folder.path());
-    ASSERT_TRUE(running.keep(Shelf::OnView, text));
-    EXPECT_NE(held().find("file:///a/!~%20%2C%22%25%7F%0A%FF\r\n"), std::string::npos) << held();
+    const std::string held = heldWith("/a/!~ ,\"%\x7F\n\xFF");
+    EXPECT_NE(held.find("file:///a/!~%20%2C%22%25%7F%0A%FF\r\n"), std::string::npos) << held;
 }
 
 TEST_F(OnDisk, ATextOfARunningProgramIsNotGivenAway) {

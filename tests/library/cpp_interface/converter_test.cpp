@@ -56,7 +56,7 @@ TEST(Converter, ABadDefinitionIsThrownWithItsReason) {
 
 TEST(Converter, TakesKnownPointsAsATextOfTheirOwn) {
     const std::string known = "k 37.3000 127.1500 80 37.3010 127.1510 80 1\n*\n*\n";
-    const Converter plain({.parameters = "no corr\n"});
+    const Converter plain;
     const Converter corrected({.parameters = "CORRECTION\n", .knownPoints = known});
     const Point moved = corrected.convert(System::Wgs, kPlace);
     EXPECT_EQ(moved.status, 0) << corrected.statusText(moved.status);
@@ -76,11 +76,12 @@ TEST(Converter, ACopyOutlivesTheOneItWasMadeOf) {
     Converter copy;
     Point before{};
     {
-        const Converter made({.parameters = "zone 1\n"});
+        const Converter made({.parameters = "add 0\n"});
         before = made.convert(System::Wgs, kPlace);
         copy = made;
     }
     EXPECT_EQ(copy.convert(System::Wgs, kPlace).tm_y, before.tm_y);
+    EXPECT_NE(Converter().convert(System::Wgs, kPlace).tm_y, before.tm_y);
 }
 
 }  // namespace
